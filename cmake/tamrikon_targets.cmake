@@ -1,0 +1,38 @@
+# Flags that all targets of the project share.
+add_library(tamrikon_flags INTERFACE)
+target_compile_options(tamrikon_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+if(TAMRIKON_WERROR)
+  target_compile_options(tamrikon_flags INTERFACE -Werror)
+endif()
+if(TAMRIKON_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(tamrikon_flags INTERFACE ${sanitizers})
+  target_link_options(tamrikon_flags INTERFACE ${sanitizers})
+endif()
+
+# tamrikon_library(NAME SOURCES ... USES ...): the library of one folder of src. USES names the
+# folders that it may include, so that the link list shows the arrows.
+function(tamrikon_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
+  add_library(tamrikon_${name} STATIC ${ARG_SOURCES})
+  target_include_directories(tamrikon_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(tamrikon_${name} PRIVATE tamrikon_flags)
+  foreach(used IN LISTS ARG_USES)
+    target_link_libraries(tamrikon_${name} PUBLIC tamrikon_${used})
+  endforeach()
+endfunction()
+
+# tamrikon_test(FOLDER LABEL SOURCES ... USES ...): the test program of one folder of tests.
+function(tamrikon_test folder label)
+  cmake_parse_arguments(ARG "" "" "SOURCES;USES" ${ARGN})
+  add_executable(${folder}_test ${ARG_SOURCES})
+  target_link_libraries(${folder}_test PRIVATE tamrikon_flags GTest::gtest_main)
+  target_include_directories(${folder}_test PRIVATE ${PROJECT_SOURCE_DIR}/src
+                             ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${folder}_test PRIVATE
+                             TAMRIKON_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+  foreach(used IN LISTS ARG_USES)
+    target_link_libraries(${folder}_test PRIVATE tamrikon_${used})
+  endforeach()
+  gtest_discover_tests(${folder}_test PROPERTIES LABELS ${label})
+endfunction()

@@ -1,0 +1,53 @@
+// An ordered list of values, numbered from 1, with optional text keys that ignore case.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "base/case_folding.h"
+
+namespace tamrikon {
+
+template <typename T>
+class KeyedList {
+ public:
+  void add(T value) { values_.push_back(std::move(value)); }
+
+  /// Adds `value` under `key`. False, and no change, if the key is there already.
+  bool add(T value, std::string_view key) {
+    if (contains(key)) return false;
+    positions_.emplace(std::string(key), values_.size());
+    values_.push_back(std::move(value));
+    return true;
+  }
+
+  bool contains(std::string_view key) const { return positions_.find(key) != positions_.end(); }
+
+  /// The value under `key`, or null.
+  const T* find(std::string_view key) const {
+    const auto found = positions_.find(key);
+    return found == positions_.end() ? nullptr : &values_[found->second];
+  }
+  T* find(std::string_view key) {
+    return const_cast<T*>(static_cast<const KeyedList*>(this)->find(key));
+  }
+
+  /// The value number `n`, from 1 to size().
+  const T& item(std::size_t n) const { return values_[n - 1]; }
+
+  std::size_t size() const { return values_.size(); }
+  bool empty() const { return values_.empty(); }
+  auto begin() const { return values_.begin(); }
+  auto end() const { return values_.end(); }
+
+ private:
+  std::vector<T> values_;
+  std::unordered_map<std::string, std::size_t, CaseInsensitiveHash, CaseInsensitiveEqual>
+      positions_;
+};
+
+}  // namespace tamrikon

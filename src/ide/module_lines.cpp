@@ -1,0 +1,64 @@
+#include "ide/module_lines.h"
+
+#include "base/text.h"
+#include "base/vb_text.h"
+
+namespace tamrikon {
+
+ModuleLines::ModuleLines(const CodeModule& module) {
+  const int count = module.CountOfLines();
+  if (count == 0) return;
+  text_ = module.Lines(1, count);
+  std::string_view rest = text_;
+  lines_.reserve(static_cast<std::size_t>(count));
+  while (this->count() < count) {
+    std::string_view line = cutField(rest, '\n');
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    lines_.push_back(line);
+  }
+  bool continues = false;
+  for (int number = 1; number <= count; ++number) {
+    if (!continues) statementStarts_.push_back(number);
+    continues = isContinued(line(number));
+  }
+}
+
+std::string_view ModuleLines::line(int number) const {
+  if (number < 1 || number > count()) return {};
+  return lines_[static_cast<std::size_t>(number - 1)];
+}
+
+int ModuleLines::toPhysicalLine(int logicalLine) const {
+  if (logicalLine < 1) return logicalLine;
+  const int statements = static_cast<int>(statementStarts_.size());
+  if (logicalLine <= statements) return statementStarts_[static_cast<std::size_t>(logicalLine - 1)];
+  return logicalLine + (count() - statements);
+}
+
+int ModuleLines::statementStartLine(int line) const {
+  while (line > 1 && isContinued(this->line(line - 1))) --line;
+  return line;
+}
+
+std::string ModuleLines::getDeclaration(int line) const {
+  std::string result;
+  for (int number = statementStartLine(line); number <= count(); ++number) {
+    std::string_view text = this->line(number);
+    const bool continues = isContinued(text);
+    if (continues) text.remove_suffix(1);
+    result += trimLeading(text);
+    if (!continues) break;
+  }
+  return result;
+}
+
+std::string ModuleLines::getLinesText(int firstLine, int lastLine) const {
+  std::string result;
+  for (int number = firstLine; number <= lastLine; ++number) {
+    if (!result.empty()) result += '\r';
+    result += line(number);
+  }
+  return result;
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,43 @@
+// A snapshot of a module's lines, read in one call, and the line helpers that work on it. Whoever
+// edits the module makes a new one.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ide/ide.h"
+
+namespace tamrikon {
+
+/// Lines count from 1; a line number outside the module gives an empty line.
+class ModuleLines {
+ public:
+  explicit ModuleLines(const CodeModule& module);
+  ModuleLines(const ModuleLines&) = delete;
+  ModuleLines& operator=(const ModuleLines&) = delete;
+
+  int count() const { return static_cast<int>(lines_.size()); }
+  std::string_view line(int number) const;
+
+  /// The first line of the statement that a logical line stands for: logical lines count a
+  /// statement with its continuation lines as one.
+  int toPhysicalLine(int logicalLine) const;
+
+  /// The first line of the statement that `line` belongs to.
+  int statementStartLine(int line) const;
+
+  /// The statement that `line` belongs to, on one line: leading blanks and the underscores at line
+  /// ends are cut, the blank before an underscore stays.
+  std::string getDeclaration(int line) const;
+
+  /// The lines joined by CR, with none behind the last. Empty lines at the start leave no trace.
+  std::string getLinesText(int firstLine, int lastLine) const;
+
+ private:
+  std::string text_;
+  std::vector<std::string_view> lines_;  // views into text_
+  std::vector<int> statementStarts_;     // by logical line - 1
+};
+
+}  // namespace tamrikon

@@ -1,0 +1,52 @@
+// Files as whole byte sequences. Paths may have either separator.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_error.h"
+
+namespace tamrikon {
+
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  /// Reads the whole file. On failure `bytes` is empty.
+  virtual FileError read(const std::string& path, std::string& bytes) = 0;
+
+  /// Replaces or creates the file. After a failure the file may hold a part of `bytes`.
+  virtual FileError write(const std::string& path, std::string_view bytes) = 0;
+
+  /// Adds `bytes` at the end of the file, which is created if it isn't there. A failure leaves the
+  /// file at its old length.
+  virtual FileError append(const std::string& path, std::string_view bytes) = 0;
+
+  /// Replaces the file by a new one, written beside it, flushed and renamed over it, with the old
+  /// one's permissions: a crash leaves the old or the new text. After a failure the old file is
+  /// untouched. A symbolic link stays one: the file that it names is replaced.
+  virtual FileError replaceAtomically(const std::string& path, std::string_view bytes) = 0;
+
+  virtual FileError remove(const std::string& path) = 0;
+
+  /// Creates the folder; its parent must be there. A folder that exists is a failure.
+  virtual FileError createFolder(const std::string& path) = 0;
+
+  /// Creates the folder and its missing parents. A folder that exists is a success.
+  virtual FileError createFolders(const std::string& path) = 0;
+
+  /// Whether a file (not a folder) of that name is there.
+  virtual bool isFile(const std::string& path) = 0;
+
+  /// The names in a folder, in no particular order; empty if it can't be read.
+  virtual std::vector<std::string> list(const std::string& folder) = 0;
+
+  /// `path` made absolute against the current folder, "." and ".." resolved textually.
+  virtual std::string absolute(const std::string& path) = 0;
+};
+
+/// The files of the machine. It has no state of its own.
+FileSystem& nativeFileSystem();
+
+}  // namespace tamrikon

@@ -1,0 +1,239 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "base/paths.h"
+#include "platform/file_system.h"
+
+namespace tamrikon {
+namespace {
+
+FileError errorOf(int number) {
+  switch (number) {
+    case 0: return FileError::none;
+    case ENOENT: return FileError::fileNotFound;
+    case ENOTDIR: return FileError::pathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS: return FileError::permissionDenied;
+    case ENOSPC:
+    case EDQUOT: return FileError::diskFull;
+    case EIO: return FileError::deviceIo;
+    case ENODEV:
+    case ENXIO: return FileError::deviceUnavailable;
+    case ENAMETOOLONG:
+    case EINVAL:
+    case EILSEQ: return FileError::badFileName;
+    default: return FileError::pathFileAccess;
+  }
+}
+
+/// As errorOf, telling a missing folder on the way from a missing file.
+FileError errorOf(int number, const std::string& nativePath) {
+  if (number == ENOENT) {
+    const std::string folder(folderOf(nativePath));
+    struct stat status {};
+    if (!folder.empty() && ::stat(folder.c_str(), &status) != 0) return FileError::pathNotFound;
+  }
+  return errorOf(number);
+}
+
+/// A file descriptor that closes itself.
+class Descriptor {
+ public:
+  Descriptor(const std::string& path, int flags, mode_t mode = 0666)
+      : number_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() { close(); }
+
+  bool isOpen() const { return number_ >= 0; }
+  int number() const { return number_; }
+
+  /// Whether the close, which can report a late write error, worked.
+  bool close() {
+    if (number_ < 0) return true;
+    const int number = number_;
+    number_ = -1;
+    return ::close(number) == 0;
+  }
+
+ private:
+  int number_;
+};
+
+bool writeAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t done = ::write(descriptor, bytes.data(), bytes.size());
+    if (done < 0 && errno == EINTR) continue;
+    if (done < 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(done));
+  }
+  return true;
+}
+
+bool readAll(int descriptor, std::string& bytes, std::size_t expected) {
+  bytes.resize(expected + 1);  // one more, so that the end shows without another round
+  std::size_t size = 0;
+  for (;;) {
+    if (size == bytes.size()) bytes.resize(bytes.size() * 2);
+    const ssize_t done = ::read(descriptor, bytes.data() + size, bytes.size() - size);
+    if (done < 0 && errno == EINTR) continue;
+    if (done < 0) return false;
+    if (done == 0) break;
+    size += static_cast<std::size_t>(done);
+  }
+  bytes.resize(size);
+  return true;
+}
+
+class PosixFileSystem final : public FileSystem {
+ public:
+  FileError read(const std::string& path, std::string& bytes) override {
+    bytes.clear();
+    const std::string native = checkedPath(path);
+    if (native.empty()) return FileError::badFileName;
+    Descriptor file(native, O_RDONLY);
+    if (!file.isOpen()) return errorOf(errno, native);
+    struct stat status {};
+    if (::fstat(file.number(), &status) != 0) return errorOf(errno);
+    if (S_ISDIR(status.st_mode)) return errorOf(EISDIR);
+    const auto expected = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
+    if (!readAll(file.number(), bytes, expected)) {
+      const int number = errno;
+      bytes.clear();
+      return errorOf(number);
+    }
+    return FileError::none;
+  }
+
+  FileError write(const std::string& path, std::string_view bytes) override {
+    const std::string native = checkedPath(path);
+    if (native.empty()) return FileError::badFileName;
+    Descriptor file(native, O_WRONLY | O_CREAT | O_TRUNC);
+    if (!file.isOpen()) return errorOf(errno, native);
+    if (!writeAll(file.number(), bytes) || !file.close()) return errorOf(errno);
+    return FileError::none;
+  }
+
+  FileError append(const std::string& path, std::string_view bytes) override {
+    const std::string native = checkedPath(path);
+    if (native.empty()) return FileError::badFileName;
+    Descriptor file(native, O_WRONLY | O_CREAT | O_APPEND);
+    if (!file.isOpen()) return errorOf(errno, native);
+    const off_t oldLength = ::lseek(file.number(), 0, SEEK_END);
+    if (!writeAll(file.number(), bytes)) {
+      const int number = errno;
+      // A part that stayed would stand twice after the next try. If even this fails, the device is
+      // the one to blame, and its error is reported.
+      const bool restored = oldLength >= 0 && ::ftruncate(file.number(), oldLength) == 0;
+      return restored ? errorOf(number) : errorOf(errno);
+    }
+    return file.close() ? FileError::none : errorOf(errno);
+  }
+
+  FileError replaceAtomically(const std::string& path, std::string_view bytes) override {
+    std::string native = checkedPath(path);
+    if (native.empty()) return FileError::badFileName;
+    std::error_code ignored;
+    const std::filesystem::path target = std::filesystem::canonical(native, ignored);
+    if (!ignored) native = target.string();
+    std::string temporary = native + ".XXXXXX";
+    const int descriptor = ::mkostemp(temporary.data(), O_CLOEXEC);
+    if (descriptor < 0) return errorOf(errno, native);
+    const int failure = fillReplacement(descriptor, native, bytes);
+    if (failure == 0 && ::rename(temporary.c_str(), native.c_str()) == 0) {
+      flushFolder(native);
+      return FileError::none;
+    }
+    const int number = failure != 0 ? failure : errno;
+    ::unlink(temporary.c_str());
+    return errorOf(number);
+  }
+
+  FileError remove(const std::string& path) override {
+    const std::string native = nativePath(path);
+    return ::unlink(native.c_str()) == 0 ? FileError::none : errorOf(errno, native);
+  }
+
+  FileError createFolder(const std::string& path) override {
+    const std::string native = nativePath(path);
+    return ::mkdir(native.c_str(), 0777) == 0 ? FileError::none : errorOf(errno, native);
+  }
+
+  FileError createFolders(const std::string& path) override {
+    std::error_code failure;
+    std::filesystem::create_directories(nativePath(path), failure);
+    return errorOf(failure.value());
+  }
+
+  bool isFile(const std::string& path) override {
+    struct stat status {};
+    return ::stat(nativePath(path).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+  }
+
+  std::vector<std::string> list(const std::string& folder) override {
+    std::vector<std::string> names;
+    std::error_code failure;
+    const std::string native = nativePath(folder);
+    std::filesystem::directory_iterator entries(native.empty() ? "." : native, failure);
+    for (; !failure && entries != std::filesystem::directory_iterator();
+         entries.increment(failure)) {
+      names.push_back(entries->path().filename().string());
+    }
+    return names;
+  }
+
+  std::string absolute(const std::string& path) override {
+    std::error_code failure;
+    const auto result = std::filesystem::absolute(nativePath(path), failure);
+    return failure ? path : result.lexically_normal().string();
+  }
+
+ private:
+  /// The native path, or empty if it can't name a file: the system would stop reading at a NUL.
+  static std::string checkedPath(const std::string& path) {
+    return path.find('\0') == std::string::npos ? nativePath(path) : std::string();
+  }
+
+  /// Writes the new text with the old file's permissions; an errno value, 0 for success.
+  static int fillReplacement(int descriptor, const std::string& oldPath, std::string_view bytes) {
+    struct stat old {};
+    const bool hadOld = ::stat(oldPath.c_str(), &old) == 0;
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    const mode_t mode = hadOld ? (old.st_mode & 07777) : (0666 & ~mask);
+    int failure = 0;
+    if (hadOld && ::access(oldPath.c_str(), W_OK) != 0) failure = errno;
+    // A foreign owner can be kept by root alone; for others the file becomes their own.
+    if (failure == 0 && hadOld && ::fchown(descriptor, old.st_uid, old.st_gid) != 0) errno = 0;
+    if (failure == 0 && ::fchmod(descriptor, mode) != 0) failure = errno;
+    if (failure == 0 && !writeAll(descriptor, bytes)) failure = errno;
+    if (failure == 0 && ::fsync(descriptor) != 0) failure = errno;
+    if (::close(descriptor) != 0 && failure == 0) failure = errno;
+    return failure;
+  }
+
+  /// Makes the rename itself last; a file system that can't do so isn't a failure of the save.
+  static void flushFolder(const std::string& path) {
+    const std::string folder(folderOf(path));
+    const Descriptor descriptor(folder.empty() ? "." : folder + "/", O_RDONLY | O_DIRECTORY);
+    if (descriptor.isOpen()) (void)::fsync(descriptor.number());
+  }
+};
+
+}  // namespace
+
+FileSystem& nativeFileSystem() {
+  static PosixFileSystem files;
+  return files;
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,55 @@
+#include "platform/text_files.h"
+
+#include "base/text.h"
+#include "base/utf8.h"
+#include "platform/text_decoding.h"
+
+namespace tamrikon {
+
+FileErrorAnswer TextFiles::ask(const std::string& path, std::string_view verb, FileError error,
+                               bool silent) {
+  return silent ? FileErrorAnswer::fail : reporter_.reportFileError(path, verb, error);
+}
+
+int TextFiles::put(WriteOperation write, const std::string& path, std::string_view text,
+                   bool silent) {
+  std::string bytes = replaceAll(text, "\r", "\r\n");
+  if (!isAscii(bytes)) bytes = page_->encode(bytes);
+  for (;;) {
+    const FileError error = (files_.*write)(path, bytes);
+    if (error == FileError::none) return 0;
+    switch (ask(path, "saving", error, silent)) {
+      case FileErrorAnswer::repeat: break;
+      case FileErrorAnswer::goOn: return 0;
+      case FileErrorAnswer::giveUp: return 1;
+      case FileErrorAnswer::fail: return 2;
+    }
+  }
+}
+
+int TextFiles::writeTextFile(const std::string& path, std::string_view text, bool silent) {
+  return put(&FileSystem::write, path, text, silent);
+}
+
+int TextFiles::appendTextFile(const std::string& path, std::string_view text, bool silent) {
+  return put(&FileSystem::append, path, text, silent);
+}
+
+int TextFiles::readTextFile(const std::string& path, bool silent, std::string& text) {
+  text.clear();
+  std::string bytes;
+  for (;;) {
+    const FileError error = files_.read(path, bytes);
+    if (error == FileError::none) break;
+    switch (ask(path, "reading", error, silent)) {
+      case FileErrorAnswer::repeat: break;
+      case FileErrorAnswer::goOn: return 0;
+      case FileErrorAnswer::giveUp: return 2;
+      case FileErrorAnswer::fail: return 3;
+    }
+  }
+  text = decodeText(bytes, *page_).text;
+  return 0;
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,62 @@
+// The text files that the program writes and reads, with the rule of every file operation: a
+// failing step goes to the file error dialog, whose answer repeats it, skips it or gives up.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/code_page.h"
+#include "platform/file_system.h"
+
+namespace tamrikon {
+
+/// What the answer to a file error asks for.
+enum class FileErrorAnswer { repeat = 0, goOn = 1, giveUp = 2, fail = 3 };
+
+/// Shows the file error dialog. The upper layers implement it.
+class FileErrorReporter {
+ public:
+  virtual ~FileErrorReporter() = default;
+
+  /// `verb` is "reading" or "saving". An answer that gives up has also set the flag that stops a
+  /// running compile.
+  virtual FileErrorAnswer reportFileError(const std::string& path, std::string_view verb,
+                                          FileError error) = 0;
+};
+
+class TextFiles {
+ public:
+  /// Both must outlive this object.
+  TextFiles(FileSystem& files, FileErrorReporter& reporter) : files_(files), reporter_(reporter) {}
+
+  /// The page in which files are written, and read unless they are UTF-8; 1252 at first.
+  void setCodePage(const CodePage& page) { page_ = &page; }
+  const CodePage& codePage() const { return *page_; }
+
+  /// Replaces or creates the file. Every CR of `text` is written as CR LF.
+  /// 0 for success, 1 if the user gave up at the dialog, 2 for any other failure. With `silent`
+  /// there is no dialog.
+  int writeTextFile(const std::string& path, std::string_view text, bool silent);
+
+  /// The same at the end of the file.
+  int appendTextFile(const std::string& path, std::string_view text, bool silent);
+
+  /// Reads the whole file, decoded, its line ends as they are.
+  /// 0 for success, 2 if the user gave up at the dialog, 3 for any other failure.
+  int readTextFile(const std::string& path, bool silent, std::string& text);
+
+  /// Asks what to do about a failing step: `fail` at once if `silent` is set.
+  FileErrorAnswer ask(const std::string& path, std::string_view verb, FileError error, bool silent);
+
+  FileSystem& files() { return files_; }
+
+ private:
+  using WriteOperation = FileError (FileSystem::*)(const std::string&, std::string_view);
+  int put(WriteOperation write, const std::string& path, std::string_view text, bool silent);
+
+  FileSystem& files_;
+  FileErrorReporter& reporter_;
+  const CodePage* page_ = CodePage::find(1252);
+};
+
+}  // namespace tamrikon

@@ -1,0 +1,1 @@
+#include "settings/project_settings.h"
