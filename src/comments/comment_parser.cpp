@@ -1,0 +1,190 @@
+#include "comments/comment_parser.h"
+
+#include <utility>
+
+#include "base/text.h"
+#include "base/vb_text.h"
+
+namespace tamrikon {
+namespace {
+
+/// Divides at the character at `pos` (from 1; 0: nowhere): returns what stands before it and
+/// leaves in `text` what stands behind it, trimmed. Without a place, `text` becomes empty.
+std::string_view cutAt(std::string_view& text, std::size_t pos) {
+  const std::string_view word = pos == 0 ? text : text.substr(0, pos - 1);
+  text = pos == 0 ? std::string_view() : trim(text.substr(pos));
+  return word;
+}
+
+std::string_view cutWord(std::string_view& text) {
+  return cutAt(text, firstWhitespace(text));
+}
+
+void appendLine(std::string& entry, std::string_view line) {
+  entry += line;
+  entry += '\r';
+}
+
+}  // namespace
+
+void CommentParser::setComment(CommentList comment) {
+  comment_ = std::move(comment);
+  loadUserTags();
+  lineCount_ = comment_ ? comment_->size() : 0;
+  tagLines_.clear();
+  for (std::size_t line = 0; line < lineCount_; ++line) {
+    const unsigned tags = tagsOf((*comment_)[line]);
+    if (tags == 0) continue;
+    if (!tagLines_.empty()) tagLines_.back().end = line;
+    tagLines_.push_back({line, lineCount_, tags});
+  }
+}
+
+CommentParser::Entries CommentParser::getParamList() const {
+  Entries entries;
+  for (const TagLine& tagLine : tagLines_) {
+    if (!tagLine.is(param)) continue;
+    std::string_view text = tagText(tagLine, param);
+    const bool hasText = firstWhitespace(text) != 0;
+    std::string& entry = entries.emplace_back();
+    appendLine(entry, cutWord(text));
+    if (hasText) appendLine(entry, text);
+    appendContinuationLines(entry, tagLine);
+  }
+  return entries;
+}
+
+std::array<CommentParser::Entries, 3> CommentParser::getSettingsList() const {
+  std::array<Entries, 3> tables;
+  std::array<std::string_view, 3> names;
+  for (const TagLine& tagLine : tagLines_) {
+    if (!tagLine.is(set)) continue;
+    std::string_view text = tagText(tagLine, set);
+    const std::string_view parameter = cutWord(text);
+    const std::string_view constant = cutWord(text);
+    const std::string_view value = cutAt(text, firstWhitespaceOutsideStrings(text));
+
+    std::size_t table = 0;
+    while (table < names.size() && names[table] != parameter) ++table;
+    if (table == names.size()) {
+      table = 0;
+      while (table < names.size() && !names[table].empty()) ++table;
+      if (table == names.size()) continue;
+      names[table] = parameter;
+    }
+    std::string& entry = tables[table].emplace_back();
+    for (const std::string_view field : {parameter, constant, value, text}) {
+      appendLine(entry, field);
+    }
+    appendContinuationLines(entry, tagLine);
+  }
+  return tables;
+}
+
+std::string CommentParser::getDescription() const {
+  std::string text;
+  const std::size_t end = tagLines_.empty() ? lineCount_ : tagLines_.front().line;
+  for (std::size_t line = 0; line < end; ++line) {
+    if (line == 0) {
+      appendFirstLineText(text, (*comment_)[line]);
+    } else {
+      appendContinuationText(text, (*comment_)[line]);
+    }
+    text += '\r';
+  }
+  return text;
+}
+
+std::string CommentParser::getUser(std::size_t number) const {
+  if (number < 1 || number > ProjectSettings::kUserTags) return {};
+  return firstText(static_cast<Tag>(user1 + number - 1));
+}
+
+void CommentParser::loadUserTags() {
+  for (std::size_t i = 0; i < ProjectSettings::kUserTags; ++i) {
+    std::string& word = words_[user1 + i];
+    word = '@';
+    word += settings_.userName[i];
+  }
+}
+
+unsigned CommentParser::tagsOf(std::string_view line) const {
+  line = trimLeading(line);
+  if (!line.starts_with('@')) return 0;
+  line = trimTrailing(line);
+  unsigned tags = 0;
+  for (std::size_t tag = 0; tag < tagCount; ++tag) {
+    if (line.starts_with(words_[tag])) tags |= 1u << tag;
+  }
+  return tags;
+}
+
+std::string_view CommentParser::tagText(const TagLine& tagLine, Tag tag) const {
+  return trim(trim((*comment_)[tagLine.line]).substr(words_[tag].size()));
+}
+
+void CommentParser::appendFirstLineText(std::string& text, std::string_view line) const {
+  if (settings_.indentMode == 1) {
+    if (line.starts_with('\'')) {
+      line.remove_prefix(1);
+    } else {
+      line = trimLeading(line);
+    }
+  }
+  text += line;
+}
+
+void CommentParser::appendContinuationText(std::string& text, std::string_view line) const {
+  if (settings_.indentMode == 1) {
+    // A second quote keeps the blanks behind it.
+    if (line.starts_with('\'')) {
+      line.remove_prefix(1);
+    } else {
+      line = trimLeading(line);
+    }
+    if (!line.starts_with(' ')) text += ' ';
+  }
+  text += line;
+}
+
+void CommentParser::appendContinuationLines(std::string& entry, const TagLine& tagLine) const {
+  for (std::size_t line = tagLine.line + 1; line < tagLine.end; ++line) {
+    appendContinuationText(entry, (*comment_)[line]);
+    entry += '\r';
+  }
+}
+
+CommentParser::Entries CommentParser::linkEntries(Tag tag) const {
+  Entries entries;
+  for (const TagLine& tagLine : tagLines_) {
+    if (!tagLine.is(tag)) continue;
+    std::string_view text = tagText(tagLine, tag);
+    if (text.empty()) continue;
+    std::string& entry = entries.emplace_back();
+    appendLine(entry, cutWord(text));
+    entry += text;
+  }
+  return entries;
+}
+
+std::string CommentParser::firstText(Tag tag) const {
+  for (const TagLine& tagLine : tagLines_) {
+    if (!tagLine.is(tag)) continue;
+    std::string text(tagText(tagLine, tag));
+    for (std::size_t line = tagLine.line + 1; line < tagLine.end; ++line) {
+      text += '\r';
+      appendContinuationText(text, (*comment_)[line]);
+    }
+    return text;
+  }
+  return {};
+}
+
+std::string CommentParser::lastText(Tag tag) const {
+  for (auto tagLine = tagLines_.rbegin(); tagLine != tagLines_.rend(); ++tagLine) {
+    if (tagLine->is(tag)) return std::string(tagText(*tagLine, tag));
+  }
+  return {};
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,86 @@
+#include "comments/comment_finder.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fake_module.h"
+
+namespace tamrikon {
+namespace {
+
+using test::FakeModule;
+using Lines = std::vector<std::string>;
+
+std::string show(const std::optional<LineRange>& range) {
+  return range ? std::to_string(range->first) + "-" + std::to_string(range->last) : "none";
+}
+
+/// Looks above the last line, which stands for the declaration.
+std::string rangeAboveLast(const Lines& lines) {
+  const FakeModule source(lines);
+  return show(getCommentRange(ModuleLines(source), source.CountOfLines()));
+}
+
+TEST(CommentFinder, FindsAMembersComment) {
+  struct Case {
+    const char* name;
+    Lines lines;
+    const char* range;
+  };
+  for (const Case& c : {
+           Case{"plain", {"'**", "'a", "'b", "Sub"}, "1-3"},
+           Case{"blank lines below", {"'** more", "'a", "", "   ", "", "Sub"}, "1-2"},
+           Case{"blank line inside", {"'**", "'a", "", "'b", "Sub"}, "none"},
+           Case{"lower of two markers", {"'**", "'a", "'**", "'b", "Sub"}, "3-4"},
+           Case{"indented", {"  '**", "    'a", "  Sub"}, "1-2"},
+           Case{"behind a tab", {"\t'**", "\t'a", "Sub"}, "none"},
+           Case{"tab on the blank line", {"'**", "'a", "\t", "Sub"}, "none"},
+           Case{"marker alone", {"x = 1", "'**", "Sub"}, "2-2"},
+           Case{"behind code", {"x = 1 '**", "'a", "Sub"}, "none"},
+           Case{"no marker to the top", {"'a", "'b", "Sub"}, "none"},
+           Case{"blanks to the top", {"", "", "Sub"}, "none"},
+           Case{"Rem", {"'**", "Rem a", "Sub"}, "none"},
+       }) {
+    EXPECT_EQ(rangeAboveLast(c.lines), c.range) << c.name;
+  }
+}
+
+TEST(CommentFinder, TellsTheOutcomesApart) {
+  using End = CommentSearch::End;
+  const FakeModule source({"'**", "'a", "Sub", "'b"});
+  const ModuleLines module(source);
+  EXPECT_EQ(findComment(module, 1).end, End::noLineAbove);
+  EXPECT_EQ(findComment(module, 3).end, End::foundMarker);
+  EXPECT_EQ(findComment(module, 5).end, End::withoutMarker);
+  EXPECT_EQ(findComment(module, 2147483647).end, End::withoutMarker);
+}
+
+TEST(CommentFinder, FindsAModulesComment) {
+  struct Case {
+    const char* name;
+    Lines lines;
+    const char* range;
+  };
+  for (const Case& c : {
+           Case{"to the end", {"'**", "'a", "'b"}, "1-3"},
+           Case{"up to a blank", {"", " ", " '**", "'a", "", "'b"}, "3-4"},
+           Case{"first of two markers", {"'**", "'a", "'**", "'b", "Sub"}, "1-4"},
+           Case{"marker alone", {"'**", "Sub"}, "1-1"},
+           Case{"not on the first line", {"'a", "'**", "'b"}, "none"},
+           Case{"blank module", {"", ""}, "none"},
+           Case{"empty module", {}, "none"},
+       }) {
+    const FakeModule source(c.lines);
+    EXPECT_EQ(show(getModuleCommentRange(ModuleLines(source))), c.range) << c.name;
+  }
+}
+
+TEST(CommentFinder, GivesRawAndBodyLines) {
+  const FakeModule source({"  '**", "  ' a  ", "''  b", "'", "Sub"});
+  const CommentLines raw = commentBody(ModuleLines(source), {1, 4});
+  EXPECT_EQ(raw, (Lines{"  ' a  ", "''  b", "'"}));
+  EXPECT_EQ(*stripCommentQuotes(raw), (Lines{" a", "'  b", ""}));
+  EXPECT_EQ(commentBody(ModuleLines(source), {1, 1}), Lines{});
+}
+
+}  // namespace
+}  // namespace tamrikon
