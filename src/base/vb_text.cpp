@@ -16,8 +16,9 @@ std::size_t smallerFound(std::size_t a, std::size_t b) {
 
 std::size_t inStrOutsideQuotes(std::string_view text, std::string_view word, std::size_t start) {
   if (start < 1) return 0;
+  const bool any = word.empty();
   for (std::size_t i = start - 1; i < text.size(); ++i) {
-    if (text.substr(i).starts_with(word)) return i + 1;
+    if ((any || text[i] == word.front()) && text.substr(i).starts_with(word)) return i + 1;
     if (text[i] != '"') continue;
     for (++i; i < text.size(); ++i) {
       if (text[i] != '"') continue;
