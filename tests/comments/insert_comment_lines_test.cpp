@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "comments/comment_finder.h"
-#include "support/fake_module.h"
+#include "support/fake_ide.h"
 
 namespace tamrikon {
 namespace {
@@ -18,28 +17,21 @@ TEST(InsertCommentLines, WritesAboveTheDeclarationWithItsIndent) {
             (Lines{"Option Explicit", "    '**", "    'text", "    ' @see", "    Sub S()"}));
   EXPECT_EQ(module.pane.topLine, 2);
   const Selection caret = module.pane.selection;
-  EXPECT_EQ(caret.startLine, 3);
-  EXPECT_EQ(caret.startColumn, 6);
-  EXPECT_EQ(caret.endLine, 3);
-  EXPECT_EQ(caret.endColumn, 6);
+  EXPECT_EQ(std::pair(caret.startLine, caret.startColumn), std::pair(3, 6));
+  EXPECT_EQ(std::pair(caret.endLine, caret.endColumn), std::pair(3, 6));
 }
 
 TEST(InsertCommentLines, KeepsTheSourceVisualBasic) {
   struct Case {
     const char* name;
-    Lines before;
-    Lines comment;
-    Lines after;
+    Lines before, comment, after;
   };
   for (const Case& c : {
-           Case{"line breaks",
+           Case{"breaks",
                 {" X"},
-                {"a\r\n\r\nb", "c\rd\n"},
-                {" '**", " 'a", " '", " 'b", " 'c", " 'd", " '", " X"}},
-           Case{"continuation mark at the end",
-                {"X"},
-                {"a _", "b _"},
-                {"'**", "'a _", "'b _ ", "X"}},
+                {"a\r\n\rb", "c\nd"},
+                {" '**", " 'a", " '", " 'b", " 'c", " 'd", " X"}},
+           Case{"continues", {"X"}, {"a _", "b _"}, {"'**", "'a _", "'b _ ", "X"}},
            Case{"a tab is no indent", {"\tX"}, {""}, {"'**", "'", "\tX"}},
            Case{"no lines", {"X"}, {}, {"'**", "X"}},
            Case{"empty module", {}, {""}, {"'**", "'"}},
@@ -48,14 +40,6 @@ TEST(InsertCommentLines, KeepsTheSourceVisualBasic) {
     insertCommentLines(module, 1, c.comment);
     EXPECT_EQ(module.lines, c.after) << c.name;
   }
-}
-
-TEST(InsertCommentLines, PutsTheNewerCommentNextToTheDeclaration) {
-  FakeModule module({"Sub S()"});
-  insertCommentLines(module, 1, {"old"});
-  insertCommentLines(module, 3, {"new"});
-  const ModuleLines lines(module);
-  EXPECT_EQ(commentBody(lines, *getCommentRange(lines, 5)), Lines{"'new"});
 }
 
 TEST(InsertCommentLines, KeepsTheCommentWhenTheWindowFails) {

@@ -23,11 +23,8 @@ std::string show(const ProcDefinition& definition) {
 }
 
 TEST(ProcDefinition, ParsesProcedures) {
-  struct Case {
-    const char* line;
-    const char* expected;
-  };
-  for (const Case& c : {
+  using Case = std::pair<const char*, const char*>;
+  for (const auto& [line, expected] : {
            Case{"Public Function F(Optional ByVal a As Long = 5, b$) As String",
                 "Function/String/optional byval a:Long=5/b:String"},
            Case{"Sub S(a(), b As String)", "Sub//a():Variant/b:String"},
@@ -56,9 +53,9 @@ TEST(ProcDefinition, ParsesProcedures) {
            Case{")(", "Event/"},
        }) {
     ProcDefinition definition;
-    definition.pLine = c.line;
+    definition.pLine = line;
     definition.parse();
-    EXPECT_EQ(show(definition), c.expected) << c.line;
+    EXPECT_EQ(show(definition), expected) << line;
   }
 }
 
@@ -68,21 +65,21 @@ TEST(ProcDefinition, ParsesOtherReturns) {
     void (ProcDefinition::*parse)();
     const char* expected;
   };
+  const auto property = &ProcDefinition::parsePropGetReturn;
+  const auto variable = &ProcDefinition::parseVariableReturn;
+  const auto constant = &ProcDefinition::parseConstantReturn;
   for (const Case& c : {
-           Case{"Property Get P() As Long ' it", &ProcDefinition::parsePropGetReturn, "Long ' it"},
-           Case{"Property Get P() ' don't", &ProcDefinition::parsePropGetReturn, "Variant"},
-           Case{"Public Name As String * 10 ' text", &ProcDefinition::parseVariableReturn,
-                "String * 10"},
-           Case{"Dim c As New Collection", &ProcDefinition::parseVariableReturn, "Collection"},
-           Case{"Dim a%", &ProcDefinition::parseVariableReturn, "Variant"},
-           Case{"Const MAX_ITEMS As Long = 5", &ProcDefinition::parseConstantReturn, "&5"},
-           Case{"Public Const A = 1, B = 2", &ProcDefinition::parseConstantReturn, "1, B = 2"},
-           Case{"Const TITLE = \"x = 'y'\" ' z", &ProcDefinition::parseConstantReturn,
-                "\"x = 'y'\""},
-           Case{"Const MAX% = 7", &ProcDefinition::parseConstantReturn, "%7"},
-           Case{"Const C@ = 1.5", &ProcDefinition::parseConstantReturn, "@1.5"},
-           Case{"Const NAME As String = \"n\"", &ProcDefinition::parseConstantReturn, "\"n\""},
-           Case{"Dim MAX = 7", &ProcDefinition::parseConstantReturn, ""},
+           Case{"Property Get P() As Long ' it", property, "Long ' it"},
+           Case{"Property Get P() ' don't", property, "Variant"},
+           Case{"Public Name As String * 10 ' text", variable, "String * 10"},
+           Case{"Dim c As New Collection", variable, "Collection"},
+           Case{"Dim a%", variable, "Variant"},
+           Case{"Const MAX_ITEMS As Long = 5", constant, "&5"},
+           Case{"Public Const A = 1, B = 2", constant, "1, B = 2"},
+           Case{"Const TITLE = \"x = 'y'\" ' z", constant, "\"x = 'y'\""},
+           Case{"Const MAX% = 7", constant, "%7"},
+           Case{"Const NAME As String = \"n\"", constant, "\"n\""},
+           Case{"Dim MAX = 7", constant, ""},
        }) {
     ProcDefinition definition;
     definition.pLine = c.line;
@@ -91,45 +88,32 @@ TEST(ProcDefinition, ParsesOtherReturns) {
   }
 }
 
-TEST(ProcDefinition, FindsTheTerminatingParenthesis) {
-  struct Case {
-    const char* text;
-    std::size_t start, expected;
-  };
-  for (const Case& c : {Case{"(a)", 1, 3}, Case{"(a(b)c)", 1, 7}, Case{"(a(b)c)", 3, 5},
-                        Case{"(\")\"\"(\")", 1, 8}, Case{"(a(b)", 1, 0}, Case{"(\")", 1, 0},
-                        Case{"(a)", 0, 0}, Case{"(a)", 4, 0}, Case{"()()", 1, 2}}) {
-    EXPECT_EQ(ProcDefinition::findTerminatingParenth(c.text, c.start), c.expected) << c.text;
+TEST(Argument, TakesKeywordsInFrontOnly) {
+  using Case = std::pair<const char*, const char*>;
+  for (const auto& [line, expected] : {
+           Case{"x As Long = 5", "x:Long=5"},
+           Case{"Name As String * 10", "Name:String"},
+           Case{"ParamArray rest()", "optional array rest():Variant"},
+           Case{"ParamArray items$()", "optional array items$():Variant"},
+           Case{"Optional   ByRef a!", "optional a:Single"},
+           Case{"InByVal As Long", "InByVal:Long"},
+           Case{"byval a#", "byval:Variant"},
+           Case{"a& As Byte", "a:Byte"},
+           Case{"Optional s = \"Optional As \"", "optional s:Variant=\"Optional As \""},
+           Case{"", ":Variant"},
+       }) {
+    argument arg;
+    arg.parse(line);
+    EXPECT_EQ(show(arg), expected) << line;
   }
 }
 
-TEST(Argument, ReadsKeywordsInFrontAndTheTypeByForm) {
-  struct Case {
-    const char* line;
-    const char* asArgument;
-    const char* asVariable;
-  };
-  for (const Case& c : {
-           Case{"x As Long = 5", "x:Long=5", "x:Long = 5=5"},
-           Case{"Name As String * 10", "Name:String", "Name:String * 10"},
-           Case{"ParamArray rest()", "optional array rest():Variant",
-                "optional array rest():Variant"},
-           Case{"ParamArray items$()", "optional array items$():Variant",
-                "optional array items$():Variant"},
-           Case{"Optional   ByRef a!", "optional a:Single", "optional a:Single"},
-           Case{"InByVal As Long", "InByVal:Long", "InByVal:Long"},
-           Case{"byval a#", "byval:Variant", "byval:Variant"},
-           Case{"a& As Byte", "a:Byte", "a:Byte"},
-           Case{"Optional s = \"Optional As \"", "optional s:Variant=\"Optional As \"",
-                "optional s:Variant=\"Optional As \""},
-           Case{"", ":Variant", ":Variant"},
-       }) {
-    argument arg;
-    arg.parse(c.line);
-    EXPECT_EQ(show(arg), c.asArgument) << c.line;
-    arg.parseVariable(c.line);
-    EXPECT_EQ(show(arg), c.asVariable) << c.line;
-  }
+TEST(Argument, TakesTheWholeTypeOfAVariable) {
+  argument arg;
+  arg.parseVariable("x As Long = 5");
+  EXPECT_EQ(show(arg), "x:Long = 5=5");
+  arg.parseVariable("Name$");
+  EXPECT_EQ(show(arg), "Name:String");
 }
 
 }  // namespace

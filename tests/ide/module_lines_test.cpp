@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/fake_module.h"
+#include "support/fake_ide.h"
 
 namespace tamrikon {
 namespace {
@@ -24,16 +24,14 @@ TEST(ModuleLines, MapsLogicalLinesToStatementStarts) {
   const FakeModule source({"Option Explicit", "' a comment _", "goes on", "Dim a, _", "  b, _",
                            "  c", "Dim d_", "Dim e", "Dim f _"});
   const ModuleLines module(source);
-  struct Case {
-    int logical, physical;
-  };
-  for (const Case& c :
+  using Case = std::pair<int, int>;
+  for (const auto& [given, expected] :
        {Case{0, 0}, Case{1, 1}, Case{2, 2}, Case{3, 4}, Case{4, 7}, Case{5, 8}, Case{6, 9}}) {
-    EXPECT_EQ(module.toPhysicalLine(c.logical), c.physical) << c.logical;
+    EXPECT_EQ(module.toPhysicalLine(given), expected) << given;
   }
-  for (const Case& c :
+  for (const auto& [given, expected] :
        {Case{1, 1}, Case{3, 2}, Case{6, 4}, Case{4, 4}, Case{7, 7}, Case{8, 8}, Case{9, 9}}) {
-    EXPECT_EQ(module.statementStartLine(c.logical), c.physical) << c.logical;
+    EXPECT_EQ(module.statementStartLine(given), expected) << given;
   }
 }
 
