@@ -6,6 +6,7 @@ namespace tamrikon {
 /// 0 is success; the other values are the error numbers of Visual Basic's run time.
 enum class FileError {
   none = 0,
+  typeMismatch = 13,
   badFileName = 52,
   fileNotFound = 53,
   badFileMode = 54,

@@ -31,6 +31,10 @@ int TextFiles::writeTextFile(const std::string& path, std::string_view text, boo
   return put(&FileSystem::write, path, text, silent);
 }
 
+int TextFiles::replaceTextFile(const std::string& path, std::string_view text, bool silent) {
+  return put(&FileSystem::replaceAtomically, path, text, silent);
+}
+
 int TextFiles::appendTextFile(const std::string& path, std::string_view text, bool silent) {
   return put(&FileSystem::append, path, text, silent);
 }

@@ -38,7 +38,10 @@ class TextFiles {
   /// there is no dialog.
   int writeTextFile(const std::string& path, std::string_view text, bool silent);
 
-  /// The same at the end of the file.
+  /// The same for a file that must never be lost: a failure leaves the old one.
+  int replaceTextFile(const std::string& path, std::string_view text, bool silent);
+
+  /// As writeTextFile, at the end of the file.
   int appendTextFile(const std::string& path, std::string_view text, bool silent);
 
   /// Reads the whole file, decoded, its line ends as they are.

@@ -1,0 +1,50 @@
+# The commands of everyday work. Each installs what it needs, if it is missing.
+
+JOBS ?= $(shell nproc)
+PREFIX ?= /usr/local
+DOCS := build/inventory
+
+.PHONY: run test sanitize bench install format tidy clean
+
+# Builds the program and compiles the documentation of the example projects.
+run: release
+	build/release/bin/tamrikon compile examples/Inventory/Inventory.vbg --template html --output $(DOCS)
+	@echo
+	@echo "The pages are in $(CURDIR)/$(DOCS). Begin with:"
+	@ls $(CURDIR)/$(DOCS)/*+title*
+
+test:
+	@scripts/install_packages.sh build test
+	cmake --preset dev
+	cmake --build --preset dev -j $(JOBS)
+	ctest --preset dev
+
+# The tests once more, under AddressSanitizer and UndefinedBehaviorSanitizer.
+sanitize:
+	@scripts/install_packages.sh build test
+	cmake --preset asan
+	cmake --build --preset asan -j $(JOBS)
+	ctest --preset asan
+
+bench: release
+	@scripts/install_packages.sh bench
+	bench/compile_bench.sh build/release/bin
+
+install: release
+	cmake --install build/release --prefix $(PREFIX)
+
+.PHONY: release
+release:
+	@scripts/install_packages.sh build
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS)
+
+format:
+	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+tidy:
+	cmake --preset dev
+	git ls-files 'src/*.cpp' | xargs -n 4 -P $(JOBS) clang-tidy -p build/dev --quiet
+
+clean:
+	rm -rf build

@@ -1,1 +1,0 @@
-#include "settings/project_settings.h"

@@ -1,0 +1,192 @@
+#include "settings/settings_file.h"
+
+#include <algorithm>
+
+#include "base/paths.h"
+#include "base/text.h"
+#include "platform/text_decoding.h"
+#include "settings/setting_fields.h"
+#include "settings/settings_text.h"
+
+namespace tamrikon {
+namespace {
+
+constexpr std::string_view kHeader = "#Tamrikon Project Settings#";
+constexpr std::string_view kModulesKey = "comModules";
+
+bool holdsCode(ComponentType type) {
+  return type != ComponentType::resourceFile && type != ComponentType::relatedDocument;
+}
+
+std::string fieldText(const SettingField& field) {
+  if (const auto* flag = std::get_if<bool*>(&field.value)) {
+    return std::string(settingFromBool(**flag));
+  }
+  if (const auto* number = std::get_if<std::int16_t*>(&field.value)) {
+    return std::to_string(**number);
+  }
+  const std::string& text = **std::get_if<std::string*>(&field.value);
+  if (field.key == "titlePageText") return escapeEOL(text);
+  if (field.key == "templatePath") return std::string(lastName(text));
+  return text;
+}
+
+}  // namespace
+
+KeyedList<CodeModule*> SettingsFile::codeModules(VBE& ide) {
+  KeyedList<CodeModule*> modules;
+  const VBComponents& components = ide.ActiveVBProject().VBComponents();
+  for (int number = 1; number <= components.Count(); ++number) {
+    const VBComponent& component = components.Item(number);
+    if (!holdsCode(component.Type())) continue;
+    CodeModule* module = component.CodeModule();
+    if (module != nullptr) modules.add(module, module->Name());
+  }
+  return modules;
+}
+
+void SettingsFile::setTemplateDefaults() {
+  settings_.templateFolder = joinPath(addInFolder_, "Templates");
+  settings_.templatePath = joinPath(settings_.templateFolder, "chm.tmkt");
+}
+
+void SettingsFile::setDefaultSettings(VBE& ide) {
+  settings_ = ProjectSettings();
+  settings_.outputPath = defaultOutputFolder(ide);
+  setTemplateDefaults();
+  settings_.comModules = codeModules(ide);
+}
+
+void SettingsFile::loadProjectSettings(VBE& ide) {
+  readProjectSettings(ide);
+  createOutputFolder();
+}
+
+void SettingsFile::createOutputFolder() {
+  // A folder that exists fails as well, and where it can't be made, writing into it will tell.
+  files_.files().createFolder(settings_.outputPath);
+}
+
+bool SettingsFile::readProjectSettings(VBE& ide) {
+  setDefaultSettings(ide);
+  if (readSettingsFile(ide, true) == 0) return true;
+  setDefaultSettings(ide);
+  return false;
+}
+
+int SettingsFile::readSettingsFile(VBE& ide, bool silent) {
+  const KeyedList<CodeModule*> modules = codeModules(ide);
+  settings_.comModules = {};
+  std::string path;
+  if (!tryStep([&] { path = settingsFilePath(ide); })) return 3;
+  std::string text;
+  const int result = files_.readTextFile(path, silent, text);
+  if (result != 0) return result;
+  const std::vector<std::string_view> lines = splitLines(text);
+  if (lines.empty()) {
+    const FileErrorAnswer answer = files_.ask(path, "reading", FileError::pastEndOfFile, silent);
+    return answer == FileErrorAnswer::giveUp ? 2 : 3;
+  }
+  if (lines.front() != kHeader) return 1;
+  for (std::size_t n = 1; n < lines.size(); ++n) {
+    const int outcome = applyLine(lines[n], path, modules, silent);
+    if (outcome != 0) return outcome;
+  }
+  return 0;
+}
+
+int SettingsFile::applyLine(std::string_view line, const std::string& path,
+                            const KeyedList<CodeModule*>& modules, bool silent) {
+  const std::size_t sign = line.find('=');
+  if (sign == std::string_view::npos) return 0;
+  const std::string_view key = trim(line.substr(0, sign));
+  const std::string_view value = trim(line.substr(sign + 1));
+  switch (apply(key, value, modules)) {
+    case SettingOutcome::applied: return 0;
+    case SettingOutcome::unknownKey: return 1;
+    case SettingOutcome::badNumber: break;
+  }
+  for (;;) {
+    switch (files_.ask(path, "reading", FileError::typeMismatch, silent)) {
+      case FileErrorAnswer::repeat: break;
+      case FileErrorAnswer::goOn: return 0;
+      case FileErrorAnswer::giveUp: return 2;
+      case FileErrorAnswer::fail: return 3;
+    }
+  }
+}
+
+SettingOutcome SettingsFile::apply(std::string_view key, std::string_view value,
+                                   const KeyedList<CodeModule*>& modules) {
+  if (key == kModulesKey) {
+    CodeModule* const* module = modules.find(value);
+    if (module != nullptr) settings_.comModules.add(*module, value);
+    return SettingOutcome::applied;
+  }
+  const std::vector<SettingField> fields = settingFields(settings_);
+  const auto field = std::find_if(fields.begin(), fields.end(),
+                                  [&](const SettingField& f) { return f.key == key; });
+  if (field == fields.end()) return SettingOutcome::unknownKey;
+  if (const auto* flag = std::get_if<bool*>(&field->value)) {
+    **flag = settingToBool(value);
+  } else if (const auto* number = std::get_if<std::int16_t*>(&field->value)) {
+    const auto parsed = settingToInt(value);
+    if (!parsed) return SettingOutcome::badNumber;
+    **number = *parsed;
+  } else {
+    std::string& text = **std::get_if<std::string*>(&field->value);
+    if (key == "titlePageText") {
+      text = unescapeEOL(value);
+    } else if (key == "templateFolder") {
+      text = withoutTrailingSeparator(value);
+    } else if (key == "templatePath") {
+      setTemplatePath(value);
+    } else {
+      text = value;
+      // A tag needs a name: an empty one gives the default, which is the key's first five letters.
+      if (value.empty() && key.ends_with("Name")) text = key.substr(0, 5);
+    }
+  }
+  return SettingOutcome::applied;
+}
+
+void SettingsFile::setTemplatePath(std::string_view name) {
+  settings_.templatePath = joinPath(settings_.templateFolder, name);
+  if (!files_.files().isFile(settings_.templatePath)) setTemplateDefaults();
+}
+
+std::string SettingsFile::settingsLines() const {
+  std::string text;
+  const auto addLine = [&](std::string_view key, std::string_view value) {
+    if (!text.empty()) text += '\r';
+    text.append(key).append(" = ").append(value);
+  };
+  for (const SettingField& field : settingFields(settings_)) addLine(field.key, fieldText(field));
+  for (const CodeModule* module : settings_.comModules) addLine(kModulesKey, module->Name());
+  return text;
+}
+
+int SettingsFile::writeSettingsFile(VBE& ide) {
+  std::string path;
+  if (!tryStep([&] { path = settingsFilePath(ide); })) return 0;
+  return files_.replaceTextFile(path, std::string(kHeader) + "\r" + settingsLines(), false);
+}
+
+std::string SettingsFile::settingsFilePath(VBE& ide) {
+  const std::string name = ide.ActiveVBProject().FileName();
+  for (std::size_t at = name.size(); at-- > 0;) {
+    if (startsWithIgnoringCase(std::string_view(name).substr(at), ".vbp")) {
+      return name.substr(0, at + 1) + "tamrik";
+    }
+  }
+  return name + ".tamrik";
+}
+
+std::string SettingsFile::defaultOutputFolder(VBE& ide) const {
+  std::string name;
+  if (!tryStep([&] { name = ide.ActiveVBProject().FileName(); })) return addInFolder_;
+  const std::size_t folderLength = name.size() - lastName(name).size();
+  return folderLength == 0 ? name : name.substr(0, folderLength) + "Tamrik";
+}
+
+}  // namespace tamrikon
