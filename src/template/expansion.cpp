@@ -1,0 +1,151 @@
+#include "template/expansion.h"
+
+#include <utility>
+
+#include "template/macro_scanner.h"
+
+namespace tamrikon {
+
+std::string Expansion::evaluate(const MacroName& name) {
+  MacroText* text = name.slot->text.get();
+  if (text != nullptr) result_.reserve(text->lastResult);
+  call(name);
+  run();
+  if (text != nullptr) text->lastResult = result_.size();
+  return std::move(result_);
+}
+
+std::string Expansion::expandText(std::string_view text) {
+  MacroText source;
+  if (!budget_.takeText(text.size())) return std::string(text);
+  source.text = text;
+  begin(source, false);
+  run();
+  return std::exchange(result_, std::string());
+}
+
+void Expansion::run() {
+  while (!frames_.empty()) {
+    Frame& frame = frames_.back();
+    const MacroToken* token = nextToken(frame);
+    const TextIndex literalEnd = token == nullptr ? frame.end : token->start;
+    appendLiteral(
+        std::string_view(frame.source->text).substr(frame.offset, literalEnd - frame.offset),
+        frame.translate);
+    if (token == nullptr) {
+      leave();
+      continue;
+    }
+    frame.offset = token->end;
+    ++frame.token;
+    answer(*token->name);
+  }
+}
+
+/// The next call of the part that `frame` works on, or null if there is none left.
+const MacroToken* Expansion::nextToken(const Frame& frame) {
+  const MacroText& source = *frame.source;
+  if (frame.token >= source.tokens.size()) return nullptr;
+  const MacroToken& token = source.tokens[frame.token];
+  if (token.start >= frame.end) return nullptr;
+  if (source.isWrong(token)) {
+    log(wrongNameWarning(source.written(token)));
+    if (token.name->text.empty()) return nullptr;  // a lone "$" ends the search
+  }
+  return &token;
+}
+
+void Expansion::answer(const MacroName& name) {
+  switch (name.kind) {
+    case MacroKind::nextId:
+      result_ += std::to_string(state_.nextId++);
+      break;
+    case MacroKind::counter:
+      result_ += std::to_string(state_.counter);
+      break;
+    case MacroKind::resetCounter:
+      state_.counter = 1;
+      break;
+    case MacroKind::incCounter:
+      ++state_.counter;
+      break;
+    case MacroKind::decCounter:
+      --state_.counter;
+      break;
+    case MacroKind::replaceOn:
+      state_.replaceOn = true;
+      break;
+    case MacroKind::replaceOff:
+      state_.replaceOn = false;
+      break;
+    case MacroKind::doList:
+    case MacroKind::ifNotEmpty:
+      expandConstruct(name);
+      break;
+    case MacroKind::plain:
+    case MacroKind::elseIf:
+    case MacroKind::endDoList:
+    case MacroKind::endIfNotEmpty:
+      call(name);
+      break;
+  }
+}
+
+void Expansion::call(const MacroName& name) {
+  const MacroSlot& slot = *name.slot;
+  const bool isText = slot.holds == MacroSlot::Holds::text;
+  if (slot.holds == MacroSlot::Holds::nothing || depth_ >= ExpansionBudget::kMaxDepth ||
+      !budget_.takeCalls(1, isText ? slot.text->text.size() : 0)) {
+    appendUnknown(name.text);
+  } else if (isText) {
+    begin(*slot.text, name.isReadOnly);
+  } else {
+    result_ += name.text;
+  }
+}
+
+void Expansion::begin(MacroText& text, bool translate) {
+  if (!text.isScanned) scanMacros(text, state_.slots);
+  if (text.tokens.empty()) {
+    appendLiteral(text.text, translate);
+    return;
+  }
+  ++text.users;
+  ++depth_;
+  const auto end = static_cast<TextIndex>(text.text.size());
+  frames_.push_back({&text, 0, end, 0, Frame::Role::macro, translate});
+}
+
+void Expansion::leave() {
+  const Frame& frame = frames_.back();
+  if (frame.role == Frame::Role::listBody) {
+    nextListItem();
+    return;
+  }
+  if (frame.role == Frame::Role::macro) {
+    --frame.source->users;
+    --depth_;
+  }
+  frames_.pop_back();
+}
+
+void Expansion::appendLiteral(std::string_view text, bool translate) {
+  if (translate && state_.replaceOn) {
+    state_.replaceTable.appendReplaced(text, result_, budget_);
+  } else {
+    result_ += text;
+  }
+}
+
+void Expansion::appendUnknown(std::string_view name) {
+  result_.append("$").append(name).append("$");
+}
+
+/// False if the budget has run out: then nothing more is logged.
+bool Expansion::log(const std::string& message) {
+  if (!budget_.takeText(message.size())) return false;
+  state_.log.logMessage(message);
+  return true;
+}
+
+}  // namespace tamrikon

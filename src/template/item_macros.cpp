@@ -1,0 +1,106 @@
+#include "template/item_macros.h"
+
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace tamrikon {
+namespace {
+
+/// Cuts the field before the first CR off `rest`; nothing if there is no CR.
+std::optional<std::string_view> cutAtCr(std::string_view& rest) {
+  const std::size_t cr = rest.find('\r');
+  if (cr == std::string_view::npos) return std::nullopt;
+  const std::string_view field = rest.substr(0, cr);
+  rest.remove_prefix(cr + 1);
+  return field;
+}
+
+}  // namespace
+
+ItemMacros::ItemMacros(MacroSlots& slots)
+    : first(*slots.intern("LIST-ITEM-FIRST").slot),
+      last(*slots.intern("LIST-ITEM-LAST").slot),
+      number(*slots.intern("LIST-ITEM-NUMBER").slot),
+      label(*slots.intern("LIST-ITEM-LABEL").slot),
+      param(*slots.intern("LIST-ITEM-PARAM").slot),
+      constant(*slots.intern("LIST-ITEM-CONSTANT").slot),
+      value(*slots.intern("LIST-ITEM-VALUE").slot),
+      item(*slots.intern("LIST-ITEM").slot),
+      location(*slots.intern("LIST-ITEM-LOCATION").slot),
+      file(*slots.intern("LIST-ITEM-FILE").slot),
+      helpId(*slots.intern("LIST-ITEM-HELPID").slot) {}
+
+ListWalk::ListWalk(std::string_view name, std::shared_ptr<const MacroList> list)
+    : form_(formOf(name)), list_(std::move(list)) {}
+
+ListWalk::Form ListWalk::formOf(std::string_view name) {
+  if (name == "SET01-LIST" || name == "SET02-LIST" || name == "SET03-LIST") return Form::set;
+  if (name == "PARAM-LIST") return Form::param;
+  if (name == "CONT-FORMS-LINK-LIST" || name == "CONT-OBJECTS-LINK-LIST") return Form::moduleLink;
+  return Form::link;
+}
+
+bool ListWalk::sort(LinkResolver* resolver) {
+  std::optional<std::vector<LinkItem>> sorted = sortLinkItems(*list_, resolver);
+  if (!sorted) return false;
+  links_ = std::move(*sorted);
+  return true;
+}
+
+std::size_t ListWalk::nextLength() const {
+  if (!isSorted()) return (*list_)[done_].size();
+  return links_[done_].key.size() + links_[done_].label.size();
+}
+
+bool ListWalk::setNextItem(MacroSlots& slots, const ItemMacros& macros, LinkResolver* resolver,
+                           MacroTable& table) {
+  if (done_ == std::numeric_limits<std::int16_t>::max()) return false;
+  const std::size_t item = done_++;
+  slots.setText(macros.first, item == 0 ? "1" : "");
+  slots.setText(macros.last, isAtEnd() ? "1" : "");
+  slots.setText(macros.number, std::to_string(done_));
+  if (!isSorted()) return setFields((*list_)[item], slots, macros);
+  setLink(links_[item], slots, macros, resolver, table);
+  return true;
+}
+
+bool ListWalk::setFields(std::string_view item, MacroSlots& slots, const ItemMacros& macros) const {
+  const std::optional<std::string_view> param = cutAtCr(item);
+  if (!param) return false;
+  slots.setText(macros.label, item);
+  slots.setText(macros.param, *param);
+  if (form_ == Form::param) return true;
+  for (MacroSlot* macro : {&macros.constant, &macros.value}) {
+    const std::optional<std::string_view> field = cutAtCr(item);
+    if (!field) return false;
+    slots.setText(*macro, *field);
+  }
+  slots.setText(macros.label, item);
+  return true;
+}
+
+void ListWalk::setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros& macros,
+                       LinkResolver* resolver, MacroTable& table) const {
+  LinkTarget target;
+  std::string_view file;
+  if (isFileReference(item.key)) {
+    file = std::string_view(item.key).substr(1);
+    target.member = file;
+    target.module = kExternalFile;
+  } else if (resolver != nullptr) {
+    target = resolver->parseLink(item.key);
+  }
+  slots.setText(macros.file, file);
+  slots.setText(macros.item, target.member);
+  slots.setText(macros.location, target.module);
+  slots.setText(macros.label, item.label);
+  slots.setText(macros.helpId, std::to_string(item.helpId));
+  if (form_ == Form::moduleLink && target.wrapper != nullptr) {
+    resolver->setModuleLists(target, table);
+  }
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,80 @@
+// Where macro values are kept: every name has one slot for the life of the table, so that a text
+// that was scanned once finds the macros it calls without a search.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "base/case_folding.h"
+#include "template/macro_list.h"
+#include "template/macro_text.h"
+
+namespace tamrikon {
+
+/// The names that the expansion itself answers, in capitals only.
+enum class MacroKind : std::uint8_t {
+  plain,
+  nextId,
+  counter,
+  resetCounter,
+  incCounter,
+  decCounter,
+  replaceOn,
+  replaceOff,
+  doList,
+  endDoList,
+  ifNotEmpty,
+  elseIf,
+  endIfNotEmpty,
+};
+
+struct MacroSlot {
+  enum class Holds : std::uint8_t { nothing, text, list };
+  Holds holds = Holds::nothing;
+  std::unique_ptr<MacroText> text;  // set if it holds a text
+  std::shared_ptr<const MacroList> list;
+};
+
+/// One spelling of a macro's name. All spellings that differ in case share a slot.
+struct MacroName {
+  std::string text;
+  MacroSlot* slot = nullptr;
+  MacroKind kind = MacroKind::plain;
+  bool isReadOnly = false;
+};
+
+bool isReadOnlyName(std::string_view name);
+
+class MacroSlots {
+ public:
+  /// The record of this spelling, which lives as long as this object.
+  const MacroName& intern(std::string_view name);
+
+  /// The same if the macro has a value, otherwise null.
+  const MacroName* find(std::string_view name);
+  const MacroSlot* findSlot(std::string_view name) const;
+
+  void setText(MacroSlot& slot, std::string_view text);
+  void setList(MacroSlot& slot, std::shared_ptr<const MacroList> list);
+  void unsetAll();
+
+  /// Between these two calls a text with users stays alive even if its slot gets another value.
+  void beginUse() { ++runs_; }
+  void endUse() {
+    if (--runs_ == 0) retired_.clear();
+  }
+
+ private:
+  void retire(MacroSlot& slot);
+
+  std::unordered_map<std::string_view, std::unique_ptr<MacroName>> names_;  // by spelling
+  std::unordered_map<std::string, MacroSlot, CaseInsensitiveHash, CaseInsensitiveEqual> slots_;
+  std::vector<std::unique_ptr<MacroText>> retired_;
+  int runs_ = 0;
+};
+
+}  // namespace tamrikon
