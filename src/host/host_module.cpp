@@ -1,0 +1,97 @@
+#include "host/host_module.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/host_component.h"
+
+namespace tamrikon {
+
+tamrikon::CodeModule& HostCodePane::CodeModule() const {
+  return module_;
+}
+
+HostModule::HostModule(HostComponent& component, Source& source, std::string name,
+                       const ConditionalConstants& constants)
+    : component_(component),
+      source_(source),
+      name_(std::move(name)),
+      constants_(constants),
+      members_(*this),
+      pane_(*this) {}
+
+HostModule::~HostModule() = default;
+
+VBComponent& HostModule::Parent() const {
+  return component_;
+}
+
+const ModuleAnalysis& HostModule::analysis() const {
+  const SourceFile& file = source_.file();
+  if (!analysis_ || revision_ != file.revision()) {
+    auto analysis = std::make_unique<ModuleAnalysis>(file.lines(), constants_);
+    members_.update(*analysis);
+    analysis_ = std::move(analysis);
+    revision_ = file.revision();
+  }
+  return *analysis_;
+}
+
+int HostModule::CountOfLines() const {
+  return source_.file().lineCount();
+}
+
+int HostModule::CountOfDeclarationLines() const {
+  return analysis().declarationLines();
+}
+
+std::string HostModule::Lines(int start, int count) const {
+  if (count == 0) return {};
+  if (start < 1 || start > CountOfLines() || count < 0) throw IdeError("no such line");
+  return source_.file().text(start, std::min(count, CountOfLines() - start + 1));
+}
+
+void HostModule::InsertLines(int line, const std::string& text) {
+  if (line < 1 || line > CountOfLines() + 1) throw IdeError("no such line");
+  source_.file().insertLines(line, text);
+}
+
+void HostModule::DeleteLines(int start, int count) {
+  if (start < 1 || count < 0 || start > CountOfLines() + 1 || count > CountOfLines() - start + 1) {
+    throw IdeError("no such line");
+  }
+  source_.file().deleteLines(start, count);
+}
+
+std::string HostModule::ProcOfLine(int line, ProcKind& kind) const {
+  const bool exists = line >= 1 && line <= CountOfLines();
+  const ProcedureRecord* procedure = exists ? analysis().procedureAt(line) : nullptr;
+  if (procedure == nullptr) throw IdeError("the line is in no procedure");
+  kind = procedure->kind;
+  return analysis().members()[procedure->member].name;
+}
+
+HostModule::Place HostModule::placeOf(const std::string& name, ProcKind kind) const {
+  const ModuleAnalysis& found = analysis();
+  const MemberRecord* member = found.find(name);
+  const int index = member == nullptr ? MemberRecord::kNoProcedure
+                                      : member->procedures[static_cast<std::size_t>(kind)];
+  if (index == MemberRecord::kNoProcedure) throw IdeError("there is no procedure " + name);
+  if (index == MemberRecord::kDeclare) return {1, member->declareLine, found.declarationLines()};
+  const ProcedureRecord& procedure = found.procedures()[static_cast<std::size_t>(index)];
+  return {procedure.startLine, procedure.bodyLine, procedure.endLine - procedure.startLine + 1};
+}
+
+int HostModule::ProcStartLine(const std::string& name, ProcKind kind) const {
+  return placeOf(name, kind).start;
+}
+
+int HostModule::ProcCountLines(const std::string& name, ProcKind kind) const {
+  return placeOf(name, kind).count;
+}
+
+int HostModule::ProcBodyLine(const std::string& name, ProcKind kind) const {
+  return placeOf(name, kind).body;
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,69 @@
+// A project on disk, as the IDE surface shows it.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/conditional_expression.h"
+#include "host/host_component.h"
+#include "host/path_lookup.h"
+#include "host/project_file.h"
+#include "host/source_store.h"
+#include "ide/ide.h"
+#include "platform/code_page.h"
+
+namespace tamrikon {
+
+/// Takes one warning, without a line end.
+using WarningSink = std::function<void(const std::string&)>;
+
+/// The warning that a file can't be read.
+std::string cannotReadWarning(const std::string& path);
+
+class HostComponents final : public VBComponents {
+ public:
+  int Count() const override { return static_cast<int>(components_.size()); }
+  VBComponent& Item(int number) const override;
+  void add(std::unique_ptr<HostComponent> component);
+
+ private:
+  std::vector<std::unique_ptr<HostComponent>> components_;
+};
+
+/// What all projects of one opening share.
+struct ProjectContext {
+  PathLookup& lookup;
+  SourceStore& sources;
+  const CodePage* codePage;  // the one that was asked for, or null
+  const WarningSink& warn;
+};
+
+class HostProject final : public VBProject {
+ public:
+  /// `fileName` is the absolute path of the project's file and `bytes` what it holds. Opens all
+  /// components. `context.sources` must outlive the project.
+  HostProject(std::string fileName, std::string bytes, const ProjectContext& context);
+
+  std::string Name() const override { return name_; }
+  std::string FileName() const override { return fileName_; }
+  std::string HelpFile() const override { return file_.helpFile(); }
+  void setHelpFile(const std::string& path) override { file_.setHelpFile(path); }
+  tamrikon::VBComponents& VBComponents() const override { return components_; }
+
+  const CodePage& codePage() const { return *page_; }
+  ProjectFile& file() { return file_; }
+
+ private:
+  void open(const ProjectContext& context);
+
+  std::string fileName_;
+  ProjectFile file_;
+  const CodePage* page_ = nullptr;
+  std::string name_;
+  ConditionalConstants constants_;
+  mutable HostComponents components_;
+};
+
+}  // namespace tamrikon

@@ -1,0 +1,40 @@
+#include "host/line_reader.h"
+
+#include <algorithm>
+
+namespace tamrikon {
+
+std::string_view textOf(LineEnd end) {
+  constexpr std::string_view kTexts[] = {"", "\r", "\n", "\r\n"};
+  return kTexts[static_cast<std::size_t>(end)];
+}
+
+std::size_t LineReader::find(char c, std::size_t& known) const {
+  if (!started_ || known < offset_) known = std::min(text_.find(c, offset_), text_.size());
+  return known;
+}
+
+bool LineReader::next() {
+  if (offset_ >= text_.size()) return false;
+  const std::size_t cr = find('\r', nextCr_);
+  const std::size_t lf = find('\n', nextLf_);
+  started_ = true;
+  const std::size_t stop = std::min(cr, lf);
+  line_ = text_.substr(offset_, stop - offset_);
+  if (stop == text_.size()) {
+    end_ = LineEnd::none;
+  } else if (lf < cr) {
+    end_ = LineEnd::lf;
+  } else {
+    end_ = lf == cr + 1 ? LineEnd::crLf : LineEnd::cr;
+  }
+  offset_ = stop + textOf(end_).size();
+  return true;
+}
+
+LineEnd firstLineEnd(std::string_view text) {
+  LineReader reader(text);
+  return reader.next() && reader.end() != LineEnd::none ? reader.end() : LineEnd::crLf;
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,189 @@
+#include "host/member_attributes.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "base/text.h"
+#include "base/vb_text.h"
+#include "host/names.h"
+#include "host/scanning.h"
+
+namespace tamrikon {
+namespace {
+
+constexpr std::string_view kKeyword = "Attribute";
+
+struct ParsedAttribute {
+  std::string_view name;      // of the member; empty for the module
+  std::string_view property;  // such as VB_Description
+  std::string_view value;     // as it is written
+};
+
+/// Parts of "Attribute NAME.PROPERTY = VALUE". The text is one line.
+ParsedAttribute parse(std::string_view line) {
+  line = skipBlanks(line).substr(kKeyword.size());
+  const std::size_t equals = line.substr(0, line.find('"')).rfind('=');
+  if (equals == std::string_view::npos) return {};
+  ParsedAttribute result;
+  result.value = trimBlanks(line.substr(equals + 1));
+  result.property = trimBlanks(line.substr(0, equals));
+  const std::size_t dot = result.property.rfind('.');
+  if (dot == std::string_view::npos) return result;
+  result.name = result.property.substr(0, dot);
+  if (result.name.starts_with('[') && result.name.ends_with(']')) {
+    result.name = result.name.substr(1, result.name.size() - 2);
+  }
+  result.property.remove_prefix(dot + 1);
+  return result;
+}
+
+bool isOnOneLine(std::string_view attribute) {
+  return attribute.find_first_of("\r\n") == std::string_view::npos;
+}
+
+/// The attribute on one line; `buffer` keeps it if it stands on several.
+std::string_view joined(std::string_view attribute, std::string& buffer) {
+  if (isOnOneLine(attribute)) return attribute;
+  buffer.clear();
+  for (LineReader reader(attribute); reader.next();) {
+    std::string_view line = reader.line();
+    if (isContinued(line)) line.remove_suffix(1);
+    buffer += line;
+  }
+  return buffer;
+}
+
+std::string readText(std::string_view value) {
+  std::string text;
+  if (!value.starts_with('"')) return text;
+  for (std::size_t i = 1; i < value.size(); ++i) {
+    if (value[i] == '"' && value.substr(i + 1, 1) != "\"") break;
+    if (value[i] == '"') ++i;
+    text += value[i];
+  }
+  return replaceAll(text, "\\r\\n", "\r\n");
+}
+
+std::string writtenText(std::string_view text) {
+  std::string value = "\"";
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (c == '\r' || c == '\n') {
+      value += "\\r\\n";
+      if (text.substr(i, 2) == "\r\n") ++i;
+    } else {
+      value.append(c == '"' ? 2 : 1, c);
+    }
+  }
+  return value + '"';
+}
+
+int readId(std::string_view value) {
+  int id = 0;
+  const auto result = std::from_chars(value.data(), value.data() + value.size(), id);
+  return result.ec == std::errc() ? std::max(id, 0) : 0;
+}
+
+}  // namespace
+
+void MemberAttributes::refresh() {
+  if (isFresh_ && revision_ == file_.revision()) return;
+  isFresh_ = true;
+  revision_ = file_.revision();
+  byName_.clear();
+  for (int line = 0; line <= file_.lineCount(); ++line) {
+    for (const std::uint32_t number : file_.attributesBehind(line)) remember(number, line == 0);
+  }
+}
+
+void MemberAttributes::remember(std::uint32_t number, bool isInHead) {
+  struct Known {
+    std::string_view text;
+    Property property;
+    bool isForVariables;
+  };
+  constexpr Known kKnown[] = {{"vb_name", Property::name, false},
+                              {"vb_description", Property::description, false},
+                              {"vb_helpid", Property::helpId, false},
+                              {"vb_vardescription", Property::description, true},
+                              {"vb_varhelpid", Property::helpId, true}};
+  std::string buffer;
+  const ParsedAttribute parsed = parse(joined(file_.attribute(number), buffer));
+  if (parsed.name.empty() != isInHead) return;
+  for (const Known& known : kKnown) {
+    if (!isKeyword(parsed.property, known.text)) continue;
+    byName_[knownName(parsed.name)].push_back({number, known.property, known.isForVariables});
+  }
+}
+
+std::vector<std::uint32_t> MemberAttributes::find(const AttributeOwner& owner, Property property) {
+  refresh();
+  std::vector<std::uint32_t> numbers;
+  const auto found = byName_.find(owner.name);
+  if (found == byName_.end()) return numbers;
+  for (const Reference& reference : found->second) {
+    if (reference.property != property) continue;
+    if (!reference.isForVariables || owner.isVariable) numbers.push_back(reference.number);
+  }
+  return numbers;
+}
+
+std::string MemberAttributes::moduleName() {
+  std::string buffer;
+  for (const std::uint32_t number : find({}, Property::name)) {
+    return readText(parse(joined(file_.attribute(number), buffer)).value);
+  }
+  return {};
+}
+
+std::string MemberAttributes::description(const AttributeOwner& owner) {
+  std::string buffer;
+  for (const std::uint32_t number : find(owner, Property::description)) {
+    std::string text = readText(parse(joined(file_.attribute(number), buffer)).value);
+    if (!text.empty()) return text;
+  }
+  return {};
+}
+
+int MemberAttributes::helpContextID(const AttributeOwner& owner) {
+  std::string buffer;
+  for (const std::uint32_t number : find(owner, Property::helpId)) {
+    const int id = readId(parse(joined(file_.attribute(number), buffer)).value);
+    if (id != 0) return id;
+  }
+  return 0;
+}
+
+void MemberAttributes::setDescription(const AttributeOwner& owner, std::string_view text) {
+  write(owner, Property::description, writtenText(text), text.empty());
+}
+
+void MemberAttributes::setHelpContextID(const AttributeOwner& owner, int id) {
+  write(owner, Property::helpId, std::to_string(id), id == 0);
+}
+
+void MemberAttributes::write(const AttributeOwner& owner, Property property,
+                             const std::string& value, bool isEmpty) {
+  const bool isText = property == Property::description;
+  const std::vector<std::uint32_t> numbers = find(owner, property);
+  std::string key(owner.writtenName);
+  if (!key.empty()) key += '.';
+  key += isText ? (owner.isVariable ? "VB_VarDescription" : "VB_Description")
+                : (owner.isVariable ? "VB_VarHelpID" : "VB_HelpID");
+  for (const std::uint32_t number : numbers) {
+    const std::string_view old = file_.attribute(number);
+    std::string buffer;
+    const std::string_view line = joined(old, buffer);
+    const std::string_view oldValue = parse(line).value;
+    if (isText ? readText(oldValue) == readText(value) : readId(oldValue) == readId(value))
+      continue;
+    const std::size_t valueOffset =
+        oldValue.empty() ? line.size() : static_cast<std::size_t>(oldValue.data() - line.data());
+    file_.replaceAttribute(number, std::string(line.substr(0, valueOffset)) + value);
+  }
+  if (!numbers.empty() || isEmpty) return;
+  const std::string line = std::string(kKeyword) + ' ' + key + " = " + value;
+  remember(file_.addAttribute(owner.declarationEnd, line), owner.declarationEnd == 0);
+}
+
+}  // namespace tamrikon

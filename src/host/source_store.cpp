@@ -1,0 +1,28 @@
+#include "host/source_store.h"
+
+#include <climits>
+#include <utility>
+
+namespace tamrikon {
+
+Source::Source(std::string path, std::string bytes)
+    : path_(std::move(path)), bytes_(std::move(bytes)), evidence_(readCodePageEvidence(bytes_)) {}
+
+void Source::decode(const CodePage& page) {
+  if (file_) return;
+  file_ = std::make_unique<SourceFile>(std::move(bytes_), page);
+  attributes_ = std::make_unique<MemberAttributes>(*file_);
+}
+
+Source* SourceStore::open(const std::string& path) {
+  const auto [entry, isNew] = byPath_.try_emplace(path, nullptr);
+  if (!isNew) return entry->second;
+  std::string bytes;
+  if (files_.read(path, bytes) != FileError::none) return nullptr;
+  if (bytes.size() > INT_MAX) return nullptr;  // its lines couldn't be counted
+  sources_.push_back(std::make_unique<Source>(path, std::move(bytes)));
+  entry->second = sources_.back().get();
+  return entry->second;
+}
+
+}  // namespace tamrikon
