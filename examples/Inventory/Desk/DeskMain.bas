@@ -1,7 +1,7 @@
 Attribute VB_Name = "DeskMain"
 '**
 ' Where the program starts, and what is shared by all of its windows.
-' @see    frmDesk the main window
+' @see    frmDesk frmDesk, the main window
 ' @author Zoë Marsh
 ' @version 1.2
 Option Explicit
@@ -37,7 +37,7 @@ Public WarnAhead As Long
 ' @param Size     The length of Buffer.
 ' @param FileName The full path of the file.
 ' @return The length of the text in Buffer.
-' @see   .ReadText is easier to use
+' @see   .ReadText ReadText, which is easier to use
 Public Declare Function GetPrivateProfileString Lib "kernel32" _
     Alias "GetPrivateProfileStringA" (ByVal Section As String, ByVal Key As String, _
     ByVal Default As String, ByVal Buffer As String, ByVal Size As Long, _

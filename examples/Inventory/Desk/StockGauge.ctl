@@ -42,7 +42,7 @@ Public Event Crossed(ByVal Below As Boolean)
 ' A quantity above Maximum fills the whole bar.
 ' @param NewValue The quantity, not below 0.
 ' @see   .Maximum
-' @see   .Crossed is raised when the warning level is crossed
+' @see   .Crossed
 Public Property Get Value() As Long
 Attribute Value.VB_Description = "The quantity that the bar shows."
 Attribute Value.VB_UserMemId = 0
@@ -76,7 +76,7 @@ End Property
 '**
 ' The quantity below which the bar is red.
 ' @param NewWarning The quantity; with 0 the bar never is red.
-' @see   .BarColor the colour above it
+' @see   .BarColor BarColor, the colour above it
 Public Property Get Warning() As Long
     Warning = mWarning
 End Property

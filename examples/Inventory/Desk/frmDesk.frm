@@ -67,7 +67,7 @@ Attribute VB_Exposed = False
 ' The main window: a bar with all articles, and a window for each that is open.
 '
 ' It listens to the warehouse, so that its windows follow whatever is booked.
-' @see    frmItem the window of one article
+' @see    frmItem frmItem, the window of one article
 ' @see    DeskMain.Store
 ' @author Zoë Marsh
 ' @version 1.2
@@ -96,7 +96,7 @@ End Property
 '**
 ' The order in which the bar shows the articles.
 ' @return "by code" or "by quantity".
-' @see    .SortBy changes it
+' @see    .SortBy SortBy, to change it
 Public Property Get Order() As String
     Order = mOrder
 End Property
@@ -131,7 +131,7 @@ End Function
 ' @param Order The order in which they stand.
 ' @set   Order Code     "by code"     As the codes stand in the alphabet.
 ' @set   Order Quantity "by quantity" The smallest quantity first.
-' @see   .Order'get remembers it
+' @see   .Order'get Order, to ask for it
 Public Sub SortBy(ByVal Order As String)
     Dim Item As StockItem
     Dim Place As Long

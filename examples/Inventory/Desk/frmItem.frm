@@ -73,7 +73,7 @@ Attribute VB_PredeclaredId = True
 Attribute VB_Exposed = False
 '**
 ' The window of one article: its title, a gauge with its quantity, and two buttons to book.
-' @see    frmDesk.ShowItem opens it
+' @see    frmDesk.ShowItem ShowItem, which opens it
 ' @see    StockGauge
 ' @author Zoë Marsh
 Option Explicit

@@ -10,7 +10,7 @@ Option Explicit
 
 '**
 ' A text was to become an article's code and can't.
-' @see StockText.IsCode the rule for codes
+' @see StockText.IsCode The rule for codes
 Public Const ErrBadCode As Long = vbObjectError + 1001
 
 '**

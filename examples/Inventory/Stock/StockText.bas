@@ -3,7 +3,7 @@ Attribute VB_Name = "StockText"
 ' Limits, texts and small conversions that the whole library shares.
 '
 ' Nothing here keeps a state, apart from the two variables for tracing.
-' @see StockErrors what is raised when a text is no good
+' @see StockErrors StockErrors, for texts that are no good
 ' @author Zoë Marsh
 ' @version 1.2
 Option Explicit
@@ -19,7 +19,7 @@ Public Const DefaultUnit As String = "pcs"
 
 '**
 ' Stands between two fields of a line in the audit file.
-' @see .JoinFields puts it there
+' @see .JoinFields
 ' @see Warehouse.AuditFile
 Public Const FieldSeparator As String = "|"
 
