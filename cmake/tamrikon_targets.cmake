@@ -1,6 +1,10 @@
 # Flags that all targets of the project share.
 add_library(tamrikon_flags INTERFACE)
 target_compile_options(tamrikon_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+# GCC 12 warns of its own std::string operators there (bug 105651).
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(tamrikon_flags INTERFACE -Wno-restrict)
+endif()
 if(TAMRIKON_WERROR)
   target_compile_options(tamrikon_flags INTERFACE -Werror)
 endif()

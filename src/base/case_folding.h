@@ -19,7 +19,8 @@ bool startsWithIgnoringCase(std::string_view text, std::string_view prefix);
 
 /// `text` with every occurrence of `find` replaced by `with`, from left to right and without
 /// overlap. An empty `find` leaves the text as it is.
-std::string replaceIgnoringCase(std::string_view text, std::string_view find, std::string_view with);
+std::string replaceIgnoringCase(std::string_view text, std::string_view find,
+                                std::string_view with);
 
 /// Hash and equality for unordered containers whose keys ignore case; lookups by view make no copy.
 struct CaseInsensitiveHash {

@@ -11,7 +11,9 @@ std::string_view trimTrailing(std::string_view text) {
   return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
-std::string_view trim(std::string_view text) { return trimLeading(trimTrailing(text)); }
+std::string_view trim(std::string_view text) {
+  return trimLeading(trimTrailing(text));
+}
 
 std::vector<std::string_view> split(std::string_view text, char separator) {
   std::vector<std::string_view> pieces;
@@ -44,7 +46,9 @@ std::string replaceAll(std::string_view text, std::string_view find, std::string
   }
 }
 
-std::string doubleDollars(std::string_view text) { return replaceAll(text, "$", "$$"); }
+std::string doubleDollars(std::string_view text) {
+  return replaceAll(text, "$", "$$");
+}
 
 std::string_view cutField(std::string_view& text, char separator) {
   const std::size_t end = text.find(separator);

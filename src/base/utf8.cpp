@@ -53,8 +53,9 @@ bool isValidUtf8(std::string_view bytes) {
 }
 
 std::size_t codePointCount(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(
-      text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+  }));
 }
 
 char32_t readCodePoint(std::string_view text, std::size_t& offset) {
@@ -76,7 +77,9 @@ char32_t readCodePoint(std::string_view text, std::size_t& offset) {
 }
 
 void appendCodePoint(std::string& text, char32_t codePoint) {
-  const auto put = [&](char32_t bits) { text += static_cast<char>(static_cast<unsigned char>(bits)); };
+  const auto put = [&](char32_t bits) {
+    text += static_cast<char>(static_cast<unsigned char>(bits));
+  };
   if (codePoint < 0x80) {
     put(codePoint);
   } else if (codePoint < 0x800) {

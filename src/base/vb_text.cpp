@@ -35,12 +35,16 @@ std::string_view stripLineComment(std::string_view text) {
   return trimTrailing(text);
 }
 
-std::size_t firstWhitespace(std::string_view text) { return text.find_first_of(" \t") + 1; }
+std::size_t firstWhitespace(std::string_view text) {
+  return text.find_first_of(" \t") + 1;
+}
 
 std::size_t firstWhitespaceOutsideStrings(std::string_view text) {
   return smallerFound(inStrOutsideQuotes(text, " "), inStrOutsideQuotes(text, "\t"));
 }
 
-bool isContinued(std::string_view line) { return line.ends_with(" _"); }
+bool isContinued(std::string_view line) {
+  return line.ends_with(" _");
+}
 
 }  // namespace tamrikon

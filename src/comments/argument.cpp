@@ -26,20 +26,13 @@ std::string_view upToBlank(std::string_view text) {
 /// The type that a type-suffix character stands for; empty for every other character.
 std::string_view typeOfSuffix(char suffix) {
   switch (suffix) {
-    case '%':
-      return "Integer";
-    case '&':
-      return "Long";
-    case '$':
-      return "String";
-    case '@':
-      return "Currency";
-    case '#':
-      return "Double";
-    case '!':
-      return "Single";
-    default:
-      return {};
+    case '%': return "Integer";
+    case '&': return "Long";
+    case '$': return "String";
+    case '@': return "Currency";
+    case '#': return "Double";
+    case '!': return "Single";
+    default: return {};
   }
 }
 

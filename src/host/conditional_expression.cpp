@@ -168,40 +168,24 @@ class Evaluator {
     const auto wrapped = [](std::uint32_t value) { return static_cast<std::int32_t>(value); };
     const auto truth = [](bool holds) { return holds ? -1 : 0; };
     switch (op) {
-      case Operator::imp:
-        return ~left | right;
-      case Operator::eqv:
-        return ~(left ^ right);
-      case Operator::xor_:
-        return left ^ right;
-      case Operator::or_:
-        return left | right;
-      case Operator::and_:
-        return left & right;
-      case Operator::equal:
-        return truth(left == right);
-      case Operator::unequal:
-        return truth(left != right);
-      case Operator::less:
-        return truth(left < right);
-      case Operator::greater:
-        return truth(left > right);
-      case Operator::lessOrEqual:
-        return truth(left <= right);
-      case Operator::greaterOrEqual:
-        return truth(left >= right);
-      case Operator::plus:
-        return wrapped(a + b);
-      case Operator::minus:
-        return wrapped(a - b);
-      case Operator::times:
-        return wrapped(a * b);
+      case Operator::imp: return ~left | right;
+      case Operator::eqv: return ~(left ^ right);
+      case Operator::xor_: return left ^ right;
+      case Operator::or_: return left | right;
+      case Operator::and_: return left & right;
+      case Operator::equal: return truth(left == right);
+      case Operator::unequal: return truth(left != right);
+      case Operator::less: return truth(left < right);
+      case Operator::greater: return truth(left > right);
+      case Operator::lessOrEqual: return truth(left <= right);
+      case Operator::greaterOrEqual: return truth(left >= right);
+      case Operator::plus: return wrapped(a + b);
+      case Operator::minus: return wrapped(a - b);
+      case Operator::times: return wrapped(a * b);
       case Operator::mod:
       case Operator::integerDivision:
-      case Operator::division:
-        return divide(op, left, right);
-      case Operator::none:
-        break;
+      case Operator::division: return divide(op, left, right);
+      case Operator::none: break;
     }
     return std::nullopt;
   }

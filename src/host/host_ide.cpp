@@ -18,22 +18,14 @@ constexpr int kGroupCodePage = 1252;
 
 std::string reasonOf(FileError error) {
   switch (error) {
-    case FileError::fileNotFound:
-      return "there is no such file";
-    case FileError::pathNotFound:
-      return "there is no such folder";
-    case FileError::permissionDenied:
-      return "no permission";
-    case FileError::diskFull:
-      return "no space on the device";
-    case FileError::deviceIo:
-      return "input/output error";
-    case FileError::deviceUnavailable:
-      return "no such device";
-    case FileError::badFileName:
-      return "the name is not valid";
-    default:
-      return "it is not a file that can be opened";
+    case FileError::fileNotFound: return "there is no such file";
+    case FileError::pathNotFound: return "there is no such folder";
+    case FileError::permissionDenied: return "no permission";
+    case FileError::diskFull: return "no space on the device";
+    case FileError::deviceIo: return "input/output error";
+    case FileError::deviceUnavailable: return "no such device";
+    case FileError::badFileName: return "the name is not valid";
+    default: return "it is not a file that can be opened";
   }
 }
 

@@ -70,27 +70,14 @@ class ModuleAnalysis::Reader {
 
   void takeDeclaration(int line) {
     switch (declaration_.kind) {
-      case DeclarationKind::other:
-        break;
+      case DeclarationKind::other: break;
       case DeclarationKind::type:
-      case DeclarationKind::enumeration:
-        inBlock_ = true;
-        break;
-      case DeclarationKind::procedure:
-        beginProcedure(line);
-        break;
-      case DeclarationKind::declare:
-        addDeclare(line);
-        break;
-      case DeclarationKind::variable:
-        addMembers(MemberType::variable);
-        break;
-      case DeclarationKind::event:
-        addMembers(MemberType::event);
-        break;
-      case DeclarationKind::constant:
-        addMembers(MemberType::constant);
-        break;
+      case DeclarationKind::enumeration: inBlock_ = true; break;
+      case DeclarationKind::procedure: beginProcedure(line); break;
+      case DeclarationKind::declare: addDeclare(line); break;
+      case DeclarationKind::variable: addMembers(MemberType::variable); break;
+      case DeclarationKind::event: addMembers(MemberType::event); break;
+      case DeclarationKind::constant: addMembers(MemberType::constant); break;
     }
   }
 

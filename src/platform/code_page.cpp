@@ -18,10 +18,9 @@ constexpr int kUtf8 = 65001;
 
 // Names of the WHATWG Encoding Standard.
 constexpr PageName kPages[] = {
-    {874, "windows-874"},   {932, "shift_jis"},     {936, "gbk"},
-    {949, "euc-kr"},        {950, "big5"},          {1250, "windows-1250"},
-    {1251, "windows-1251"}, {1252, "windows-1252"}, {1253, "windows-1253"},
-    {1254, "windows-1254"}, {1255, "windows-1255"}, {1256, "windows-1256"},
+    {874, "windows-874"},   {932, "shift_jis"},     {936, "gbk"},           {949, "euc-kr"},
+    {950, "big5"},          {1250, "windows-1250"}, {1251, "windows-1251"}, {1252, "windows-1252"},
+    {1253, "windows-1253"}, {1254, "windows-1254"}, {1255, "windows-1255"}, {1256, "windows-1256"},
     {1257, "windows-1257"}, {1258, "windows-1258"}, {kUtf8, "utf-8"},
 };
 
@@ -65,7 +64,8 @@ std::string_view CodePage::webName() const {
 }
 
 CodePage::CodePage(int number)
-    : number_(number), isDoubleByte_(number == 932 || number == 936 || number == 949 || number == 950) {
+    : number_(number),
+      isDoubleByte_(number == 932 || number == 936 || number == 949 || number == 950) {
   if (number_ != kUtf8) fillTables();
 }
 

@@ -48,8 +48,8 @@ class CodePage {
 
   int number_;
   bool isDoubleByte_ = false;
-  std::array<char32_t, 256> single_{};      // 0 where the byte alone means nothing
-  std::vector<char16_t> pairs_;             // by lead byte * 256 + second byte, 0 where undefined
+  std::array<char32_t, 256> single_{};  // 0 where the byte alone means nothing
+  std::vector<char16_t> pairs_;         // by lead byte * 256 + second byte, 0 where undefined
   std::unordered_map<char32_t, std::uint16_t> bytesOf_;
 };
 

@@ -6,13 +6,19 @@ namespace tamrikon {
 namespace {
 
 /// `text` as one word that the shell takes as it is.
-std::string quoted(std::string_view text) { return "'" + replaceAll(text, "'", "'\\''") + "'"; }
+std::string quoted(std::string_view text) {
+  return "'" + replaceAll(text, "'", "'\\''") + "'";
+}
 
 }  // namespace
 
-std::string_view CommandScript::extension() { return "sh"; }
+std::string_view CommandScript::extension() {
+  return "sh";
+}
 
-std::string CommandScript::interpreter(ProcessServices&) { return "/bin/sh"; }
+std::string CommandScript::interpreter(ProcessServices&) {
+  return "/bin/sh";
+}
 
 std::vector<std::string> CommandScript::commandLine(const std::string& interpreter,
                                                     const std::string& path) {
@@ -20,9 +26,13 @@ std::vector<std::string> CommandScript::commandLine(const std::string& interpret
 }
 
 // File names are UTF-8 on these systems, whatever the project's own page is.
-int CommandScript::codePage(int) { return 65001; }
+int CommandScript::codePage(int) {
+  return 65001;
+}
 
-std::string CommandScript::header(int) { return "#!/bin/sh"; }
+std::string CommandScript::header(int) {
+  return "#!/bin/sh";
+}
 
 std::string CommandScript::linesFor(std::string_view command, const std::string& logPath) {
   const std::string line = quoted(command);

@@ -27,10 +27,10 @@ class PosixProcessServices final : public ProcessServices {
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
     pid_t process = 0;
-    error = application.empty()
-                ? ::posix_spawnp(&process, arguments[0], nullptr, nullptr, arguments.data(), environ)
-                : ::posix_spawn(&process, application.c_str(), nullptr, nullptr, arguments.data(),
-                                environ);
+    error = application.empty() ? ::posix_spawnp(&process, arguments[0], nullptr, nullptr,
+                                                 arguments.data(), environ)
+                                : ::posix_spawn(&process, application.c_str(), nullptr, nullptr,
+                                                arguments.data(), environ);
     handle.process = process;
     return error == 0;
   }

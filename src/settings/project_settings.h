@@ -51,15 +51,15 @@ struct ProjectSettings {
   std::int16_t addingMode = 0;          // kept, and used by nothing
   std::int16_t insertSourceGlobal = 0;  // 0 never, 1 always, 2 where @includesource asks for it
   std::int16_t autoUpdateParams = 0;
-  std::int16_t wordWrapLength = 80;     // negative: switched off, the number is remembered
+  std::int16_t wordWrapLength = 80;  // negative: switched off, the number is remembered
   std::int16_t autoInsertEOL = 0;
 
-  std::string titlePageText;            // lines divided by CR LF
+  std::string titlePageText;  // lines divided by CR LF
   std::string outputPath;
   std::string templateFolder;
-  std::string templatePath;             // the full path
+  std::string templatePath;  // the full path
 
-  KeyedList<CodeModule*> comModules;    // the modules to document, by name
+  KeyedList<CodeModule*> comModules;  // the modules to document, by name
 };
 
 }  // namespace tamrikon

@@ -4,16 +4,11 @@ namespace tamrikon {
 
 std::vector<SettingField> settingFields(ProjectSettings& settings) {
   std::vector<SettingField> fields = {
-      {"addSee", &settings.addSee},
-      {"addParam", &settings.addParam},
-      {"addReturn", &settings.addReturn},
-      {"addDescription", &settings.addDescription},
-      {"addRem", &settings.addRem},
-      {"addSame", &settings.addSame},
-      {"addAuthor", &settings.addAuthor},
-      {"addRevision", &settings.addRevision},
-      {"addVersion", &settings.addVersion},
-      {"addIncludeSource", &settings.addIncludeSource},
+      {"addSee", &settings.addSee},         {"addParam", &settings.addParam},
+      {"addReturn", &settings.addReturn},   {"addDescription", &settings.addDescription},
+      {"addRem", &settings.addRem},         {"addSame", &settings.addSame},
+      {"addAuthor", &settings.addAuthor},   {"addRevision", &settings.addRevision},
+      {"addVersion", &settings.addVersion}, {"addIncludeSource", &settings.addIncludeSource},
   };
   const auto number = [](std::size_t tag) { return std::to_string(tag + 1); };
   for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {

@@ -36,8 +36,8 @@ class SettingsFile {
   /// dialog, 3 for any other failure.
   int readSettingsFile(VBE& ide, bool silent);
 
-  /// Writes the file whole, a failure leaving the old one; what writeTextFile returns. A project that was never saved has no
-  /// place for it, and nothing is written.
+  /// Writes the file whole, a failure leaving the old one; what writeTextFile returns. A project
+  /// that was never saved has no place for it, and nothing is written.
   int writeSettingsFile(VBE& ide);
 
   /// Sets one field from the text of a settings line. `modules` are the modules that a comModules

@@ -11,9 +11,13 @@ constexpr std::string_view kEolToken = "^tmkEOL^";
 
 }  // namespace
 
-std::string_view settingFromBool(bool value) { return value ? "1" : "0"; }
+std::string_view settingFromBool(bool value) {
+  return value ? "1" : "0";
+}
 
-bool settingToBool(std::string_view text) { return text != "0"; }
+bool settingToBool(std::string_view text) {
+  return text != "0";
+}
 
 std::optional<std::int16_t> settingToInt(std::string_view text) {
   if (text.starts_with('+')) {
@@ -26,8 +30,12 @@ std::optional<std::int16_t> settingToInt(std::string_view text) {
   return value;
 }
 
-std::string escapeEOL(std::string_view text) { return replaceAll(text, "\r\n", kEolToken); }
+std::string escapeEOL(std::string_view text) {
+  return replaceAll(text, "\r\n", kEolToken);
+}
 
-std::string unescapeEOL(std::string_view text) { return replaceAll(text, kEolToken, "\r\n"); }
+std::string unescapeEOL(std::string_view text) {
+  return replaceAll(text, kEolToken, "\r\n");
+}
 
 }  // namespace tamrikon

@@ -57,37 +57,19 @@ const MacroToken* Expansion::nextToken(const Frame& frame) {
 
 void Expansion::answer(const MacroName& name) {
   switch (name.kind) {
-    case MacroKind::nextId:
-      result_ += std::to_string(state_.nextId++);
-      break;
-    case MacroKind::counter:
-      result_ += std::to_string(state_.counter);
-      break;
-    case MacroKind::resetCounter:
-      state_.counter = 1;
-      break;
-    case MacroKind::incCounter:
-      ++state_.counter;
-      break;
-    case MacroKind::decCounter:
-      --state_.counter;
-      break;
-    case MacroKind::replaceOn:
-      state_.replaceOn = true;
-      break;
-    case MacroKind::replaceOff:
-      state_.replaceOn = false;
-      break;
+    case MacroKind::nextId: result_ += std::to_string(state_.nextId++); break;
+    case MacroKind::counter: result_ += std::to_string(state_.counter); break;
+    case MacroKind::resetCounter: state_.counter = 1; break;
+    case MacroKind::incCounter: ++state_.counter; break;
+    case MacroKind::decCounter: --state_.counter; break;
+    case MacroKind::replaceOn: state_.replaceOn = true; break;
+    case MacroKind::replaceOff: state_.replaceOn = false; break;
     case MacroKind::doList:
-    case MacroKind::ifNotEmpty:
-      expandConstruct(name);
-      break;
+    case MacroKind::ifNotEmpty: expandConstruct(name); break;
     case MacroKind::plain:
     case MacroKind::elseIf:
     case MacroKind::endDoList:
-    case MacroKind::endIfNotEmpty:
-      call(name);
-      break;
+    case MacroKind::endIfNotEmpty: call(name); break;
   }
 }
 

@@ -16,12 +16,9 @@ std::string wrongSyntax(const MacroName& tag, std::string_view problem) {
 
 bool isEmpty(const MacroSlot& slot) {
   switch (slot.holds) {
-    case MacroSlot::Holds::nothing:
-      return true;
-    case MacroSlot::Holds::text:
-      return slot.text->text.empty();
-    case MacroSlot::Holds::list:
-      return slot.list == nullptr || slot.list->empty();
+    case MacroSlot::Holds::nothing: return true;
+    case MacroSlot::Holds::text: return slot.text->text.empty();
+    case MacroSlot::Holds::list: return slot.list == nullptr || slot.list->empty();
   }
   return true;
 }
