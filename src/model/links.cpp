@@ -1,0 +1,82 @@
+#include "model/links.h"
+
+#include "template/macro_table.h"
+
+namespace tamrikon {
+
+void Links::warn(const Wrapper* context, const LinkFault& fault, std::string_view link) {
+  if (context == nullptr) return;
+  std::string text = "Warning: The ";
+  text.append(fault.what).append(" '").append(link).append("'").append(fault.found);
+  text.append(" in '").append(context->name()).append("' member of '");
+  text.append(context->source().name()).append("' module").append(fault.ending);
+  log_.logMessage(text);
+}
+
+Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link) {
+  if (link.starts_with('"')) return nullptr;
+  const std::size_t dot = link.find('.');
+  const std::size_t apostrophe = link.find('\'');
+  if (dot == std::string_view::npos && apostrophe != std::string_view::npos) {
+    warn(context, {"link", "", " has wrong syntax."}, link);
+    return nullptr;
+  }
+  std::string key(link.substr(0, dot));
+  if (key.empty() && context != nullptr) key = context->source().name();
+  std::string_view kind;
+  if (dot != std::string_view::npos) {
+    if (apostrophe != std::string_view::npos) kind = link.substr(apostrophe);
+    const std::size_t end = link.size() - kind.size();
+    std::string_view member = end > dot ? link.substr(dot + 1, end - dot - 1) : "";
+    if (member.empty() && context != nullptr) member = context->name();
+    if (!kind.empty() && kind != "'set" && kind != "'let" && kind != "'get") {
+      const std::string specifier = "\"" + std::string(kind) + "\".";
+      warn(context, {"link", "", " contains wrong property type specifier " + specifier}, link);
+      return nullptr;
+    }
+    key.append(".").append(member).append(kind);
+  }
+  Wrapper* found = findWrapper(wrappers_.all, key);
+  if (kind.empty()) {
+    for (const std::string_view mark : {"'set", "'let", "'get"}) {
+      if (found == nullptr) found = findWrapper(wrappers_.all, key + std::string(mark));
+    }
+  }
+  if (found == nullptr) warn(context, {"dead link", " was found", "."}, link);
+  return found;
+}
+
+std::string Links::canonizeLink(const Wrapper* context, std::string_view link) {
+  const Wrapper* found = getWrapperFromLink(context, link);
+  return found == nullptr ? std::string(link) : found->link();
+}
+
+std::string Links::canonizeLink(std::string_view link) {
+  return canonizeLink(compiledWrapper, link);
+}
+
+std::optional<std::string> Links::topicLink(std::string_view link) {
+  const std::string* topic = linkAliases.find(link);
+  return topic == nullptr ? std::nullopt : std::optional<std::string>(*topic);
+}
+
+LinkTarget Links::parseLink(std::string_view link) {
+  LinkTarget target;
+  const Wrapper* found = getWrapperFromLink(compiledWrapper, link);
+  if (found == nullptr) return target;
+  target.wrapper = found;
+  target.module = found->source().name();
+  if (found->kind() != WrapperKind::module) target.member = found->name();
+  target.needsModule = found->needsModule;
+  target.helpId = found->helpID;
+  return target;
+}
+
+void Links::setModuleLists(const LinkTarget& target, MacroTable& macros) {
+  const auto& wrapper = *static_cast<const Wrapper*>(target.wrapper);
+  macros.setMacroValue("PROPS-LINK-LIST", lists_.getPropsList(wrapper));
+  macros.setMacroValue("METHODS-LINK-LIST", lists_.getMethodsList(wrapper));
+  macros.setMacroValue("EVENTS-LINK-LIST", lists_.getEventsList(wrapper));
+}
+
+}  // namespace tamrikon

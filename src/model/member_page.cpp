@@ -1,0 +1,49 @@
+#include "base/text.h"
+#include "model/member_wrapper.h"
+#include "model/page_macros.h"
+
+namespace tamrikon {
+
+int MemberWrapper::CodeLocation() const {
+  return source().lines().toPhysicalLine(member_.CodeLocation());
+}
+
+std::string MemberWrapper::wantedSource(PageContext& context) const {
+  constexpr int kAlways = 1;
+  constexpr int kWhereAskedFor = 2;
+  const int mode = context.settings.insertSourceGlobal;
+  const bool wanted =
+      mode == kAlways || (mode == kWhereAskedFor && !context.parser.getIncludeSource().empty());
+  if (!wanted) return {};
+  return replaceAll(doubleDollars(pageSource(context)), "\r", "$EOL$");
+}
+
+// The order in which the macros are set shows: a user tag may bear the name of one of them.
+std::string MemberWrapper::compile(PageContext& context) {
+  MacroTable& macros = context.macros;
+  CommentParser& parser = context.parser;
+  parser.setComment(comment);
+  const bool appliesNowhere = !hasParameters() && isStandardModule(source().type());
+  macros.setMacroValue("APPLIES-LINK-LIST",
+                       appliesNowhere ? macroList({}) : context.lists.getAppliesList(*this));
+  macros.setMacroValue("SEE-LINK-LIST", macroList(parser.getSeeList()));
+  if (hasParameters()) macros.setMacroValue("PARAM-LIST", macroList(parser.getParamList()));
+  auto tables = parser.getSettingsList();
+  macros.setMacroValue("SET01-LIST", macroList(std::move(tables[0])));
+  macros.setMacroValue("SET02-LIST", macroList(std::move(tables[1])));
+  macros.setMacroValue("SET03-LIST", macroList(std::move(tables[2])));
+  macros.setMacroValue("EXAMPLE-LINK-LIST", macroList(parser.getExampleList()));
+  macros.setMacroValue("MEMBER-DESCRIPTION", parser.getDescription());
+  macros.setMacroValue("MEMBER-REMARKS", parser.getRemarks());
+  macros.setMacroValue("MEMBER-RETURN", pageReturn(context));
+  setNameMacros(context, *this);
+  setTagMacros(context);
+  tryStep([&] { setScopeMacros(context, member_.Scope()); });
+  tryStep([&] { macros.setMacroValue("MEMBER-DECLARATION", doubleDollars(declaration())); });
+  tryStep([&] { macros.setMacroValue("MEMBER-SOURCECODE", wantedSource(context)); });
+  writeIdeDescription(context, *this);
+  macros.setMacroValue("MEMBER-NEEDS-MODULE", needsModule ? "1" : "");
+  return macros.evaluateMacro(traits().section);
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,30 @@
+#include "model/page_macros.h"
+#include "model/wrappers.h"
+
+namespace tamrikon {
+
+std::string Smodule::compile(PageContext& context) {
+  MacroTable& macros = context.macros;
+  CommentParser& parser = context.parser;
+  parser.setComment(comment);
+  macros.setMacroValue("APPLIES-LINK-LIST", "");
+  macros.setMacroValue("PROPS-LINK-LIST", context.lists.getPropsList(*this));
+  macros.setMacroValue("METHODS-LINK-LIST", context.lists.getMethodsList(*this));
+  macros.setMacroValue("EVENTS-LINK-LIST", context.lists.getEventsList(*this));
+  macros.setMacroValue("SEE-LINK-LIST", macroList(parser.getSeeList()));
+  macros.setMacroValue("PARAM-LIST", "");
+  macros.setMacroValue("EXAMPLE-LINK-LIST", macroList(parser.getExampleList()));
+  macros.setMacroValue("MEMBER-DESCRIPTION", parser.getDescription());
+  macros.setMacroValue("MEMBER-REMARKS", parser.getRemarks());
+  macros.setMacroValue("MEMBER-RETURN", "");
+  setNameMacros(context, *this);
+  setTagMacros(context);
+  // A module has no scope of its own; templates have always seen it as a friend.
+  setScopeMacros(context, Scope::friend_);
+  macros.setMacroValue("MEMBER-DECLARATION", "");
+  macros.setMacroValue("MEMBER-SOURCECODE", "");
+  writeIdeDescription(context, *this);
+  return macros.evaluateMacro(traits().section);
+}
+
+}  // namespace tamrikon

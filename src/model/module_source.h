@@ -1,0 +1,62 @@
+// A code module with a snapshot of its lines and of what stands where. Whoever edits the module
+// makes a new one.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "ide/ide.h"
+#include "ide/module_lines.h"
+
+namespace tamrikon {
+
+class ModuleSource {
+ public:
+  /// `module` must outlive this object.
+  explicit ModuleSource(CodeModule& module);
+
+  CodeModule& module() const { return module_; }
+  const ModuleLines& lines() const { return lines_; }
+  const std::string& name() const { return name_; }
+  ComponentType type() const { return type_; }
+
+  struct ModuleMember {
+    Member* member;
+    std::string name;
+    MemberType type;
+    int line;  // physical line of the declaration
+  };
+
+  /// In the order of the module's members.
+  const std::vector<ModuleMember>& members() const { return members_; }
+
+  /// The first member that is a method, or a property unless `kind` is `procedure`, and bears this
+  /// name; null if there is none.
+  const ModuleMember* procedureMember(const std::string& name, ProcKind kind) const;
+
+  /// The first member, properties left out, that is declared on this line; null if there is none.
+  const ModuleMember* memberAtLine(int line) const;
+
+ private:
+  CodeModule& module_;
+  ModuleLines lines_;
+  std::string name_;
+  ComponentType type_;
+  std::vector<ModuleMember> members_;
+  std::unordered_multimap<std::string, std::size_t> byName_;
+  std::unordered_map<int, std::size_t> byLine_;
+};
+
+/// The sources of a compile: each module is read once.
+class SourceCache {
+ public:
+  ModuleSource& of(CodeModule& module);
+  void clear() { sources_.clear(); }
+
+ private:
+  std::unordered_map<const CodeModule*, std::unique_ptr<ModuleSource>> sources_;
+};
+
+}  // namespace tamrikon

@@ -1,0 +1,27 @@
+// The macros that the pages of members and modules have in common.
+#pragma once
+
+#include <string>
+
+#include "model/page_context.h"
+
+namespace tamrikon {
+
+/// A list macro's value from the entries of a comment.
+LinkListRef macroList(CommentParser::Entries entries);
+
+/// MEMBER-NAME, MEMBER-MODULE and MEMBER-FILE.
+void setNameMacros(PageContext& context, const Wrapper& wrapper);
+
+/// MEMBER-AUTHOR, MEMBER-REVISION, MEMBER-VERSION and the user tags, each of these by its name and
+/// by its number, so that a tag's name can take the place of a macro that was set before.
+void setTagMacros(PageContext& context);
+
+/// MEMBER-PUBLIC, MEMBER-PRIVATE and MEMBER-FRIEND: the word in one of them, the others empty.
+void setScopeMacros(PageContext& context, Scope scope);
+
+/// Writes MEMBER-DESCRIPTION to the project as the IDE's description of `wrapper`, if the settings
+/// want it. A line end of the comment becomes a blank, a forced one a line end.
+void writeIdeDescription(PageContext& context, Wrapper& wrapper);
+
+}  // namespace tamrikon

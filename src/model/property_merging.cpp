@@ -1,0 +1,73 @@
+#include "model/property_merging.h"
+
+#include "model/wrappers.h"
+
+namespace tamrikon {
+namespace {
+
+void shareFirst(Wrapper& wrapper, Wrapper& companion) {
+  if (companion.kind() == WrapperKind::propGet) {
+    static_cast<SpropGet&>(companion).hasNoLetSet = false;
+  }
+  if (companion.hadComment) {
+    wrapper.comment = companion.comment;
+  } else {
+    companion.comment = wrapper.comment;
+  }
+}
+
+}  // namespace
+
+Wrapper* PropertyMerging::companion(const Wrapper& wrapper, const WrapperList& list,
+                                    std::string_view mark) const {
+  const std::string& link = wrapper.link();
+  return findWrapper(list, link.substr(0, link.size() - mark.size()) + std::string(mark));
+}
+
+void PropertyMerging::makeSamePropsFirst() {
+  for (const WrapperRef& set : wrappers_.sets) {
+    if (Wrapper* get = companion(*set, wrappers_.gets, "'get")) shareFirst(*set, *get);
+  }
+  for (const WrapperRef& let : wrappers_.lets) {
+    if (Wrapper* get = companion(*let, wrappers_.gets, "'get")) shareFirst(*let, *get);
+    if (Wrapper* set = companion(*let, wrappers_.sets, "'set")) shareFirst(*let, *set);
+  }
+}
+
+void PropertyMerging::addValueArgument(const Wrapper& writing, const Wrapper& reading) {
+  parser_.setComment(reading.comment);
+  const auto& property = static_cast<const PropertyWrapper&>(writing);
+  LastArgument last;
+  tryStep([&] { last = property.generateCommentForLastArgument(settings_); });
+  if (parser_.getParamList().size() < last.count && last.line) {
+    reading.comment->push_back(*last.line);
+  }
+}
+
+void PropertyMerging::relink(const Wrapper& from, const Wrapper& to) {
+  const std::string* topic = links_.linkAliases.find(to.link());
+  std::string* alias = links_.linkAliases.find(from.link());
+  if (topic != nullptr && alias != nullptr) *alias = std::string(*topic);
+}
+
+void PropertyMerging::makeSameProps() {
+  const auto share = [&](Wrapper& wrapper, Wrapper& companion) {
+    if (companion.hadComment) {
+      if (companion.kind() == WrapperKind::propGet) addValueArgument(wrapper, companion);
+      wrapper.comment = companion.comment;
+      relink(wrapper, companion);
+    } else {
+      companion.comment = wrapper.comment;
+      relink(companion, wrapper);
+    }
+  };
+  for (const WrapperRef& set : wrappers_.sets) {
+    if (Wrapper* get = companion(*set, wrappers_.gets, "'get")) share(*set, *get);
+  }
+  for (const WrapperRef& let : wrappers_.lets) {
+    if (Wrapper* get = companion(*let, wrappers_.gets, "'get")) share(*let, *get);
+    if (Wrapper* set = companion(*let, wrappers_.sets, "'set")) share(*let, *set);
+  }
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,62 @@
+// Answers about all wrappers at once that would otherwise walk the collections for each of them:
+// which names are unique, which comments are shared, which members a module has.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "model/wrapper_collections.h"
+
+namespace tamrikon {
+
+class WrapperIndex {
+ public:
+  /// A picture of `wrappers` and their comments as they are now.
+  explicit WrapperIndex(const WrapperCollections& wrappers);
+
+  struct ModuleMembers {
+    std::vector<Wrapper*> properties;  // Get before Set before Let, one for each name
+    std::vector<Wrapper*> methods;
+    std::vector<Wrapper*> events;
+  };
+
+  /// The documented members of a module; empty lists for one that has none.
+  const ModuleMembers& membersOf(const CodeModule& module) const;
+
+  /// The names of the modules that hold a wrapper with this comment, each once.
+  const std::vector<std::string>& modulesOf(const CommentLines* comment) const;
+
+  /// Whether another wrapper of the same sort bears the same name and none of those shares the
+  /// comment. Properties of one module don't clash, nor do methods of classes with functions of
+  /// standard modules.
+  bool needsModuleName(const Wrapper& wrapper) const;
+
+ private:
+  enum class Group { none, constants, variables, events, methods, functions, properties };
+
+  /// What is counted: wrappers of a group with a name; narrowed by module and comment if not null.
+  struct Key {
+    Group group;
+    std::string_view name;
+    const CodeModule* module;
+    const CommentLines* comment;
+    bool operator==(const Key&) const = default;
+  };
+  struct KeyHash {
+    std::size_t operator()(const Key& key) const;
+  };
+
+  static Group groupOf(const Wrapper& wrapper);
+  void count(const WrapperList& list);
+  int countOf(const Key& key) const;
+  void collectMembers(const WrapperCollections& wrappers);
+  void collectModules(const WrapperList& all);
+
+  std::unordered_map<Key, int, KeyHash> counts_;
+  std::unordered_map<const CodeModule*, ModuleMembers> members_;
+  std::unordered_map<const CommentLines*, std::vector<std::string>> modules_;
+};
+
+}  // namespace tamrikon

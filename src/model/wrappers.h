@@ -1,0 +1,146 @@
+// The eight wrapper classes.
+#pragma once
+
+#include <string>
+
+#include "comments/skeleton.h"
+#include "model/member_wrapper.h"
+#include "model/wrapper_collections.h"
+
+namespace tamrikon {
+
+/// A Sub, a Function or a Declare statement.
+class Smethod final : public MemberWrapper {
+ public:
+  Smethod(ModuleSource& source, Member& member)
+      : MemberWrapper(WrapperKind::method, source, member) {}
+  CommentLines generateComment(const ProjectSettings& settings) const override;
+
+  /// The source of the member, lines divided by CR; empty if the IDE can't tell.
+  std::string getSourceCode() const;
+
+ private:
+  std::string pageReturn(PageContext& context) const override;
+  std::string pageSource(PageContext& context) const override;
+};
+
+/// An Event declaration.
+class Sevent final : public MemberWrapper {
+ public:
+  Sevent(ModuleSource& source, Member& member)
+      : MemberWrapper(WrapperKind::event, source, member) {}
+  CommentLines generateComment(const ProjectSettings& settings) const override;
+  std::string getSourceCode() const;
+
+ private:
+  std::string pageReturn(PageContext& context) const override;
+  std::string pageSource(PageContext& context) const override;
+};
+
+/// What the wrappers of a property's procedures have in common.
+class PropertyWrapper : public MemberWrapper {
+ public:
+  int CodeLocation() const final;
+  CommentLines generateComment(const ProjectSettings& settings) const final;
+
+  /// The source of this one procedure. Fails for a public variable, which has none.
+  std::string procedureText() const;
+
+  /// The source of all procedures of the property, Get before Set before Let; the declaration of a
+  /// public variable.
+  std::string getSourceCode(const WrapperCollections& wrappers) const;
+
+  /// How many arguments the declaration has, and a @param line for the last one.
+  LastArgument generateCommentForLastArgument(const ProjectSettings& settings) const;
+
+ protected:
+  using MemberWrapper::MemberWrapper;
+
+ private:
+  std::string pageReturn(PageContext& context) const override;
+  std::string pageSource(PageContext& context) const final;
+};
+
+/// A Property Get, or the reading side of a public variable of a class.
+class SpropGet final : public PropertyWrapper {
+ public:
+  SpropGet(ModuleSource& source, Member& member)
+      : PropertyWrapper(WrapperKind::propGet, source, member) {}
+  bool hasNoLetSet = true;
+
+  /// The declared type.
+  std::string getReturns() const;
+
+ private:
+  std::string pageReturn(PageContext& context) const override;
+};
+
+/// A Property Let.
+class SpropLet final : public PropertyWrapper {
+ public:
+  SpropLet(ModuleSource& source, Member& member)
+      : PropertyWrapper(WrapperKind::propLet, source, member) {}
+};
+
+/// A Property Set, or the writing side of a public variable of a class.
+class SpropSet final : public PropertyWrapper {
+ public:
+  SpropSet(ModuleSource& source, Member& member)
+      : PropertyWrapper(WrapperKind::propSet, source, member) {}
+
+  /// A @param line with the last @param entry of the comment, or empty if it has none.
+  std::string getExistingCommentForLastArgument(const ProjectSettings& settings) const;
+};
+
+class Svariable final : public MemberWrapper {
+ public:
+  Svariable(ModuleSource& source, Member& member)
+      : MemberWrapper(WrapperKind::variable, source, member) {}
+  CommentLines generateComment(const ProjectSettings& settings) const override;
+
+  /// The declared type.
+  std::string getReturns() const;
+
+ private:
+  std::string pageReturn(PageContext& context) const override;
+  std::string pageSource(PageContext& context) const override;
+  bool hasParameters() const override { return false; }
+};
+
+class Sconstant final : public MemberWrapper {
+ public:
+  Sconstant(ModuleSource& source, Member& member)
+      : MemberWrapper(WrapperKind::constant, source, member) {}
+  CommentLines generateComment(const ProjectSettings& settings) const override;
+
+  /// The mark of the constant's type and its value.
+  std::string getReturns() const;
+
+ private:
+  std::string pageReturn(PageContext& context) const override;
+  std::string pageSource(PageContext& context) const override;
+  bool hasParameters() const override { return false; }
+};
+
+/// A standard module, form or class.
+class Smodule final : public Wrapper {
+ public:
+  explicit Smodule(ModuleSource& source) : Wrapper(WrapperKind::module, source, source.name()) {}
+  int CodeLocation() const override { return 1; }
+  CommentLines generateComment(const ProjectSettings& settings) const override;
+  std::string compile(PageContext& context) override;
+
+  std::string ideDescription() const override { return cmo().Parent().Description(); }
+  void setIdeDescription(const std::string& text) override { cmo().Parent().setDescription(text); }
+  int ideHelpContextID() const override { return cmo().Parent().HelpContextID(); }
+  void setIdeHelpContextID(int id) override { cmo().Parent().setHelpContextID(id); }
+};
+
+/// A wrapper for the member, or null if its kind isn't known or, for a property, if its declaration
+/// isn't where the IDE says.
+WrapperRef makeWrapper(ModuleSource& source, Member& member);
+
+/// A wrapper for the member that a line of source belongs to; for the module if there is none.
+WrapperRef getWrapperAtLine(ModuleSource& source, int line);
+
+}  // namespace tamrikon
