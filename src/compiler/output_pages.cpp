@@ -1,0 +1,145 @@
+#include "compiler/output_pages.h"
+
+#include "compiler/external_programs.h"
+#include "compiler/topic_order.h"
+#include "model/index_contents.h"
+
+namespace tamrikon {
+
+OutputPages::OutputPages(Session& session, store& store, VBE& ide)
+    : session_(session), store_(store), ide_(ide), projectName_(ide.ActiveVBProject().Name()) {}
+
+// A failure has been reported by the writer; an answer that gives up shows at the next checkpoint.
+void OutputPages::put(Write write, std::string_view name, std::string_view extension,
+                      const std::string& text) {
+  std::string path = session_.settings.outputPath;
+  path.append(name).append(extension);
+  if (write == Write::append) {
+    session_.files.appendTextFile(path, text, false);
+  } else {
+    session_.files.writeTextFile(path, text, false);
+  }
+}
+
+void OutputPages::putPage(std::string_view progress, std::string_view extensionMacro,
+                          std::string_view section, const std::string& name) {
+  show(progress);
+  const std::string extension = store_.evaluateMacro(extensionMacro);
+  if (section == "tamrik-project-body") setProjectName();
+  put(Write::replace, name, extension, store_.evaluateMacro(section));
+}
+
+void OutputPages::setProjectName() {
+  store_.macros.setMacroValue("PROJECT-NAME", projectName_);
+}
+
+bool OutputPages::groupPages() {
+  if (!session_.compileWholeGroup) return true;
+  putPage("group's project file...", "PROJECT-EXT", "tamrik-group-project-body", "Group+");
+  if (!store_.checkpoint()) return false;
+  putPage("group's contents...", "CONTENTS-EXT", "tamrik-group-contents-body", "Group+");
+  return store_.checkpoint();
+}
+
+void OutputPages::compileFiles() {
+  if (!groupPages()) return;
+  putPage("project file...", "PROJECT-EXT", "tamrik-project-body", projectName_);
+  if (!store_.checkpoint()) return;
+  putPage("contents...", "CONTENTS-EXT", "tamrik-contents-body", projectName_);
+  if (!store_.checkpoint()) return;
+  putPage("index...", "INDEX-EXT", "tamrik-index-body", projectName_);
+  if (!store_.checkpoint()) return;
+  putPage("title page...", "MEMBER-EXT", "tamrik-title-body", projectName_ + "+title");
+  if (!store_.checkpoint()) return;
+  if (putTopics()) closingSteps();
+}
+
+bool OutputPages::wantsTopic(const Wrapper& wrapper) const {
+  if (wrapper.kind() != WrapperKind::module) return true;
+  const ComponentType type = wrapper.source().type();
+  if (isStandardModule(type)) return session_.settings.comStdModule;
+  return isForm(type) ? session_.settings.comForm : session_.settings.comObject;
+}
+
+std::string OutputPages::topicText(Wrapper& wrapper) {
+  PageContext context = store_.pageContext();
+  return wrapper.compile(context);
+}
+
+bool OutputPages::putTopics() {
+  const std::string extension = store_.evaluateMacro("MEMBER-EXT");
+  for (const WrapperRef& wrapper : store_.compiledList) {
+    if (!store_.checkpoint()) return false;
+    store_.links.compiledWrapper = wrapper.get();
+    const std::string& module = wrapper->source().name();
+    const bool isModule = wrapper->kind() == WrapperKind::module;
+    session_.log.ShowProgress(module, isModule ? std::string() : wrapper->name());
+    if (wantsTopic(*wrapper)) {
+      const std::string name = isModule ? module : module + "-" + wrapper->name();
+      put(Write::replace, name, extension, topicText(*wrapper));
+    }
+    session_.ui.setProgress(++topicsDone_, store_.compiledList.size());
+  }
+  return true;
+}
+
+void OutputPages::closingSteps() {
+  show("external programs...");
+  // Expanded in any case: what the section does to counters and the log mustn't depend on a switch.
+  const std::string commands = store_.evaluateMacro("tamrik-exec-after");
+  if (session_.runsPrograms) ExternalPrograms(session_).runExternalPrograms(commands);
+  if (session_.settings.comContextID) {
+    ide_.ActiveVBProject().setHelpFile(store_.evaluateMacro("tamrik-help-file"));
+  }
+}
+
+bool OutputPages::appendGroupPages(std::string& extension) {
+  if (!session_.compileWholeGroup) return true;
+  show("group's project file...");
+  extension = store_.evaluateMacro("PROJECT-EXT");
+  put(Write::replace, "Group+", extension, store_.evaluateMacro("tamrik-group-project-body"));
+  if (!store_.checkpoint()) return false;
+  show("group's contents...");
+  put(Write::append, "Group+", extension, store_.evaluateMacro("tamrik-group-contents-body"));
+  return store_.checkpoint();
+}
+
+void OutputPages::compileSingleFile() {
+  std::string extension = store_.evaluateMacro("MEMBER-EXT");
+  if (!appendGroupPages(extension)) return;
+  show("project file...");
+  setProjectName();
+  put(Write::replace, projectName_, extension, store_.evaluateMacro("tamrik-project-body"));
+  if (!store_.checkpoint()) return;
+  show("title page...");
+  put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-title-body"));
+  if (!store_.checkpoint()) return;
+  show("contents...");
+  makeContents(store_.compiledList, store_.macros);
+  put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-contents-body"));
+  if (!store_.checkpoint()) return;
+  if (!appendTopics(extension)) return;
+  show("index...");
+  store_.macros.setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(store_.compiledList));
+  put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-index-body"));
+  if (!store_.checkpoint()) return;
+  closingSteps();
+}
+
+bool OutputPages::appendTopics(const std::string& extension) {
+  for (const std::vector<WrapperRef>& stretch : topicOrder(store_.compiledList)) {
+    if (!store_.checkpoint()) return false;
+    for (const WrapperRef& wrapper : stretch) appendWrapperPage(*wrapper, extension);
+  }
+  return true;
+}
+
+void OutputPages::appendWrapperPage(Wrapper& wrapper, const std::string& extension) {
+  store_.links.compiledWrapper = &wrapper;
+  const bool isModule = wrapper.kind() == WrapperKind::module;
+  session_.log.ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
+  if (wantsTopic(wrapper)) put(Write::append, projectName_, extension, topicText(wrapper));
+  session_.ui.setProgress(++topicsDone_, store_.compiledList.size());
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,51 @@
+// Writes the pages of a compile, in one file each or all in one, and runs the closing steps.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "compiler/session.h"
+#include "compiler/store.h"
+#include "ide/ide.h"
+
+namespace tamrikon {
+
+class OutputPages {
+ public:
+  /// All of them must outlive this object. The project is the active one.
+  OutputPages(Session& session, store& store, VBE& ide);
+
+  /// A file for each page and each topic.
+  void compileFiles();
+
+  /// All pages of the project in one file, the topics module by module.
+  void compileSingleFile();
+
+ private:
+  enum class Write { replace, append };
+
+  void show(std::string_view name) { session_.log.ShowProgress(name, ""); }
+  void put(Write write, std::string_view name, std::string_view extension, const std::string& text);
+  void putPage(std::string_view progress, std::string_view extensionMacro, std::string_view section,
+               const std::string& name);
+  bool groupPages();
+  bool putTopics();
+  void setProjectName();
+  void closingSteps();
+
+  bool wantsTopic(const Wrapper& wrapper) const;
+  std::string topicText(Wrapper& wrapper);
+
+  bool appendGroupPages(std::string& extension);
+  bool appendTopics(const std::string& extension);
+  void appendWrapperPage(Wrapper& wrapper, const std::string& extension);
+
+  Session& session_;
+  store& store_;
+  VBE& ide_;
+  const std::string projectName_;
+  std::size_t topicsDone_ = 0;
+};
+
+}  // namespace tamrikon

@@ -1,0 +1,39 @@
+// Resolves @same: a comment that points to another member is replaced by that member's, and the
+// topic of that member serves both.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+
+#include "comments/comment_parser.h"
+#include "model/links.h"
+#include "model/wrapper_collections.h"
+
+namespace tamrikon {
+
+class SameComments {
+ public:
+  /// All of them must outlive this object.
+  SameComments(const WrapperCollections& wrappers, Links& links, CommentParser& parser)
+      : wrappers_(wrappers), links_(links), parser_(parser) {}
+
+  /// Follows chains to their end. A reference that leads nowhere, or in a circle, leaves the member
+  /// with its own comment. Afterwards every wrapper has an entry in the link aliases.
+  void resolveSameComments();
+
+ private:
+  enum class State { notVisited, onTheWay, unresolved, done };
+
+  /// The wrapper that its comment points to; null if it doesn't point, with `points` telling
+  /// whether it does.
+  Wrapper* targetOf(const Wrapper& wrapper, bool& points);
+  void resolveSameOf(Wrapper& wrapper);
+  void finish(Wrapper& wrapper, const Wrapper& target);
+
+  const WrapperCollections& wrappers_;
+  Links& links_;
+  CommentParser& parser_;
+  std::unordered_map<const Wrapper*, State> states_;
+};
+
+}  // namespace tamrikon

@@ -1,0 +1,48 @@
+// Everything that lives as long as the program is connected to an IDE or a project, in one object
+// that is handed down by reference. Two sessions can live side by side.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "compiler/file_error_dialog.h"
+#include "compiler/progress_log.h"
+#include "compiler/user_interface.h"
+#include "platform/process.h"
+#include "platform/text_files.h"
+#include "settings/project_settings.h"
+#include "settings/settings_file.h"
+
+namespace tamrikon {
+
+class store;
+
+class Session {
+ public:
+  /// All of them must outlive this object. `dataFolder` is the folder of the program's data, with
+  /// no separator at its end.
+  Session(UserInterface& userInterface, FileSystem& fileSystem, ProcessServices& processServices,
+          std::string dataFolder);
+  ~Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  UserInterface& ui;
+  ProcessServices& processes;
+  const std::string addInFolder;
+
+  bool cancelRequested = false;    // stops a running compile at its next checkpoint
+  bool compileWholeGroup = false;  // the compile in work is one of a group's
+  bool runsPrograms = true;        // whether a template's external programs run
+
+  ProgressLog log;
+  FileErrorDialog fileErrors;
+  TextFiles files;
+  ProjectSettings settings;
+  SettingsFile settingsFile;
+
+  /// The store of the last compile: its macros can still answer.
+  std::unique_ptr<store> currentStore;
+};
+
+}  // namespace tamrikon

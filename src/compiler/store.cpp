@@ -1,0 +1,112 @@
+#include "compiler/store.h"
+
+#include "base/paths.h"
+#include "base/text.h"
+#include "compiler/output_pages.h"
+#include "compiler/same_comments.h"
+#include "model/index_contents.h"
+#include "model/project_analysis.h"
+#include "model/property_merging.h"
+
+namespace tamrikon {
+
+store::store(Session& session)
+    : macros(session.log),
+      comments(session.settings),
+      lists(wrappers),
+      links(wrappers, lists, session.log),
+      session_(session),
+      parser_(session.settings) {
+  macros.setLinkResolver(&links);
+}
+
+int store::loadSrc(const std::string& file, bool silent) {
+  return macros.loadSrc(file, silent, session_.files);
+}
+
+PageContext store::pageContext() {
+  return {macros, parser_, session_.settings, wrappers, lists};
+}
+
+void store::clearCollections() {
+  macros.clear();
+  links.compiledWrapper = nullptr;
+  compiledList.clear();
+  lists.forget();
+  wrappers.clear();
+}
+
+bool store::checkpoint() {
+  session_.ui.pumpEvents();
+  if (!session_.cancelRequested) return true;
+  clearCollections();
+  return false;
+}
+
+void store::compile(VBE& VBInstance) {
+  session_.log.lastLogMessage.clear();
+  session_.log.logMessage("Project: " + VBInstance.ActiveVBProject().Name());
+  session_.log.ShowProgress("Analysing the project...", "");
+  macros.resetRunState();
+  comments.nextHelpId = 100;
+  links.linkAliases = {};
+  if (!analyse()) return;
+  for (const WrapperRef& wrapper : wrappers.all) {
+    wrapper->needsModule = lists.needsModuleName(*wrapper);
+  }
+  compiledList = makeIndex(wrappers, links);
+  macros.setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(compiledList));
+  makeContents(compiledList, macros);
+  publishPaths();
+  publishGroup(VBInstance);
+  OutputPages pages(session_, *this, VBInstance);
+  if (macros.evaluateMacro("SPLIT") == "0") {
+    pages.compileSingleFile();
+  } else {
+    pages.compileFiles();
+  }
+}
+
+bool store::analyse() {
+  ProjectAnalysis analysis(session_.settings, sources_, comments, wrappers);
+  analysis.analyseProject([&] {
+    session_.ui.pumpEvents();
+    return !session_.cancelRequested;
+  });
+  if (!checkpoint()) return false;
+  PropertyMerging merging(wrappers, links, parser_, session_.settings);
+  merging.makeSamePropsFirst();
+  if (!checkpoint()) return false;
+  SameComments(wrappers, links, parser_).resolveSameComments();
+  if (!checkpoint()) return false;
+  merging.makeSameProps();
+  lists.forget();
+  return checkpoint();
+}
+
+void store::publishPaths() {
+  ProjectSettings& settings = session_.settings;
+  const auto publish = [&](std::string_view macro, std::string_view folder) {
+    macros.setMacroValue(macro, doubleDollars(withoutTrailingSeparator(folder)));
+  };
+  macros.setMacroValue("TAMRIK-PATH", doubleDollars(session_.addInFolder));
+  macros.setMacroValue("CHARSET", session_.files.codePage().webName());
+  publish("TEMPLATE-PATH", settings.templateFolder);
+  publish("OUTPUT-PATH", settings.outputPath);
+  settings.outputPath = joinPath(withoutTrailingSeparator(settings.outputPath), "");
+  macros.setMacroValue("TITLE-PAGE-TEXT", settings.titlePageText);
+}
+
+void store::publishGroup(VBE& ide) {
+  auto projects = std::make_shared<MacroList>();
+  if (session_.compileWholeGroup) {
+    const VBProjects& all = ide.VBProjects();
+    // The form of a file in a link list: a template gets the name as $LIST-ITEM-FILE$.
+    for (int number = 1; number <= all.Count(); ++number) {
+      projects->push_back("\"" + all.Item(number).Name() + "\r");
+    }
+  }
+  macros.setMacroValue("GROUP-PROJECTS-LIST", projects);
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,64 @@
+// The central class of a compile: the macro table of a template, the wrappers of a project and
+// what turns them into pages. Each of its groups of operations is a class of the folder that it
+// belongs to; this one makes them work on one state and runs the compile.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "comments/comment_parser.h"
+#include "compiler/session.h"
+#include "ide/ide.h"
+#include "model/link_lists.h"
+#include "model/links.h"
+#include "model/module_source.h"
+#include "model/page_context.h"
+#include "model/wrapper_collections.h"
+#include "model/wrapper_comments.h"
+#include "template/macro_table.h"
+
+namespace tamrikon {
+
+class store {
+ public:
+  /// `session` must outlive this object; the IDE's objects, as long as it holds their wrappers.
+  explicit store(Session& session);
+
+  /// Loads a template: 0 for success, 2 if the user gave up at the file error dialog, 3 for any
+  /// other failure.
+  int loadSrc(const std::string& file, bool silent);
+
+  /// Turns the active project of the IDE into documentation. A request to cancel ends it at the
+  /// next checkpoint; the store is empty then.
+  void compile(VBE& VBInstance);
+
+  std::string evaluateMacro(std::string_view name) { return macros.evaluateMacro(name); }
+
+  MacroTable macros;
+  WrapperCollections wrappers;
+  WrapperComments comments;
+  LinkLists lists;
+  Links links;
+
+  /// The wrappers that get a topic, in the order of all wrappers.
+  std::vector<WrapperRef> compiledList;
+
+  /// What the making of a page needs.
+  PageContext pageContext();
+
+  /// Gives way to pending events. False, with everything dropped, if the compile is to end.
+  bool checkpoint();
+
+ private:
+  void clearCollections();
+  bool analyse();
+  void publishPaths();
+  void publishGroup(VBE& ide);
+
+  Session& session_;
+  SourceCache sources_;
+  CommentParser parser_;
+};
+
+}  // namespace tamrikon

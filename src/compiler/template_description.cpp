@@ -1,0 +1,24 @@
+#include "compiler/template_description.h"
+
+#include <algorithm>
+
+#include "base/paths.h"
+#include "base/text.h"
+#include "compiler/store.h"
+
+namespace tamrikon {
+
+std::string readTemplateDescription(Session& session, const std::string& path) {
+  session.currentStore = std::make_unique<store>(session);
+  store& described = *session.currentStore;
+  if (described.loadSrc(path, true) != 0) return "Cannot read descriptionfrom " + path + "file.";
+  const std::string folder(withoutTrailingSeparator(session.settings.outputPath));
+  described.macros.setMacroValue("TAMRIK-PATH", session.addInFolder);
+  described.macros.setMacroValue("OUTPUT-PATH", folder);
+  if (!folder.empty()) session.settings.outputPath = joinPath(folder, "");
+  std::string text = described.evaluateMacro("tamrik-description");
+  std::replace(text.begin(), text.end(), '\r', ' ');
+  return text;
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,91 @@
+#include "compiler/external_programs.h"
+
+#include <gtest/gtest.h>
+
+#include "compiler/store.h"
+#include "support/recording_ui.h"
+#include "support/temp_folder.h"
+
+namespace tamrikon {
+namespace {
+
+using Messages = std::vector<std::string>;
+
+class ExternalProgramsTest : public testing::Test {
+ protected:
+  ExternalProgramsTest() { session_.settings.outputPath = folder_ / "a 'b' $c"; }
+
+  std::string run(const std::string& text) {
+    ui_.messages.clear();
+    std::filesystem::create_directories(session_.settings.outputPath);
+    ExternalPrograms(session_).runExternalPrograms(text);
+    return ui_.messages.size() == 1 ? ui_.messages.front() : "";
+  }
+
+  test::TempFolder folder_;
+  test::RecordingUi ui_;
+  Session session_{ui_, nativeFileSystem(), nativeProcessServices(), "/data"};
+};
+
+TEST_F(ExternalProgramsTest, RunsEachLineAsItStandsAndLogsItWithItsOutput) {
+  const std::string log =
+      run("  echo 1 2  \r   \recho '$x' \"50%\" | cat\rcd /\rpwd\recho \"open\rfalse\recho out; "
+          "echo err "
+          ">&2");
+  EXPECT_EQ(log,
+            "echo 1 2\n1 2\n"
+            "echo '$x' \"50%\" | cat\n$x 50%\n"
+            "cd /\npwd\n/\n"
+            "echo \"open\n"
+            "false\n"
+            "echo out; echo err >&2\nout\n");
+  EXPECT_TRUE(std::filesystem::is_empty(session_.settings.outputPath));
+}
+
+TEST_F(ExternalProgramsTest, ReportsWhatItCannotRun) {
+  constexpr const char* kCannot = "ERROR: Cannot create and execute batch file.";
+  EXPECT_EQ(run("  "), kCannot);  // no command leaves no log
+  EXPECT_TRUE(folder_.has("a 'b' $c/execAfter.sh"));
+  session_.settings.outputPath = folder_ / "gone";
+  ExternalPrograms(session_).runExternalPrograms("echo");
+  EXPECT_EQ(ui_.messages.back(), kCannot);
+}
+
+class NoProcesses final : public ProcessServices {
+ public:
+  int pauses = 0;
+  std::string GetEnvironmentVariable(const std::string&) override { return {}; }
+  bool CreateProcess(const std::string&, const std::vector<std::string>&, ProcessHandle&,
+                     int& error) override {
+    error = 2;
+    return false;
+  }
+  void WaitForSingleObject(const ProcessHandle&) override {}
+  void CloseHandle(ProcessHandle&) override {}
+  int GetThreadLocale() override { return 1033; }
+  std::string GetLocaleInfoA(int, int) override { return std::string("1250\0\0", 6); }
+  void Sleep(int) override { ++pauses; }
+};
+
+TEST_F(ExternalProgramsTest, TellsWhyAProcessDidNotStartAndRepeatsAFailingDelete) {
+  NoProcesses processes;
+  Session session(ui_, nativeFileSystem(), processes, "/data");
+  session.settings.outputPath = folder_.path();
+  ExternalPrograms programs(session);
+  EXPECT_EQ(programs.threadCodePage(), 1250);
+  programs.runExternalPrograms("echo");
+  const std::string script = folder_ / "execAfter.sh";
+  const std::string log = folder_ / "execAfter.log";
+  EXPECT_EQ(ui_.messages, (Messages{"ERROR: Cannot execute /bin/sh " + script + ".",
+                                    "CreateProcess failed. Error: 2",
+                                    "ERROR: Cannot create and execute batch file."}));
+  // What looks like the log of an earlier run is taken for this one's.
+  folder_.put("execAfter.log", "old");
+  ui_.messages.clear();
+  programs.runExternalPrograms("echo");
+  EXPECT_EQ(ui_.messages.back(), "old");
+  EXPECT_EQ(processes.pauses, 0);
+}
+
+}  // namespace
+}  // namespace tamrikon
