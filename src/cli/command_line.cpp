@@ -1,0 +1,86 @@
+#include "cli/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+
+#include "cli/commands.h"
+#include "cli/setting_overrides.h"
+#include "platform/code_page.h"
+
+namespace tamrikon {
+namespace {
+
+void addCodePage(CLI::App& command, int& number) {
+  command.add_option("--codepage", number, "Code page of the project, instead of the one found")
+      ->check(CLI::IsMember(CodePage::numbers()));
+}
+
+void addProject(CLI::App& command, ProjectOptions& options) {
+  command.add_option("PROJECT", options.project, "A project (.vbp) or a project group (.vbg)")
+      ->required();
+  addCodePage(command, options.codePage);
+}
+
+std::string checkSetting(const std::string& text) {
+  return faultOfSetting(text);
+}
+
+void addCompile(CLI::App& app, CompileOptions& options) {
+  CLI::App& command = *app.add_subcommand(
+      "compile", "Compile the documentation of a project, or of all projects of a group");
+  addProject(command, options);
+  command.add_option("--set", options.settings, "Change a setting for this run")
+      ->type_name("KEY=VALUE")
+      ->take_all()
+      ->allow_extra_args(false)
+      ->check(checkSetting);
+  command.add_option("--template", options.templateFile, "Template for this run")
+      ->type_name("FILE");
+  command.add_option("--output", options.outputFolder, "Output folder for this run")
+      ->type_name("DIR");
+  command.add_flag_callback(
+      "--no-exec", [&options] { options.runsPrograms = false; }, "Run no external programs");
+  command.add_flag("--save", options.saves,
+                   "Save the sources and projects whose attributes the compile changed");
+  command.add_option("--log", options.logFile, "Write the progress log there as well")
+      ->type_name("FILE");
+  command.add_flag("--quiet", options.quiet, "Print only the warnings and errors of the log");
+  command.add_flag("--fail-on-warnings", options.failsOnWarnings,
+                   "Exit with status 3 if the log has a warning or an error");
+}
+
+void addSettings(CLI::App& app, SettingsOptions& options) {
+  CLI::App& command =
+      *app.add_subcommand("settings", "Print the settings of a project, or change and save them");
+  addProject(command, options);
+  command.add_option("SETTINGS", options.settings, "Settings to change")
+      ->type_name("KEY=VALUE")
+      ->check(checkSetting);
+}
+
+}  // namespace
+
+int runTamrikon(const std::vector<std::string>& arguments, const Streams& streams) {
+  CLI::App app("Turns the comments of Visual Basic projects into documentation.", "tamrikon");
+  app.set_version_flag("--version", "tamrikon " TAMRIKON_VERSION);
+  app.require_subcommand(1);
+  CompileOptions compile;
+  SettingsOptions settings;
+  int templatesCodePage = 0;
+  addCompile(app, compile);
+  addSettings(app, settings);
+  addCodePage(*app.add_subcommand("templates", "List the templates with their descriptions"),
+              templatesCodePage);
+  // "--version" is to work behind a command as well.
+  for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
+  try {
+    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+  } catch (const CLI::ParseError& outcome) {
+    return app.exit(outcome, streams.out, streams.err) == 0 ? kDone : kWrongUsage;
+  }
+  if (app.got_subcommand("compile")) return compileCommand(compile, streams);
+  if (app.got_subcommand("settings")) return settingsCommand(settings, streams);
+  return templatesCommand(templatesCodePage, streams);
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,22 @@
+// The program `tamrikon`, apart from its main(): it can run inside another program, with streams of
+// that program's choice.
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace tamrikon {
+
+struct Streams {
+  std::ostream& out;
+  std::ostream& err;
+  bool errIsTerminal = false;  // whether a status line makes sense
+};
+
+enum ExitStatus { kDone = 0, kFailed = 1, kWrongUsage = 2, kHadWarnings = 3 };
+
+/// `arguments` without the program's name. The exit status is one of those above.
+int runTamrikon(const std::vector<std::string>& arguments, const Streams& streams);
+
+}  // namespace tamrikon

@@ -1,0 +1,13 @@
+#include <unistd.h>
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/command_line.h"
+
+int main(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  tamrikon::Streams streams{std::cout, std::cerr, ::isatty(STDERR_FILENO) != 0};
+  return tamrikon::runTamrikon(std::vector<std::string>(argv + 1, argv + argc), streams);
+}

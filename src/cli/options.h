@@ -1,0 +1,30 @@
+// What the command line asks for.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tamrikon {
+
+/// The code page of --codepage; 0 if it is to be found.
+struct ProjectOptions {
+  std::string project;
+  int codePage = 0;
+};
+
+struct CompileOptions : ProjectOptions {
+  std::vector<std::string> settings;  // KEY=VALUE
+  std::string templateFile;
+  std::string outputFolder;
+  std::string logFile;
+  bool runsPrograms = true;
+  bool saves = false;
+  bool quiet = false;
+  bool failsOnWarnings = false;
+};
+
+struct SettingsOptions : ProjectOptions {
+  std::vector<std::string> settings;  // KEY=VALUE; none: the settings are printed
+};
+
+}  // namespace tamrikon

@@ -1,0 +1,20 @@
+// Opening the project of a command.
+#pragma once
+
+#include <memory>
+
+#include "cli/options.h"
+#include "cli/terminal.h"
+#include "compiler/session.h"
+#include "host/host_ide.h"
+
+namespace tamrikon {
+
+/// Null, with a line on the error stream, if the project can't be opened.
+std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& terminal);
+
+/// Makes `project` the active one and reads its settings. A settings file that is there but can't
+/// be used is told on the error stream, and false is returned; the defaults hold then.
+bool activateProject(Session& session, HostIde& ide, VBProject& project, Terminal& terminal);
+
+}  // namespace tamrikon

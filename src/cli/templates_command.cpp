@@ -1,0 +1,48 @@
+#include <algorithm>
+
+#include "base/case_folding.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "base/utf8.h"
+#include "cli/commands.h"
+#include "cli/data_folder.h"
+#include "cli/terminal.h"
+#include "compiler/store.h"
+#include "compiler/template_description.h"
+
+namespace tamrikon {
+namespace {
+
+std::vector<std::string> templateNames(FileSystem& files, const std::string& folder) {
+  std::vector<std::string> names = files.list(folder);
+  std::erase_if(names, [&](const std::string& name) {
+    const std::size_t dot = name.rfind('.');
+    return dot == std::string::npos || !equalIgnoringCase(name.substr(dot), ".tmkt") ||
+           !files.isFile(joinPath(folder, name));
+  });
+  std::sort(names.begin(), names.end());  // of names that differ in case alone, a fixed order
+  std::stable_sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+    return lowered(baseName(a)) < lowered(baseName(b));
+  });
+  return names;
+}
+
+}  // namespace
+
+int templatesCommand(int codePage, const Streams& streams) {
+  constexpr std::size_t kNameWidth = 16;
+  Terminal terminal(streams, true);  // faults of a template show when it is compiled with
+  Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
+  if (codePage != 0) session.files.setCodePage(*CodePage::find(codePage));
+  const std::string folder = joinPath(session.addInFolder, "Templates");
+  for (const std::string& name : templateNames(session.files.files(), folder)) {
+    std::string line(baseName(name));
+    const std::size_t width = codePointCount(line);
+    line.append(width < kNameWidth ? kNameWidth - width : 1, ' ');
+    line += replaceAll(readTemplateDescription(session, joinPath(folder, name)), "\n", " ");
+    streams.out << line << '\n';
+  }
+  return kDone;
+}
+
+}  // namespace tamrikon
