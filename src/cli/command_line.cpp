@@ -58,6 +58,18 @@ void addSettings(CLI::App& app, SettingsOptions& options) {
       ->check(checkSetting);
 }
 
+/// What is wrong with the choice of a command; empty if nothing is.
+std::string faultOfCommand(CLI::App& app, const std::vector<std::string>& arguments) {
+  if (arguments.empty()) return "a COMMAND is needed";
+  const std::string& first = arguments.front();
+  const auto commands = app.get_subcommands({});
+  const bool isKnown = first.starts_with('-') ||
+                       std::any_of(commands.begin(), commands.end(), [&](const CLI::App* command) {
+                         return command->get_name() == first;
+                       });
+  return isKnown ? std::string() : "there is no command '" + first + "'";
+}
+
 }  // namespace
 
 int runTamrikon(const std::vector<std::string>& arguments, const Streams& streams) {
@@ -73,6 +85,11 @@ int runTamrikon(const std::vector<std::string>& arguments, const Streams& stream
               templatesCodePage);
   // "--version" is to work behind a command as well.
   for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
+  const std::string fault = faultOfCommand(app, arguments);
+  if (!fault.empty()) {
+    streams.err << "tamrikon: " << fault << "\nRun with --help for more information.\n";
+    return kWrongUsage;
+  }
   try {
     app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
   } catch (const CLI::ParseError& outcome) {

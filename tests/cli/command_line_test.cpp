@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include "support/program_run.h"
+#include "support/temp_folder.h"
+
+namespace tamrikon {
+namespace {
+
+using test::ProgramRun;
+
+/// A project of one class, and a template that writes little.
+class CommandLineTest : public testing::Test {
+ protected:
+  CommandLineTest() {
+    folder_.put("Cart.cls",
+                "Attribute VB_Name = \"Cart\"\r\n'**\r\n'Fills it.\r\nPublic Sub Fill()\r\n"
+                "End Sub\r\n");
+    project_ = folder_.put("Shop.vbp", "Type=Exe\r\nClass=Cart; Cart.cls\r\nName=\"Shop\"\r\n");
+    template_ = folder_.put(
+        "t/own.tmkt",
+        "$MEMBER-EXT$ .txt\n$PROJECT-EXT$ .p\n$INDEX-EXT$ .i\n$CONTENTS-EXT$ .c\n"
+        "$tamrik-project-body$\n$end-tamrik-project-body$\n$tamrik-exec-after$\necho ran\n"
+        "$end-tamrik-exec-after$\n$tamrik-help-file$\nout.chm\n$end-tamrik-help-file$\n"
+        "$tamrik-method-body$\n$MEMBER-DESCRIPTION$\n$end-tamrik-method-body$\n");
+  }
+
+  ProgramRun compile(const std::vector<std::string>& more, bool errIsTerminal = false) {
+    std::vector<std::string> arguments = {"compile", project_, "--output", folder_ / "deep/out"};
+    if (more.empty() || more.front() != "--template") {
+      arguments.insert(arguments.end(), {"--template", template_});
+    }
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return ProgramRun(arguments, errIsTerminal);
+  }
+
+  test::TempFolder folder_;
+  std::string project_;
+  std::string template_;
+};
+
+TEST_F(CommandLineTest, WritesPagesIntoANewFolderAndTheLogToItsStreams) {
+  const ProgramRun run = compile({"--log", folder_ / "log.txt"});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.err, "");
+  EXPECT_EQ(run.out, "Project: Shop\necho ran\nran\n\n");
+  EXPECT_EQ(folder_.get("log.txt"), run.out);
+  EXPECT_EQ(folder_.get("deep/out/Cart-Fill.txt"), "Fills it.\r\n");
+  EXPECT_FALSE(folder_.has("deep/out/execAfter.sh"));
+  EXPECT_FALSE(folder_.has("Tamrik")) << "the default folder isn't made for nothing";
+  EXPECT_EQ(compile({"--no-exec"}).out, "Project: Shop\n");
+  EXPECT_EQ(compile({"--quiet"}).out, "");
+}
+
+TEST_F(CommandLineTest, ShowsAStatusLineOnATerminalAlone) {
+  const ProgramRun run = compile({}, true);
+  EXPECT_NE(run.err.find("Compiling: "), std::string::npos);
+  EXPECT_TRUE(run.err.ends_with("\r\x1b[K")) << "the line is gone at the end";
+}
+
+TEST_F(CommandLineTest, TellsWrongUsageFromFailure) {
+  struct Case {
+    std::vector<std::string> arguments;
+    int status;
+    std::string names;  // what the message has to name
+  };
+  for (const Case& c : {
+           Case{{}, 2, "COMMAND"},
+           Case{{"paint"}, 2, "paint"},
+           Case{{"compile"}, 2, "PROJECT"},
+           Case{{"compile", project_, "--set", "colour=1"}, 2, "colour"},
+           Case{{"compile", project_, "--set", "addSee"}, 2, "addSee"},
+           Case{{"compile", project_, "--set", "indentMode=1x"}, 2, "indentMode=1x"},
+           Case{{"compile", project_, "--codepage", "437"}, 2, "437"},
+           Case{{"compile", project_, "--frob"}, 2, "--frob"},
+           Case{{"settings", project_, "addsee=1"}, 2, "addsee"},
+           Case{{"compile", folder_ / "gone.vbp"}, 1, "gone.vbp"},
+           Case{{"settings", folder_.path()}, 1, folder_.path()},
+       }) {
+    const ProgramRun run(c.arguments);
+    EXPECT_EQ(run.status, c.status) << c.names;
+    EXPECT_NE(run.err.find(c.names), std::string::npos) << run.err;
+    EXPECT_EQ(run.out, "");
+  }
+  EXPECT_EQ(ProgramRun({"--version"}).out.rfind("tamrikon ", 0), 0U);
+  EXPECT_EQ(ProgramRun({"compile", "--help"}).status, 0);
+}
+
+TEST_F(CommandLineTest, ReportsATemplateThatIsntThereAndStops) {
+  const ProgramRun run = compile({"--template", folder_ / "t/none"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err, "Error reading " + (folder_ / "t/none.tmkt") +
+                         " file: Unrecognized file error.\n"
+                         "tamrikon: the compile of Shop was stopped\n");
+  EXPECT_FALSE(folder_.has("deep/out/Shop.p"));
+}
+
+TEST_F(CommandLineTest, FailsOnWarningsIfAskedTo) {
+  folder_.put("Cart.cls", "'**\n'@see Gone\nPublic Sub Fill()\nEnd Sub\n");
+  folder_.put("t/own.tmkt",
+              "$MEMBER-EXT$ .txt\n$tamrik-method-body$\n$DOLIST$ $SEE-LINK-LIST$\n"
+              "$END-DOLIST$\n$end-tamrik-method-body$\n");
+  EXPECT_EQ(compile({"--no-exec"}).status, 0);
+  const ProgramRun run = compile({"--no-exec", "--quiet", "--fail-on-warnings"});
+  EXPECT_EQ(run.status, 3);
+  EXPECT_EQ(run.out,
+            "Warning: The dead link 'Gone' was found in 'Fill' member of 'Cart' module.\n");
+}
+
+TEST_F(CommandLineTest, ChangesSourcesWithSaveAlone) {
+  std::vector<std::string> arguments = {"--set", "comContextID=1", "--set", "comWriteDescription=1",
+                                        "--no-exec"};
+  const std::string source = folder_.get("Cart.cls");
+  const std::string project = folder_.get("Shop.vbp");
+  EXPECT_EQ(compile(arguments).status, 0);
+  EXPECT_EQ(folder_.get("Cart.cls"), source);
+  EXPECT_EQ(folder_.get("Shop.vbp"), project);
+  arguments.emplace_back("--save");
+  EXPECT_EQ(compile(arguments).status, 0);
+  // The comment stands at the top of the module as well, so that the class has it too.
+  EXPECT_EQ(folder_.get("Cart.cls"),
+            "Attribute VB_Name = \"Cart\"\r\nAttribute VB_HelpID = 100\r\n"
+            "Attribute VB_Description = \"Fills it.\"\r\n'**\r\n'Fills it.\r\n"
+            "Public Sub Fill()\r\nAttribute Fill.VB_Description = \"Fills it.\"\r\n"
+            "Attribute Fill.VB_HelpID = 101\r\nEnd Sub\r\n");
+  EXPECT_EQ(folder_.get("Shop.vbp"), project + "HelpFile=\"out.chm\"\r\n");
+}
+
+TEST_F(CommandLineTest, ListsTheTemplates) {
+  ::setenv("TAMRIKON_HOME", folder_.path().c_str(), 1);
+  folder_.put("Templates/long-enough-a-name.tmkt",
+              "$tamrik-description$\nTwo\nlines.\n$end-tamrik-description$");
+  folder_.put("Templates/B.TMKT", "$tamrik-description$\nSecond.\n$end-tamrik-description$");
+  folder_.put("Templates/a.tmkt", "");
+  folder_.put("Templates/notes.txt", "");
+  const ProgramRun run({"templates"});
+  ::unsetenv("TAMRIKON_HOME");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.out,
+            "a               $tamrik-description$\nB               Second.\n"
+            "long-enough-a-name Two lines.\n");
+}
+
+TEST_F(CommandLineTest, GoesOnWithAGroupBehindAProjectThatWasStopped) {
+  folder_.put("Shop.tamrik", "#Tamrikon Project Settings#\noutputPath = /nowhere/at/all\n");
+  folder_.put("Second.vbp", "Class=Cart; Cart.cls\nName=\"Second\"\n");
+  folder_.put("None.vbp", "Name=\"None\"\n");
+  const std::string group = folder_.put("All.vbg",
+                                        "VBGROUP 5.0\nProject=Shop.vbp\nProject=None.vbp\n"
+                                        "Project=Second.vbp\nProject=gone.vbp\n");
+  const ProgramRun run({"compile", group, "--template", template_, "--no-exec"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.out, "Project: Shop\nProject: Second\n");
+  EXPECT_NE(run.err.find("Error saving /nowhere/at/all/Group+.p file: That path doesn't exist."),
+            std::string::npos);
+  EXPECT_TRUE(folder_.has("Tamrik/Cart-Fill.txt"));
+}
+
+}  // namespace
+}  // namespace tamrikon

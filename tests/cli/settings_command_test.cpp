@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "support/program_run.h"
+#include "support/temp_folder.h"
+
+namespace tamrikon {
+namespace {
+
+using test::ProgramRun;
+
+constexpr const char* kHeader = "#Tamrikon Project Settings#";
+
+class SettingsCommandTest : public testing::Test {
+ protected:
+  SettingsCommandTest() {
+    folder_.put("Demo.bas", "Sub A()\nEnd Sub\n");
+    folder_.put("More.bas", "Sub B()\nEnd Sub\n");
+    folder_.put("Doc.txt", "");
+    project_ = folder_.put("DEMO.VBP",
+                           "Module=Demo; Demo.bas\nRelatedDoc=Doc.txt\nModule=More; More.bas\n");
+  }
+
+  /// The value that is printed for `key`; of comModules, all names.
+  std::string valueOf(const std::string& key) {
+    const ProgramRun run({"settings", project_});
+    std::string values;
+    for (const std::string_view line : split(run.out, '\n')) {
+      if (!line.starts_with(key + " = ")) continue;
+      values += (values.empty() ? "" : ",") + std::string(line.substr(key.size() + 3));
+    }
+    return values;
+  }
+
+  test::TempFolder folder_;
+  std::string project_;
+};
+
+TEST_F(SettingsCommandTest, PrintsTheDefaultsInTheOrderOfTheFile) {
+  const ProgramRun run({"settings", project_});
+  EXPECT_EQ(run.status, 0);
+  const auto lines = split(run.out, '\n');
+  ASSERT_EQ(lines.size(), 52U);  // 49 keys, two modules, the end
+  EXPECT_EQ(lines[0], "addSee = 1");
+  EXPECT_EQ(lines[15], "user1Name = user1");
+  EXPECT_EQ(lines[25], "comNonCommented = 1");
+  EXPECT_EQ(lines[43], "wordWrapLength = 80");
+  EXPECT_EQ(valueOf("outputPath"), folder_ / "Tamrik");
+  EXPECT_EQ(valueOf("templatePath"), "chm.tmkt");
+  EXPECT_EQ(valueOf("comModules"), "Demo,More");
+  EXPECT_FALSE(folder_.has("Tamrik")) << "asking changes nothing";
+}
+
+TEST_F(SettingsCommandTest, SavesByteForByteWhatItReads) {
+  const ProgramRun run({"settings", project_, "titlePageText=one^tmkEOL^ two", "comModules=More",
+                        "wordWrapLength=-72", "user2Default=a = b", "user3Name="});
+  EXPECT_EQ(run.status, 0) << run.err;
+  const std::string saved = folder_.get("DEMO.tamrik");
+  EXPECT_TRUE(saved.starts_with(std::string(kHeader) + "\r\naddSee = 1\r\naddParam = 1\r\n"));
+  EXPECT_TRUE(saved.ends_with("\r\ntemplatePath = chm.tmkt\r\ncomModules = More"));
+  EXPECT_NE(saved.find("\r\ntitlePageText = one^tmkEOL^ two\r\n"), std::string::npos);
+  EXPECT_EQ(valueOf("user2Default"), "a = b");
+  EXPECT_EQ(valueOf("user3Name"), "user3");
+  EXPECT_EQ(valueOf("wordWrapLength"), "-72");
+  EXPECT_EQ(ProgramRun({"settings", project_, "addSee=1"}).status, 0);
+  EXPECT_EQ(folder_.get("DEMO.tamrik"), saved);
+}
+
+TEST_F(SettingsCommandTest, TakesAFileWholeOrNotAtAll) {
+  struct Case {
+    const char* name;
+    std::string text;
+    const char* addSee;  // "0" where the file was taken
+    const char* modules;
+  };
+  const std::string header = std::string(kHeader) + "\n";
+  for (const Case& c : {
+           Case{"taken", header + "addSee=0\n no sign \n\ncomModules = MORE\ncomModules = gone\n",
+                "0", "More"},
+           Case{"blanks", header + "  addSee   =  0  \r\ncomModules = Demo", "0", "Demo"},
+           Case{"no module selected", header + "addSee = 0", "0", ""},
+           Case{"anything but 0 is true", header + "addSee =", "1", ""},
+           Case{"header with a blank", std::string(kHeader) + " \naddSee = 0", "1", "Demo,More"},
+           Case{"unknown key", header + "addSee = 0\nnew = 1", "1", "Demo,More"},
+           Case{"key in another case", header + "addSee = 0\nAddRem = 1", "1", "Demo,More"},
+           Case{"no number", header + "addSee = 0\nindentMode = x", "1", "Demo,More"},
+           Case{"17 bits", header + "addSee = 0\nindentMode = 32768", "1", "Demo,More"},
+           Case{"signs", header + "addSee = 0\nindentMode = +1\nwordWrapLength=-32768", "0", ""},
+           Case{"two signs", header + "addSee = 0\nindentMode = +-1", "1", "Demo,More"},
+           Case{"empty", "", "1", "Demo,More"},
+           Case{"junk", std::string("\0\xFF\x81\n", 4), "1", "Demo,More"},
+       }) {
+    SCOPED_TRACE(c.name);
+    folder_.put("DEMO.tamrik", c.text);
+    EXPECT_EQ(valueOf("addSee"), c.addSee);
+    EXPECT_EQ(valueOf("comModules"), c.modules);
+  }
+}
+
+TEST_F(SettingsCommandTest, KeepsTheTextOfAFileThatItCannotUse) {
+  folder_.put("DEMO.tamrik", "somebody's notes");
+  const ProgramRun run({"settings", project_, "addSee=0"});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_NE(run.err.find("DEMO.tamrik isn't a settings file"), std::string::npos);
+  EXPECT_EQ(folder_.get("DEMO.tamrik.bak"), "somebody's notes");
+  EXPECT_EQ(valueOf("addSee"), "0");
+}
+
+TEST_F(SettingsCommandTest, FindsTheTemplateInItsFolderOrFallsBack) {
+  folder_.put("own/mine.tmkt", "");
+  const auto choose = [&](const std::string& folder, const std::string& name) {
+    folder_.put("DEMO.tamrik",
+                std::string(kHeader) + "\ntemplateFolder = " + folder + "\ntemplatePath = " + name);
+  };
+  choose(folder_ / "own/", "mine.tmkt");
+  EXPECT_EQ(valueOf("templateFolder"), folder_ / "own");
+  EXPECT_EQ(valueOf("templatePath"), "mine.tmkt");
+  choose(folder_ / "own", "gone.tmkt");
+  EXPECT_EQ(valueOf("templateFolder").find(folder_ / "own"), std::string::npos);
+  EXPECT_EQ(valueOf("templatePath"), "chm.tmkt");
+}
+
+}  // namespace
+}  // namespace tamrikon
