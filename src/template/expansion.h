@@ -35,7 +35,8 @@ struct ExpansionState {
 class Expansion {
  public:
   /// `table` is handed to the link resolver. Both must outlive this object.
-  Expansion(ExpansionState& state, MacroTable& table) : state_(state), table_(table) {
+  Expansion(ExpansionState& state, MacroTable& table, const ExpansionBudget& budget = {})
+      : state_(state), table_(table), budget_(budget) {
     state_.slots.beginUse();
   }
   ~Expansion() { state_.slots.endUse(); }

@@ -15,6 +15,9 @@ class ExpansionBudget {
   /// what the replace table adds, and messages.
   static constexpr std::size_t kMaxText = std::size_t{256} << 20;
 
+  ExpansionBudget() = default;
+  ExpansionBudget(std::size_t calls, std::size_t text) : calls_(calls), text_(text) {}
+
   /// Takes `count` calls that expand `bytes` of text altogether. False, and nothing is taken, if
   /// less is left.
   bool takeCalls(std::size_t count, std::size_t bytes) {

@@ -1,8 +1,9 @@
 // The part of Expansion that knows IFNOTEMPTY and DOLIST.
+#include "template/expansion.h"
+
 #include <algorithm>
 #include <utility>
 
-#include "template/expansion.h"
 #include "template/macro_scanner.h"
 
 namespace tamrikon {

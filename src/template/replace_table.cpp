@@ -10,6 +10,8 @@
 namespace tamrikon {
 namespace {
 
+constexpr std::size_t kLongestImage = 256;  // bytes; beyond that a table is no translation
+
 bool isAsciiLetter(char32_t c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
@@ -34,20 +36,15 @@ class ReplaceTable::Replacement {
  public:
   Replacement(std::string_view text, std::size_t maxLength) : text_(text), maxLength_(maxLength) {}
 
-  void apply(const Pair& pair) {
-    if (pair.isSign) {
-      replaceSign(pair);
-    } else {
-      replaceGeneral(pair);
-    }
-  }
+  /// False if the text would grow too long; it then stays as it was.
+  bool apply(const Pair& pair) { return pair.isSign ? replaceSign(pair) : replaceGeneral(pair); }
 
   const std::string& text() const { return text_; }
 
  private:
-  void replaceSign(const Pair& pair) {
+  bool replaceSign(const Pair& pair) {
     std::size_t offset = text_.find(pair.sign);
-    if (offset == std::string::npos) return;
+    if (offset == std::string::npos) return true;
     const std::string_view text = text_;
     std::string result;
     result.reserve(text.size() + text.size() / 4 + pair.with.size());
@@ -58,23 +55,25 @@ class ReplaceTable::Replacement {
         next = skipCodePoints(text, offset, pair.codePoints);
         result.append(text, copied, offset - copied).append(pair.with);
         copied = next;
-        if (result.size() > maxLength_) return;
+        if (result.size() > maxLength_) return false;
       }
       offset = text.find(pair.sign, next);
     }
     result.append(text, copied);
-    if (result.size() <= maxLength_) text_ = std::move(result);
+    if (result.size() > maxLength_) return false;
+    text_ = std::move(result);
+    return true;
   }
 
-  void replaceGeneral(const Pair& pair) {
-    const std::size_t most = pair.with.empty() ? 0 : maxLength_ / pair.with.size();
-    if (text_.size() > most && !pair.with.empty()) {
-      // Each match costs a character at least, so only now it pays to count them.
+  bool replaceGeneral(const Pair& pair) {
+    // Only where each character being a match would be too much does it pay to count them.
+    if (!pair.with.empty() && text_.size() > maxLength_ / pair.with.size()) {
       const std::size_t without = replaceIgnoringCase(text_, pair.find, "").size();
       const std::size_t matches = replaceIgnoringCase(text_, pair.find, ".").size() - without;
-      if (matches > (maxLength_ - std::min(maxLength_, without)) / pair.with.size()) return;
+      if (matches > (maxLength_ - without) / pair.with.size()) return false;
     }
     text_ = replaceIgnoringCase(text_, pair.find, pair.with);
+    return true;
   }
 
   std::string text_;
@@ -96,21 +95,53 @@ ReplaceTable::ReplaceTable(const std::vector<std::string>& words) {
     // A few letters beyond ASCII have an ASCII letter as their lower case.
     if (!isSign) std::fill(begins_.begin() + 0x80, begins_.end(), true);
   }
+  makeImages();
+}
+
+void ReplaceTable::makeImages() {
+  const bool isPossible = std::all_of(pairs_.begin(), pairs_.end(), [](const Pair& pair) {
+    return pair.isSign && pair.codePoints == 1;
+  });
+  if (!isPossible) return;
+  std::size_t longest = 1;
+  for (std::size_t c = 0; c < images_.size(); ++c) {
+    if (!begins_[c]) continue;
+    Replacement replacement(std::string(1, static_cast<char>(c)), kLongestImage);
+    for (const Pair& pair : pairs_) {
+      if (!replacement.apply(pair)) return;
+    }
+    images_[c] = replacement.text();
+    longest = std::max(longest, images_[c].size());
+  }
+  longestImage_ = longest;
+}
+
+void ReplaceTable::appendImages(std::string_view text, std::string& result) const {
+  std::size_t copied = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (!mayBegin(text[i])) continue;
+    result.append(text, copied, i - copied).append(images_[static_cast<unsigned char>(text[i])]);
+    copied = i + 1;
+  }
+  result.append(text, copied);
 }
 
 void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
                                   ExpansionBudget& budget) const {
-  const bool isTouched =
-      std::any_of(text.begin(), text.end(), [this](char c) { return mayBegin(c); });
-  if (!isTouched) {
+  const std::size_t start = result.size();
+  if (longestImage_ > 0 && text.size() <= budget.textLeft() / longestImage_) {
+    appendImages(text, result);
+  } else if (std::any_of(text.begin(), text.end(), [this](char c) { return mayBegin(c); })) {
+    Replacement replacement(text, text.size() + budget.textLeft());
+    for (const Pair& pair : pairs_) {
+      if (!replacement.apply(pair)) break;
+    }
+    result += replacement.text();
+  } else {
     result += text;
-    return;
   }
-  Replacement replacement(text, text.size() + budget.textLeft());
-  for (const Pair& pair : pairs_) replacement.apply(pair);
-  const std::size_t length = replacement.text().size();
+  const std::size_t length = result.size() - start;
   if (length > text.size()) budget.takeText(length - text.size());
-  result += replacement.text();
 }
 
 std::string replaceStrings(std::string_view text, const std::vector<std::string>& table) {

@@ -19,8 +19,8 @@ class ReplaceTable {
   explicit ReplaceTable(const std::vector<std::string>& words);
 
   /// Appends `text`, translated, to `result`. The pairs work one after the other, each on what
-  /// the one before it left, without regard to case. A pair that would let the text grow beyond
-  /// the budget is skipped.
+  /// the one before it left, without regard to case. The first pair that would let the text grow
+  /// beyond the budget ends the translation.
   void appendReplaced(std::string_view text, std::string& result, ExpansionBudget& budget) const;
 
  private:
@@ -33,10 +33,17 @@ class ReplaceTable {
   };
   class Replacement;
 
+  void makeImages();
+  void appendImages(std::string_view text, std::string& result) const;
   bool mayBegin(char c) const { return begins_[static_cast<unsigned char>(c)]; }
 
   std::vector<Pair> pairs_;
   std::array<bool, 256> begins_{};  // the bytes with which a match of any pair can begin
+
+  // If each pair finds a single sign, the pairs work on every character for itself. Then this is
+  // what they make of it, and one pass does for all.
+  std::array<std::string, 128> images_;
+  std::size_t longestImage_ = 0;  // 0: the pairs have to work one after the other
 };
 
 /// `text` translated by the words of a replace table.

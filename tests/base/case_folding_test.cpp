@@ -1,0 +1,112 @@
+#include "base/case_folding.h"
+
+#include <gtest/gtest.h>
+
+#include "base/keyed_list.h"
+
+namespace tamrikon {
+namespace {
+
+TEST(LowerCase, CoversTheScripts) {
+  struct Case {
+    char32_t letter;
+    char32_t lower;
+  };
+  const Case cases[] = {
+      {U'A', U'a'},       {U'Z', U'z'},         {U'@', U'@'},     {U'[', U'['},
+      {0x00C4, 0x00E4},   {0x00D7, 0x00D7},     {0x00DF, 0x00DF}, {0x00FF, 0x00FF},
+      {0x0100, 0x0101},   {0x0101, 0x0101},     {0x0130, U'i'},   {0x0131, 0x0131},
+      {0x0139, 0x013A},   {0x013A, 0x013A},     {0x0178, 0x00FF}, {0x01C5, 0x01C6},
+      {0x0386, 0x03AC},   {0x03A3, 0x03C3},     {0x03C2, 0x03C2}, {0x0401, 0x0451},
+      {0x0416, 0x0436},   {0x0531, 0x0561},     {0x1E9E, 0x00DF}, {0x2126, 0x03C9},
+      {0x212A, U'k'},     {0x212B, 0x00E5},     {0xFF21, 0xFF41}, {0x4E2D, 0x4E2D},
+      {0x10400, 0x10428}, {0x10FFFF, 0x10FFFF},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(lowerCase(c.letter), c.lower) << std::hex << static_cast<unsigned>(c.letter);
+  }
+}
+
+TEST(CaseFolding, ComparesAndHashesAlike) {
+  struct Case {
+    std::string_view a;
+    std::string_view b;
+    bool isEqual;
+    bool isPrefix;  // whether a begins with b
+  };
+  const Case cases[] = {
+      {"", "", true, true},
+      {"Module1", "MODULE1", true, true},
+      {"Module1", "module", false, true},
+      {"Module", "module1", false, false},
+      {"stra\xC3\x9F"
+       "e",
+       "STRASSE", false, false},
+      {"\xD0\x96"
+       "a",
+       "\xD0\xB6"
+       "A",
+       true, true},
+      {"\xE2\x84\xAA"
+       "elvin",
+       "kELVIN", true, true},  // Kelvin sign: one byte for three
+      {"\xFF", "\xFE", false, false},
+      {"_", "\x7F", false, false},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(std::string(c.a));
+    EXPECT_EQ(equalIgnoringCase(c.a, c.b), c.isEqual);
+    EXPECT_EQ(startsWithIgnoringCase(c.a, c.b), c.isPrefix);
+    EXPECT_EQ(CaseInsensitiveHash()(c.a) == CaseInsensitiveHash()(c.b), c.isEqual);
+    EXPECT_EQ(lowered(c.a) == lowered(c.b), c.isEqual);
+  }
+}
+
+TEST(Lowered, KeepsWhatIsNoText) {
+  EXPECT_EQ(lowered("A\xC9\xFF"
+                    "B"),
+            "a\xC9\xFF"
+            "b");
+}
+
+TEST(ReplaceIgnoringCase, FindsByLetter) {
+  struct Case {
+    std::string_view text;
+    std::string_view find;
+    std::string_view with;
+    std::string_view expected;
+  };
+  const Case cases[] = {
+      {"aAa", "a", "bb", "bbbbbb"},
+      {"aaa", "aa", "b", "ba"},
+      {"abc", "", "x", "abc"},
+      {"abc", "abcd", "x", "abc"},
+      {"", "a", "x", ""},
+      {"a.A", "A", "", "."},
+      {"x\xE2\x84\xAAyK", "k", "-", "x-y-"},  // shorter lower case
+      {"\xE2\xB1\xA2z\xC8\xBAz", "\xC9\xAB", "l", "lz\xC8\xBAz"},
+      {"\xC8\xBA!\xC8\xBA?", "\xE2\xB1\xA5!", "-", "-\xC8\xBA?"},  // longer lower case
+      {"\xC4\xB0I\xC4\xB1", "i", "1", "11\xC4\xB1"},
+      {"\xC3\xA9\xA9", "\xC2\xA9", "x", "\xC3\xA9x"},  // a stray byte's own value
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(replaceIgnoringCase(c.text, c.find, c.with), c.expected) << c.text;
+  }
+}
+
+TEST(KeyedList, RefusesAKeyInAnotherCase) {
+  KeyedList<int> list;
+  EXPECT_TRUE(list.add(1, "\xC3\x84rger"));
+  EXPECT_FALSE(list.add(2, "\xC3\xA4RGER"));
+  list.add(3);
+  EXPECT_TRUE(list.add(4, ""));
+  EXPECT_EQ(std::vector<int>(list.begin(), list.end()), (std::vector{1, 3, 4}));
+  EXPECT_EQ(list.item(3), 4);
+  ASSERT_NE(list.find("\xC3\xA4rger"), nullptr);
+  *list.find("\xC3\xA4rger") = 5;
+  EXPECT_EQ(list.item(1), 5);
+  EXPECT_EQ(list.find("3"), nullptr);
+}
+
+}  // namespace
+}  // namespace tamrikon

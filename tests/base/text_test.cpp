@@ -1,0 +1,128 @@
+#include "base/text.h"
+
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "base/utf8.h"
+#include "base/vb_text.h"
+
+namespace tamrikon {
+namespace {
+
+using Views = std::vector<std::string_view>;
+
+TEST(Text, TrimsBlanksAlone) {
+  EXPECT_EQ(trim("  \ta \r "), "\ta \r");
+  EXPECT_EQ(trimLeading("  a "), "a ");
+  EXPECT_EQ(trimTrailing("  a "), "  a");
+  EXPECT_EQ(trim("   "), "");
+}
+
+TEST(Text, DividesAndReplaces) {
+  EXPECT_EQ(split("a,,b,", ','), (Views{"a", "", "b", ""}));
+  EXPECT_EQ(split("", ','), (Views{""}));
+  EXPECT_EQ(join({"", "a", ""}, ", "), ", a, ");
+  EXPECT_EQ(replaceAll("aaa", "aa", "aab"), "aaba");
+  EXPECT_EQ(doubleDollars("$a$$"), "$$a$$$$");
+  std::string_view text = "a,,b";
+  EXPECT_EQ(cutField(text, ','), "a");
+  EXPECT_EQ(cutField(text, ','), "");
+  EXPECT_EQ(cutField(text, ','), "b");
+  EXPECT_EQ(text, "");
+}
+
+TEST(InStrOutsideQuotes, SkipsLiterals) {
+  struct Case {
+    std::string_view text;
+    std::string_view word;
+    std::size_t start;
+    std::size_t expected;
+  };
+  const Case cases[] = {
+      {"a = b", "= ", 1, 3},
+      {"a", "a", 0, 0},
+      {"aXa", "a", 2, 3},
+      {"a", "a", 2, 0},
+      {R"(x = "a As b" As c)", " As ", 1, 13},
+      {R"("a"" As " As b)", " As ", 1, 10},
+      {R"(" As " " As ")", " As ", 1, 0},
+      {R"(x "no end As)", " As", 1, 0},
+      {R"(x "" As)", " As", 1, 5},
+      {R"(x "a")", "\"", 1, 3},
+      {R"("a" b)", "a", 2, 2},  // begun inside, the literal isn't known
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(inStrOutsideQuotes(c.text, c.word, c.start), c.expected) << c.text;
+  }
+}
+
+TEST(VbText, KnowsCommentsBlanksAndContinuations) {
+  EXPECT_EQ(stripLineComment("x = \"it's\"  ' isn't"), "x = \"it's\"");
+  EXPECT_EQ(stripLineComment("x \t' c"), "x \t");
+  EXPECT_EQ(firstWhitespace("ab\tc d"), 3U);
+  EXPECT_EQ(firstWhitespace("ab"), 0U);
+  EXPECT_EQ(firstWhitespaceOutsideStrings("\"a b\"\tc d"), 6U);
+  EXPECT_EQ(firstWhitespaceOutsideStrings("\"a b\tc\" d"), 8U);
+  EXPECT_TRUE(isContinued("a _"));
+  for (const char* line : {"a_", "a\t_", "a _ ", "_", ""}) EXPECT_FALSE(isContinued(line)) << line;
+}
+
+TEST(Paths, AcceptBothSeparators) {
+  struct Case {
+    std::string_view path;
+    std::string_view folder;
+    std::string_view name;
+    std::string_view base;
+  };
+  const Case cases[] = {
+      {"C:\\work\\a.b.vbp", "C:\\work", "a.b.vbp", "a.b"},
+      {"/home/u/a", "/home/u", "a", "a"},
+      {"a\\b/c.x", "a\\b", "c.x", "c"},
+      {"a.txt", "", "a.txt", "a"},
+      {"x.y/", "x.y", "", ""},
+      {"", "", "", ""},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.path);
+    EXPECT_EQ(folderOf(c.path), c.folder);
+    EXPECT_EQ(lastName(c.path), c.name);
+    EXPECT_EQ(baseName(c.path), c.base);
+  }
+  EXPECT_FALSE(hasExtension("x.y/z"));
+  EXPECT_EQ(joinPath("C:\\a", "b"), "C:\\a\\b");
+  EXPECT_EQ(joinPath("C:\\a/", "b"), "C:\\a/b");
+  EXPECT_EQ(withoutTrailingSeparator("a//"), "a/");
+  for (const char* path : {"/a", "\\a", "C:\\a", "c:a"}) EXPECT_TRUE(isAbsolutePath(path)) << path;
+  for (const char* path : {"a/b", "", "C", "..\\a"}) EXPECT_FALSE(isAbsolutePath(path)) << path;
+}
+
+TEST(Utf8, AcceptsWellFormedTextOnly) {
+  for (const char* text : {"", "abc", "\xC2\x80", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEF\xBF\xBF",
+                           "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"}) {
+    EXPECT_TRUE(isValidUtf8(text)) << text;
+  }
+  // Overlong forms, surrogates, too large, cut short, stray.
+  for (const char* text : {"\xC0\xAF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xED\xA0\x80",
+                           "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xC3", "a\xE2\x82", "\x80"}) {
+    EXPECT_FALSE(isValidUtf8(text)) << text;
+  }
+}
+
+TEST(Utf8, ReadsWhatItWrites) {
+  const std::u32string all = U"a\u0080\u07FF\u0800\uFFFD\U00010000\U0010FFFF";
+  std::string text;
+  for (const char32_t c : all) appendCodePoint(text, c);
+  text += "\xE9z";  // a stray byte stands for itself
+  std::u32string read;
+  for (std::size_t offset = 0; offset < text.size();) read += readCodePoint(text, offset);
+  EXPECT_EQ(read, all + U"\u00E9z");
+  EXPECT_EQ(codePointCount("a\xC3\xA9\xE2\x82\xAC"), 3U);
+  EXPECT_TRUE(isAscii("12345678abc"));
+  EXPECT_FALSE(isAscii("12345678ab\x80"));
+  EXPECT_FALSE(
+      isAscii("1234567\xFF"
+              "abc"));
+}
+
+}  // namespace
+}  // namespace tamrikon

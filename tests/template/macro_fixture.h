@@ -1,0 +1,97 @@
+// What the tests of the template engine share: a log that can be read and an invented link model.
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/message_log.h"
+#include "template/macro_table.h"
+
+namespace tamrikon {
+
+struct RecordingLog : MessageLog {
+  void logMessage(const std::string& text) override { messages.push_back(text); }
+  std::vector<std::string> messages;
+};
+
+/// Links are keys of `targets`; others are dead and warned of. "~" counts as written for "Home.".
+struct FakeLinks : LinkResolver {
+  explicit FakeLinks(MessageLog& messageLog) : log(messageLog) {}
+
+  std::string canonizeLink(std::string_view link) override {
+    const std::string full =
+        link.starts_with('~') ? "Home." + std::string(link.substr(1)) : std::string(link);
+    return find(full) == nullptr ? std::string(link) : full;
+  }
+  std::optional<std::string> topicLink(std::string_view link) override {
+    const auto found = aliases.find(std::string(link));
+    return found == aliases.end() ? std::nullopt : std::optional(found->second);
+  }
+  LinkTarget parseLink(std::string_view link) override {
+    const LinkTarget* target = find(std::string(link));
+    return target == nullptr ? LinkTarget() : *target;
+  }
+  void setModuleLists(const LinkTarget& target, MacroTable& macros) override {
+    macros.setMacroValue("METHODS-LINK-LIST",
+                         std::make_shared<MacroList>(MacroList{target.module + ".Run\rRun"}));
+  }
+
+  void add(const std::string& link, int helpId, bool needsModule = false) {
+    const std::size_t dot = link.find('.');
+    const std::string member = dot == std::string::npos ? "" : link.substr(dot + 1);
+    targets[link] = {this, member, link.substr(0, dot), needsModule, helpId};
+  }
+  const LinkTarget* find(const std::string& link) {
+    const auto found = targets.find(link);
+    if (found != targets.end()) return &found->second;
+    log.logMessage("Warning: dead " + link);
+    return nullptr;
+  }
+
+  MessageLog& log;
+  std::map<std::string, LinkTarget> targets;
+  std::map<std::string, std::string> aliases;
+};
+
+/// `text` with "|" for CR, so that cases of several lines stay on one.
+inline std::string lines(std::string text) {
+  std::replace(text.begin(), text.end(), '|', '\r');
+  return text;
+}
+
+struct Macros {
+  Macros() { table.setLinkResolver(&links); }
+
+  void set(std::string_view name, const std::string& text) {
+    table.setMacroValue(name, lines(text));
+  }
+  void setList(std::string_view name, std::vector<std::string> items) {
+    for (std::string& item : items) item = lines(item);
+    table.setMacroValue(name, std::make_shared<MacroList>(std::move(items)));
+  }
+  /// The expansion of `text`, as the text of a template section, with "|" for CR.
+  std::string expand(const std::string& text) {
+    set("tamrik-test-body", text);
+    std::string result = table.evaluateMacro("tamrik-test-body");
+    std::replace(result.begin(), result.end(), '\r', '|');
+    return result;
+  }
+
+  RecordingLog log;
+  FakeLinks links{log};
+  MacroTable table{log};
+};
+
+inline const std::string kConfig = "WARNING (config file): ";
+
+/// The message about a wrong name that was written so.
+inline std::string wrongName(const std::string& written) {
+  return kConfig + "Wrong macro name " + written + ".";
+}
+
+}  // namespace tamrikon

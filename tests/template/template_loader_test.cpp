@@ -1,0 +1,180 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "template/macro_fixture.h"
+
+namespace tamrikon {
+namespace {
+
+/// Answers the first `repeats` file errors with Retry, the next one with Cancel.
+struct Reporter : FileErrorReporter {
+  FileErrorAnswer reportFileError(const std::string&, std::string_view verb,
+                                  FileError error) override {
+    EXPECT_EQ(verb, "reading");
+    errors.push_back(error);
+    return repeats-- > 0 ? FileErrorAnswer::repeat : FileErrorAnswer::giveUp;
+  }
+  int repeats = 1'000'000;
+  std::vector<FileError> errors;
+};
+
+class LoadSrc : public testing::Test {
+ protected:
+  void SetUp() override {
+    const auto* info = testing::UnitTest::GetInstance()->current_test_info();
+    path_ = testing::TempDir() + "tamrikon_" + info->name() + ".tmkt";
+  }
+  void TearDown() override { std::filesystem::remove(path_); }
+
+  int load(const std::string& bytes, bool silent = true) {
+    std::ofstream(path_, std::ios::binary) << bytes;
+    return macros_.table.loadSrc(path_, silent, files_);
+  }
+  std::string body(std::string_view name) { return macros_.table.getMacroBody(name); }
+
+  std::string path_;
+  Macros macros_;
+  Reporter reporter_;
+  TextFiles files_{nativeFileSystem(), reporter_};
+};
+
+TEST_F(LoadSrc, ReadsDefinitions) {
+  struct Case {
+    const char* name;
+    const char* file;
+    const char* macro;
+    const char* expected;
+    std::vector<std::string> messages = {};
+  };
+  const Case cases[] = {
+      {"empty file", "", "A", "$A$"},
+      {"blanks around a value", "$A$  a  b  \n", "A", "a  b  "},
+      {"tab behind the name", "  $A$\tb", "a", "\tb"},
+      {"no value", "$A$", "A", ""},
+      {"dollar in the value", "$A$B$", "A", "B$"},
+      {"comments", "no $A$\n\t$A$ no\n\n$A$ yes", "A", "yes"},
+      {"empty name", "$$ x", "", "x"},
+      {"CR LF", "$A$ 1\r\n$B$ 2\r\n", "A", "1"},
+      {"lone CR", "$A$ 1\r$B$ 2", "B", "2"},
+      {"section", "$tamrik-x$ x\n a\n$B$ $\n\tc \n$end-tamrik-x$\n", "TAMRIK-X", " a|$B$ $|\tc "},
+      {"section without lines", "$tamrik-x$\n$end-tamrik-x$", "tamrik-x", ""},
+      {"last line empty", "$tamrik-x$\na\n\n$end-tamrik-x$", "tamrik-x", "a|"},
+      {"end marker among blanks", "$tamrik-x$\r\na\r\n  $end-tamrik-x$ \r\n$B$ b", "B", "b"},
+      {"no end markers", "$tamrik-x$\n$end-tamrik-x$ y\n$end-TAMRIK-x$\n$end-tamrik-x$", "tamrik-x",
+       "$end-tamrik-x$ y|$end-TAMRIK-x$"},
+      {"capital makes a macro line", "$Tamrik-x$ v\n$B$ b", "tamrik-x", "v"},
+      {"wrong name of a macro", "$A b c", "A", "b c", {wrongName("$A")}},
+      {"wrong name to the end", " $A", "A", "", {wrongName("$A")}},
+      {"wrong name of a section",
+       "$tamrik-x y\na\n$end-tamrik-x$\n$end-tamrik-x",
+       "tamrik-x",
+       "a|$end-tamrik-x$",
+       {wrongName("$tamrik-x")}},
+      {"UTF-8", "\xEF\xBB\xBF$A$ \xC3\xA9", "A", "\xC3\xA9"},
+      {"code page", "$A$ \xE9", "A", "\xC3\xA9"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    macros_.log.messages.clear();
+    EXPECT_EQ(load(c.file), 0);
+    EXPECT_EQ(body(c.macro), lines(c.expected));
+    EXPECT_EQ(macros_.log.messages, c.messages);
+  }
+}
+
+TEST_F(LoadSrc, ReportsASectionWithoutEnd) {
+  EXPECT_EQ(load("$A$ a\n\n  $tamrik-x$\n$B$ b\n$end-tamrik-X$\n"), 0);
+  EXPECT_EQ(body("tamrik-x") + body("A") + body("B"), "$tamrik-x$a$B$");
+  EXPECT_EQ(macros_.log.messages,
+            std::vector{"ERROR (config file): Error in configuration file " + path_ +
+                        " on line 3. Terminating tag $end-tamrik-x$ missing."});
+}
+
+TEST_F(LoadSrc, AddsTheCharacters) {
+  struct Case {
+    int codePage;
+    const char* macro;
+    std::string expected;
+  };
+  const Case cases[] = {
+      {1252, "CHR0", std::string(1, '\0')},
+      {1252, "CHR36", "$"},
+      {1252, "chr65", "A"},
+      {1252, "CHR128", "\xE2\x82\xAC"},
+      {1252, "CHR129", "\xC2\x81"},
+      {1251, "CHR255", "\xD1\x8F"},
+      {932, "CHR177", "\xEF\xBD\xB1"},
+      {932, "CHR129", "\xC2\x81"},
+      {65001, "CHR200", "\xC3\x88"},
+      {1252, "CHR256", "$CHR256$"},
+  };
+  for (const Case& c : cases) {
+    files_.setCodePage(*CodePage::find(c.codePage));
+    EXPECT_EQ(load("no definitions"), 0);
+    EXPECT_EQ(body(c.macro), c.expected) << c.macro << " of " << c.codePage;
+  }
+}
+
+TEST_F(LoadSrc, NamesDefinedTwiceAreFailures) {
+  const std::string twice = "$A$ 1\n$a$ 2\n$B$ 3\n$REPLACE-TABLE$ a b\n";
+  EXPECT_EQ(load(twice), 3);
+  EXPECT_EQ(body("A") + body("B") + body("CHR65"), "1$B$$CHR65$");
+
+  EXPECT_EQ(load(twice, false), 0);  // Retry goes on with the next definition
+  EXPECT_EQ(body("A") + body("B") + body("CHR65"), "13A");
+  EXPECT_EQ(reporter_.errors, std::vector{FileError::keyExists});
+
+  reporter_.repeats = 0;
+  EXPECT_EQ(load("$$ 1\n$ 2", false), 2);
+  EXPECT_EQ(body(""), "1");
+}
+
+TEST_F(LoadSrc, DefinedCharactersFailAtEachRetry) {
+  reporter_.repeats = 5;
+  EXPECT_EQ(load("$chr65$ a", false), 2);
+  EXPECT_EQ(reporter_.errors.size(), 6U);
+  EXPECT_EQ(body("CHR64") + body("CHR65") + body("CHR66"), "@a$CHR66$");
+  EXPECT_EQ(load("$CHR65$ a"), 3);
+}
+
+TEST_F(LoadSrc, MissingFileForgetsTheOldTemplate) {
+  EXPECT_EQ(load("$A$ a"), 0);
+  reporter_.repeats = 1;
+  EXPECT_EQ(macros_.table.loadSrc(path_ + ".not", false, files_), 2);
+  EXPECT_EQ(reporter_.errors, (std::vector{FileError::fileNotFound, FileError::fileNotFound}));
+  EXPECT_EQ(macros_.table.loadSrc(path_ + ".not", true, files_), 3);
+  EXPECT_EQ(body("A"), "$A$");
+}
+
+TEST_F(LoadSrc, RevivesAClearedTable) {
+  macros_.table.clear();
+  EXPECT_EQ(load("$A$ a"), 0);
+  macros_.set("B", "$A$");
+  EXPECT_EQ(macros_.table.evaluateMacro("B"), "a");
+}
+
+TEST_F(LoadSrc, ReadsTheReplaceTable) {
+  EXPECT_EQ(load("$REPLACE-TABLE$ $LT$ &lt;  x $CHR36$ S$CHR32$ odd\n$LT$ $CHR60$"), 0);
+  EXPECT_EQ(macros_.log.messages, std::vector{wrongName("$")});
+  EXPECT_EQ(macros_.table.parseReplaceMacro("$LT$ $$  $NO$"),
+            (std::vector<std::string>{"<", "$$", "", "$NO$"}));
+
+  macros_.set("MEMBER-NAME", "<$EOL$<$ <");
+  macros_.set("MEMBER-USER1", "<");
+  macros_.set("EOL", "<br>$MEMBER-USER1$");
+  macros_.set("other", "<");
+  EXPECT_EQ(macros_.expand("$MEMBER-NAME$"), "<<br><<$ <");
+  // Stretch by stretch, in read-only macros alone, behind a lone "$" too.
+  EXPECT_EQ(macros_.expand("<$REPLACE-ON$$MEMBER-NAME$$other$$member-name$$REPLACE-OFF$"),
+            "<&lt;<br>&lt;&lt;S  &lt;<<<br>&lt;<$ <");
+  macros_.setList("PARAM-LIST", {"<|<"});
+  macros_.set("MEMBER-REMARKS", "<$DOLIST$ $PARAM-LIST$|<$LIST-ITEM-LABEL$$END-DOLIST$<");
+  EXPECT_EQ(macros_.expand("$REPLACE-ON$$MEMBER-REMARKS$"), "&lt;<&lt;&lt;");
+  macros_.table.resetRunState();
+  EXPECT_EQ(macros_.expand("$MEMBER-USER1$"), "<");
+}
+
+}  // namespace
+}  // namespace tamrikon
