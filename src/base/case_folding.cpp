@@ -125,6 +125,18 @@ char32_t lowerCase(char32_t codePoint) {
   return static_cast<char32_t>(static_cast<std::int64_t>(codePoint) + range->offset);
 }
 
+bool isCaseless(char32_t codePoint) {
+  if (codePoint < 0x80) {
+    return lowerCase(codePoint) == codePoint && (codePoint < 'a' || codePoint > 'z');
+  }
+  return lowerCase(codePoint) == codePoint &&
+         std::none_of(std::begin(kRanges), std::end(kRanges), [&](const CaseRange& range) {
+           const std::int64_t upper = static_cast<std::int64_t>(codePoint) - range.offset;
+           return upper >= range.first && upper <= range.last &&
+                  (upper - range.first) % range.stride == 0;
+         });
+}
+
 std::string lowered(std::string_view text) {
   std::string result;
   result.reserve(text.size());

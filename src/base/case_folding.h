@@ -11,6 +11,9 @@ namespace tamrikon {
 
 char32_t lowerCase(char32_t codePoint);
 
+/// Whether no other character equals this one without regard to case.
+bool isCaseless(char32_t codePoint);
+
 /// `text` with each letter in lower case. Its length in bytes can differ from that of `text`.
 std::string lowered(std::string_view text);
 

@@ -1,7 +1,6 @@
 #include "template/replace_table.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "base/case_folding.h"
@@ -10,73 +9,67 @@
 namespace tamrikon {
 namespace {
 
-constexpr std::size_t kLongestImage = 256;  // bytes; beyond that a table is no translation
+std::size_t byteOf(char c) { return static_cast<unsigned char>(c); }
 
-bool isAsciiLetter(char32_t c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-/// The offset behind `count` code points that begin at `offset`.
-std::size_t skipCodePoints(std::string_view text, std::size_t offset, std::size_t count) {
-  for (; count > 0; --count) readCodePoint(text, offset);
-  return offset;
-}
-
-/// The code points as the search without regard to case reads them, stray bytes being one each.
-std::size_t countCodePoints(std::string_view text) {
-  std::size_t count = 0;
-  for (std::size_t offset = 0; offset < text.size(); ++count) readCodePoint(text, offset);
-  return count;
+bool hasNoLetters(std::string_view text) {
+  for (std::size_t offset = 0; offset < text.size();) {
+    const std::size_t start = offset;
+    const char32_t codePoint = readCodePoint(text, offset);
+    const bool isStrayByte = codePoint >= 0x80 && offset - start == 1;
+    if (isStrayByte || !isCaseless(codePoint)) return false;
+  }
+  return true;
 }
 
 }  // namespace
 
-/// One text on its way through the pairs.
+/// One text on its way through the pairs. A text without any of the bytes that a match can begin
+/// with is left at once: most pairs of a table find nothing.
 class ReplaceTable::Replacement {
  public:
-  Replacement(std::string_view text, std::size_t maxLength) : text_(text), maxLength_(maxLength) {}
+  Replacement(std::string_view text, const ByteSet& bytes, std::size_t maxLength)
+      : text_(text), bytes_(bytes), maxLength_(maxLength) {}
 
-  /// False if the text would grow too long; it then stays as it was.
-  bool apply(const Pair& pair) { return pair.isSign ? replaceSign(pair) : replaceGeneral(pair); }
+  /// Does nothing if the text would grow too long.
+  void apply(const Pair& pair) {
+    if ((bytes_ & pair.begins).none()) return;
+    if (pair.isExact) {
+      replaceExact(pair);
+    } else {
+      replaceGeneral(pair);
+    }
+    for (const char c : pair.with) bytes_.set(byteOf(c));
+  }
 
   const std::string& text() const { return text_; }
 
  private:
-  bool replaceSign(const Pair& pair) {
-    std::size_t offset = text_.find(pair.sign);
-    if (offset == std::string::npos) return true;
-    const std::string_view text = text_;
+  void replaceExact(const Pair& pair) {
     std::string result;
-    result.reserve(text.size() + text.size() / 4 + pair.with.size());
     std::size_t copied = 0;
-    while (offset != std::string_view::npos) {
-      std::size_t next = offset + 1;
-      if (pair.codePoints == 1 || startsWithIgnoringCase(text.substr(offset), pair.find)) {
-        next = skipCodePoints(text, offset, pair.codePoints);
-        result.append(text, copied, offset - copied).append(pair.with);
-        copied = next;
-        if (result.size() > maxLength_) return false;
-      }
-      offset = text.find(pair.sign, next);
+    for (;;) {
+      const std::size_t at = text_.find(pair.find, copied);
+      if (at == std::string::npos) break;
+      result.append(text_, copied, at - copied).append(pair.with);
+      if (result.size() > maxLength_) return;
+      copied = at + pair.find.size();
     }
-    result.append(text, copied);
-    if (result.size() > maxLength_) return false;
-    text_ = std::move(result);
-    return true;
+    if (copied == 0 || result.size() + text_.size() - copied > maxLength_) return;
+    text_ = std::move(result.append(text_, copied));
   }
 
-  bool replaceGeneral(const Pair& pair) {
+  void replaceGeneral(const Pair& pair) {
     // Only where each character being a match would be too much does it pay to count them.
     if (!pair.with.empty() && text_.size() > maxLength_ / pair.with.size()) {
       const std::size_t without = replaceIgnoringCase(text_, pair.find, "").size();
       const std::size_t matches = replaceIgnoringCase(text_, pair.find, ".").size() - without;
-      if (matches > (maxLength_ - without) / pair.with.size()) return false;
+      if (matches > (maxLength_ - without) / pair.with.size()) return;
     }
     text_ = replaceIgnoringCase(text_, pair.find, pair.with);
-    return true;
   }
 
   std::string text_;
+  ByteSet bytes_;  // those that the text holds, and perhaps some that it held before
   std::size_t maxLength_;
 };
 
@@ -84,63 +77,32 @@ ReplaceTable::ReplaceTable(const std::vector<std::string>& words) {
   for (std::size_t i = 0; i + 1 < words.size(); i += 2) {
     const std::string& find = words[i];
     if (find.empty()) continue;
+    Pair pair{find, words[i + 1], hasNoLetters(find), {}};
     std::size_t offset = 0;
     const char32_t first = lowerCase(readCodePoint(find, offset));
-    const bool isSign = first < 0x80 && !isAsciiLetter(first);
-    pairs_.push_back({find, words[i + 1], find.front(), isSign, countCodePoints(find)});
-    if (first < 0x80) {
-      begins_[first] = true;
-      if (!isSign) begins_[first - 'a' + 'A'] = true;
+    if (pair.isExact || first < 0x80) pair.begins.set(byteOf(find.front()));
+    if (first >= 'a' && first <= 'z') pair.begins.set(first).set(first - 'a' + 'A');
+    // A letter beyond ASCII can be written otherwise, and a few have an ASCII letter as lower case.
+    if (!pair.isExact) {
+      for (std::size_t byte = 0x80; byte < pair.begins.size(); ++byte) pair.begins.set(byte);
     }
-    // A few letters beyond ASCII have an ASCII letter as their lower case.
-    if (!isSign) std::fill(begins_.begin() + 0x80, begins_.end(), true);
+    begins_ |= pair.begins;
+    pairs_.push_back(std::move(pair));
   }
-  makeImages();
-}
-
-void ReplaceTable::makeImages() {
-  const bool isPossible = std::all_of(pairs_.begin(), pairs_.end(), [](const Pair& pair) {
-    return pair.isSign && pair.codePoints == 1;
-  });
-  if (!isPossible) return;
-  std::size_t longest = 1;
-  for (std::size_t c = 0; c < images_.size(); ++c) {
-    if (!begins_[c]) continue;
-    Replacement replacement(std::string(1, static_cast<char>(c)), kLongestImage);
-    for (const Pair& pair : pairs_) {
-      if (!replacement.apply(pair)) return;
-    }
-    images_[c] = replacement.text();
-    longest = std::max(longest, images_[c].size());
-  }
-  longestImage_ = longest;
-}
-
-void ReplaceTable::appendImages(std::string_view text, std::string& result) const {
-  std::size_t copied = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (!mayBegin(text[i])) continue;
-    result.append(text, copied, i - copied).append(images_[static_cast<unsigned char>(text[i])]);
-    copied = i + 1;
-  }
-  result.append(text, copied);
 }
 
 void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
                                   ExpansionBudget& budget) const {
-  const std::size_t start = result.size();
-  if (longestImage_ > 0 && text.size() <= budget.textLeft() / longestImage_) {
-    appendImages(text, result);
-  } else if (std::any_of(text.begin(), text.end(), [this](char c) { return mayBegin(c); })) {
-    Replacement replacement(text, text.size() + budget.textLeft());
-    for (const Pair& pair : pairs_) {
-      if (!replacement.apply(pair)) break;
-    }
-    result += replacement.text();
-  } else {
+  ByteSet bytes;
+  for (const char c : text) bytes.set(byteOf(c));
+  if ((bytes & begins_).none()) {
     result += text;
+    return;
   }
-  const std::size_t length = result.size() - start;
+  Replacement replacement(text, bytes, text.size() + budget.textLeft());
+  for (const Pair& pair : pairs_) replacement.apply(pair);
+  const std::size_t length = replacement.text().size();
+  result += replacement.text();
   if (length > text.size()) budget.takeText(length - text.size());
 }
 

@@ -1,8 +1,7 @@
 // The template's character translation: pairs of a text to find and the text to put in its place.
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include <bitset>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,26 +23,18 @@ class ReplaceTable {
   void appendReplaced(std::string_view text, std::string& result, ExpansionBudget& budget) const;
 
  private:
+  using ByteSet = std::bitset<256>;
+
   struct Pair {
     std::string find;
     std::string with;
-    char sign;               // what `find` begins with, if isSign
-    bool isSign;             // an ASCII character that isn't a letter: it equals only itself
-    std::size_t codePoints;  // of `find`
+    bool isExact;    // `find` has no letters: it equals only itself
+    ByteSet begins;  // the bytes with which a match can begin
   };
   class Replacement;
 
-  void makeImages();
-  void appendImages(std::string_view text, std::string& result) const;
-  bool mayBegin(char c) const { return begins_[static_cast<unsigned char>(c)]; }
-
   std::vector<Pair> pairs_;
-  std::array<bool, 256> begins_{};  // the bytes with which a match of any pair can begin
-
-  // If each pair finds a single sign, the pairs work on every character for itself. Then this is
-  // what they make of it, and one pass does for all.
-  std::array<std::string, 128> images_;
-  std::size_t longestImage_ = 0;  // 0: the pairs have to work one after the other
+  ByteSet begins_;  // of all pairs
 };
 
 /// `text` translated by the words of a replace table.
