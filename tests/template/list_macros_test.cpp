@@ -8,7 +8,16 @@ namespace {
 using Messages = std::vector<std::string>;
 
 const std::string kIfSyntax = kConfig + "Wrong syntax of IFNOTEMPTY macro. ";
+const std::string kIfLine = kIfSyntax + "Unfinished line.";
+const std::string kIfEnd = kIfSyntax + "$END-IFNOTEMPTY tag missing.";
 const std::string kListSyntax = kConfig + "Wrong syntax of DOLIST macro. ";
+const std::string kListLine = kListSyntax + "Unfinished line.";
+const std::string kListEnd = kListSyntax + "$END-DOLIST tag missing.";
+
+/// The message about the argument of an IFNOTEMPTY.
+std::string ifArgument(const std::string& argument) {
+  return kConfig + "Wrong argument \"" + argument + "\" of IFNOTEMPTY macro.";
+}
 
 struct Case {
   const char* name;
@@ -71,41 +80,28 @@ TEST(IfNotEmpty, ChoosesABranch) {
 }
 
 TEST(IfNotEmpty, ReportsWrongSyntax) {
-  const std::string wrongArgument = kConfig + "Wrong argument \"";
   run({
-      {"no line end", "a$IFNOTEMPTY$ $FULL$ b $FULL$", "a", {kIfSyntax + "Unfinished line."}},
-      {"no argument",
-       "a$IFNOTEMPTY$ b|c $FULL$",
-       "ac f",
-       {wrongArgument + "\" of IFNOTEMPTY macro."}},
-      {"wrong argument",
-       "$IFNOTEMPTY$ $DOLIST$ x|$FULL$",
-       "f",
-       {wrongArgument + "DOLIST\" of IFNOTEMPTY macro."}},
-      {"lone $ as argument",
-       "$IFNOTEMPTY$ $ $FULL$|x",
-       "x",
-       {wrongName("$"), wrongArgument + "\" of IFNOTEMPTY macro."}},
-      {"no end marker",
-       "a$IFNOTEMPTY$ $FULL$|$FULL$$END-DOLIST$",
-       "a",
-       {kIfSyntax + "$END-IFNOTEMPTY tag missing."}},
+      {"no line end", "a$IFNOTEMPTY$ $FULL$ b $FULL$", "a", {kIfLine}},
+      {"no argument", "a$IFNOTEMPTY$ b|c $FULL$", "ac f", {ifArgument("")}},
+      {"wrong argument", "$IFNOTEMPTY$ $DOLIST$ x|$FULL$", "f", {ifArgument("DOLIST")}},
+      {"lone $ as argument", "$IFNOTEMPTY$ $ $FULL$|x", "x", {wrongName("$"), ifArgument("")}},
+      {"no end marker", "a$IFNOTEMPTY$ $FULL$|$FULL$$END-DOLIST$", "a", {kIfEnd}},
       {"lone $ ends the search",
        "$IFNOTEMPTY$ $FULL$|$X $ y $Z $END-IFNOTEMPTY$",
        "",
-       {wrongName("$X"), wrongName("$"), kIfSyntax + "$END-IFNOTEMPTY tag missing."}},
+       {wrongName("$X"), wrongName("$"), kIfEnd}},
       {"the inner one takes the end marker",
        "$IFNOTEMPTY$ $FULL$|$IFNOTEMPTY$ $VOID$|$END-IFNOTEMPTY$",
        "",
-       {kIfSyntax + "$END-IFNOTEMPTY tag missing."}},
+       {kIfEnd}},
       {"no line end within the branch",
        "$IFNOTEMPTY$ $FULL$|a $DOLIST$ $PARAM-LIST$ $END-IFNOTEMPTY$|b$END-DOLIST$",
        "a |b$END-DOLIST$",
-       {kListSyntax + "Unfinished line."}},
+       {kListLine}},
       {"end marker beyond the branch",
        "$IFNOTEMPTY$ $FULL$|a $DOLIST$ $PARAM-LIST$|$X $END-IFNOTEMPTY$|b$END-DOLIST$",
        "a |b$END-DOLIST$",
-       {wrongName("$X"), wrongName("$X"), kListSyntax + "$END-DOLIST tag missing."}},
+       {wrongName("$X"), wrongName("$X"), kListEnd}},
       {"tags without their closing sign",
        "$IFNOTEMPTY $VOID$|a$ELSEIF b$END-IFNOTEMPTY c",
        "b c",
@@ -113,7 +109,7 @@ TEST(IfNotEmpty, ReportsWrongSyntax) {
       {"tag without its sign at the line's end",
        "$IFNOTEMPTY|$FULL$",
        "f",
-       {wrongName("$IFNOTEMPTY"), wrongArgument + "\" of IFNOTEMPTY macro."}},
+       {wrongName("$IFNOTEMPTY"), ifArgument("")}},
       {"wrong names come at each scan",
        "$IFNOTEMPTY$ $FULL$|$IFNOTEMPTY$ $FULL$|$X $END-IFNOTEMPTY$$END-IFNOTEMPTY$",
        "$X$ ",
@@ -144,13 +140,13 @@ TEST(DoList, WalksParameterAndSetLists) {
       {"end marker in a branch",
        "$DOLIST$ $PARAM-LIST$|x$IFNOTEMPTY$ $FULL$|y$END-DOLIST$z$END-IFNOTEMPTY$",
        "xxz$END-IFNOTEMPTY$",
-       {kIfSyntax + "$END-IFNOTEMPTY tag missing.", kIfSyntax + "$END-IFNOTEMPTY tag missing."}},
-      {"messages", "$DOLIST$", "", {kListSyntax + "Unfinished line."}},
+       {kIfEnd, kIfEnd}},
+      {"messages", "$DOLIST$", "", {kListLine}},
       {"argument",
        "$DOLIST$ $IFNOTEMPTY$|x",
        "x",
        {kConfig + "Wrong argument \"IFNOTEMPTY\" of DOLIST macro."}},
-      {"end", "$DOLIST$ $PARAM-LIST$|x", "", {kListSyntax + "$END-DOLIST tag missing."}},
+      {"end", "$DOLIST$ $PARAM-LIST$|x", "", {kListEnd}},
   });
 }
 
