@@ -87,8 +87,8 @@ End Function
 '**
 ' Writes an amount of money as people read it: two decimals, and the thousands set apart.
 '$CODE$
-'    Debug.Print MoneyText(1234.5)         ' 1,234.50$EOL$
-'    Debug.Print MoneyText(-7, "EUR")      ' -7.00 EUR
+'Debug.Print MoneyText(1234.5)         ' 1,234.50$EOL$
+'Debug.Print MoneyText(-7, "EUR")      ' -7.00 EUR
 '$END-CODE$
 ' @param Amount The amount. It is rounded to two decimals.
 ' @param Sign   The currency's sign, put behind the amount. Without one the amount stands alone.
