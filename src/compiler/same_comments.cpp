@@ -22,9 +22,7 @@ Wrapper* SameComments::targetOf(const Wrapper& wrapper, bool& points) {
 
 void SameComments::finish(Wrapper& wrapper, const Wrapper& target) {
   wrapper.comment = target.comment;
-  std::string* alias = links_.linkAliases.find(wrapper.link());
-  const std::string* topic = links_.linkAliases.find(target.link());
-  *alias = topic == nullptr ? target.link() : std::string(*topic);
+  wrapper.topic = target.topic;
 }
 
 /// Walks a chain of references to its end and back; a loop, as chains can be as long as a project.
@@ -38,7 +36,7 @@ void SameComments::resolveSameOf(Wrapper& first) {
       end = state == State::onTheWay ? State::unresolved : state;
       break;
     }
-    links_.linkAliases.add(wrapper->link(), wrapper->link());
+    wrapper->topic = wrapper;
     bool points = false;
     Wrapper* target = targetOf(*wrapper, points);
     if (target == nullptr) {

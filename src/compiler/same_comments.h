@@ -18,7 +18,7 @@ class SameComments {
       : wrappers_(wrappers), links_(links), parser_(parser) {}
 
   /// Follows chains to their end. A reference that leads nowhere, or in a circle, leaves the member
-  /// with its own comment. Afterwards every wrapper has an entry in the link aliases.
+  /// with its own comment. Afterwards every wrapper knows whose topic serves it.
   void resolveSameComments();
 
  private:
@@ -28,7 +28,7 @@ class SameComments {
   /// whether it does.
   Wrapper* targetOf(const Wrapper& wrapper, bool& points);
   void resolveSameOf(Wrapper& wrapper);
-  void finish(Wrapper& wrapper, const Wrapper& target);
+  static void finish(Wrapper& wrapper, const Wrapper& target);
 
   const WrapperCollections& wrappers_;
   Links& links_;

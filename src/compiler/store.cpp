@@ -49,12 +49,11 @@ void store::compile(VBE& VBInstance) {
   session_.log.ShowProgress("Analysing the project...", "");
   macros.resetRunState();
   comments.nextHelpId = 100;
-  links.linkAliases = {};
   if (!analyse()) return;
   for (const WrapperRef& wrapper : wrappers.all) {
     wrapper->needsModule = lists.needsModuleName(*wrapper);
   }
-  compiledList = makeIndex(wrappers, links);
+  compiledList = makeIndex(wrappers);
   macros.setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(compiledList));
   makeContents(compiledList, macros);
   publishPaths();
@@ -74,7 +73,7 @@ bool store::analyse() {
     return !session_.cancelRequested;
   });
   if (!checkpoint()) return false;
-  PropertyMerging merging(wrappers, links, parser_, session_.settings);
+  PropertyMerging merging(wrappers, parser_, session_.settings);
   merging.makeSamePropsFirst();
   if (!checkpoint()) return false;
   SameComments(wrappers, links, parser_).resolveSameComments();

@@ -14,30 +14,26 @@ constexpr std::array<std::string_view, 9> kContentsLists = {
     "CONT-EVENTS-LINK-LIST",  "CONT-VARS-LINK-LIST",      "CONT-CONSTANTS-LINK-LIST",
 };
 
-/// Whether a topic of its own serves the wrapper; if not, it takes the help id of the one that
-/// does.
-bool keepsTopic(Wrapper& wrapper, const WrapperCollections& wrappers, const Links& links) {
-  const std::string* topic = links.linkAliases.find(wrapper.link());
-  if (topic == nullptr || *topic == wrapper.link()) return true;
-  const Wrapper* serving = findWrapper(wrappers.all, *topic);
-  if (serving == nullptr) return false;
-  wrapper.helpID = serving->helpID;
+/// Whether a topic of its own serves the wrapper; if not, it takes the help id of the one that does.
+bool keepsTopic(Wrapper& wrapper) {
+  if (wrapper.topic == nullptr || wrapper.topic == &wrapper) return true;
+  wrapper.helpID = wrapper.topic->helpID;
   tryStep([&] { wrapper.setIdeHelpContextID(wrapper.helpID); });
   return false;
 }
 
 }  // namespace
 
-std::vector<WrapperRef> makeIndex(const WrapperCollections& wrappers, const Links& links) {
+std::vector<WrapperRef> makeIndex(const WrapperCollections& wrappers) {
   std::vector<WrapperRef> result;
   for (const WrapperRef& wrapper : wrappers.all) {
-    if (keepsTopic(*wrapper, wrappers, links)) result.push_back(wrapper);
+    if (keepsTopic(*wrapper)) result.push_back(wrapper);
   }
   return result;
 }
 
-void makeSameHelpIDs(const WrapperCollections& wrappers, const Links& links) {
-  for (const WrapperRef& wrapper : wrappers.all) keepsTopic(*wrapper, wrappers, links);
+void makeSameHelpIDs(const WrapperCollections& wrappers) {
+  for (const WrapperRef& wrapper : wrappers.all) keepsTopic(*wrapper);
 }
 
 void makeContents(const std::vector<WrapperRef>& compiledList, MacroTable& macros) {

@@ -3,7 +3,6 @@
 
 #include <vector>
 
-#include "model/links.h"
 #include "model/wrapper_collections.h"
 #include "template/macro_table.h"
 
@@ -11,12 +10,12 @@ namespace tamrikon {
 
 /// The wrappers that keep a topic, in the order of `all`. Those that don't take the help id of the
 /// one that serves them, and hand it on to the IDE.
-std::vector<WrapperRef> makeIndex(const WrapperCollections& wrappers, const Links& links);
+std::vector<WrapperRef> makeIndex(const WrapperCollections& wrappers);
 
 /// Sets the CONT-...-LINK-LIST macros to the wrappers of each kind.
 void makeContents(const std::vector<WrapperRef>& compiledList, MacroTable& macros);
 
 /// For each wrapper that another one's topic serves, takes over that one's help id.
-void makeSameHelpIDs(const WrapperCollections& wrappers, const Links& links);
+void makeSameHelpIDs(const WrapperCollections& wrappers);
 
 }  // namespace tamrikon

@@ -51,25 +51,28 @@ std::string Links::canonizeLink(const Wrapper* context, std::string_view link) {
   return found == nullptr ? std::string(link) : found->link();
 }
 
-std::string Links::canonizeLink(std::string_view link) {
-  return canonizeLink(compiledWrapper, link);
-}
-
-std::optional<std::string> Links::topicLink(std::string_view link) {
-  const std::string* topic = linkAliases.find(link);
-  return topic == nullptr ? std::nullopt : std::optional<std::string>(*topic);
+LinkTarget Links::targetOf(const Wrapper* wrapper) {
+  LinkTarget target;
+  if (wrapper == nullptr) return target;
+  target.wrapper = wrapper;
+  target.module = wrapper->source().name();
+  if (wrapper->kind() != WrapperKind::module) target.member = wrapper->name();
+  target.needsModule = wrapper->needsModule;
+  target.helpId = wrapper->helpID;
+  return target;
 }
 
 LinkTarget Links::parseLink(std::string_view link) {
-  LinkTarget target;
-  const Wrapper* found = getWrapperFromLink(compiledWrapper, link);
-  if (found == nullptr) return target;
-  target.wrapper = found;
-  target.module = found->source().name();
-  if (found->kind() != WrapperKind::module) target.member = found->name();
-  target.needsModule = found->needsModule;
-  target.helpId = found->helpID;
-  return target;
+  return targetOf(getWrapperFromLink(compiledWrapper, link));
+}
+
+LinkTarget Links::topicOf(std::string_view link) {
+  const Wrapper* named = getWrapperFromLink(compiledWrapper, link);
+  // A link with a kind in the wrong case was warned of; the topics are looked up without regard to
+  // case, so that it leads somewhere all the same.
+  if (named == nullptr) named = findWrapper(wrappers_.all, link);
+  if (named == nullptr) return parseLink(link);
+  return targetOf(named->topic != nullptr ? named->topic : named);
 }
 
 void Links::setModuleLists(const LinkTarget& target, MacroTable& macros) {

@@ -5,11 +5,9 @@
 // 'set. A link that begins with a double quote names a file and no wrapper.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
-#include "base/keyed_list.h"
 #include "base/message_log.h"
 #include "model/link_lists.h"
 #include "model/wrapper_collections.h"
@@ -27,9 +25,6 @@ class Links final : public LinkResolver {
   /// page.
   Wrapper* compiledWrapper = nullptr;
 
-  /// Link of each wrapper to the link of the wrapper whose topic serves it.
-  KeyedList<std::string> linkAliases;
-
   /// The wrapper that `link`, written in the comment of `context`, names; null if there is none,
   /// with a warning of wrong syntax, of a wrong property kind or of a dead link.
   Wrapper* getWrapperFromLink(const Wrapper* context, std::string_view link);
@@ -38,12 +33,13 @@ class Links final : public LinkResolver {
   std::string canonizeLink(const Wrapper* context, std::string_view link);
 
   // What the list macros ask; the context is compiledWrapper.
-  std::string canonizeLink(std::string_view link) override;
-  std::optional<std::string> topicLink(std::string_view link) override;
   LinkTarget parseLink(std::string_view link) override;
+  LinkTarget topicOf(std::string_view link) override;
   void setModuleLists(const LinkTarget& target, MacroTable& macros) override;
 
  private:
+  static LinkTarget targetOf(const Wrapper* wrapper);
+
   struct LinkFault {
     std::string_view what;
     std::string_view found;

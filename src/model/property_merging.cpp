@@ -44,21 +44,15 @@ void PropertyMerging::addValueArgument(const Wrapper& writing, const Wrapper& re
   }
 }
 
-void PropertyMerging::relink(const Wrapper& from, const Wrapper& to) {
-  const std::string* topic = links_.linkAliases.find(to.link());
-  std::string* alias = links_.linkAliases.find(from.link());
-  if (topic != nullptr && alias != nullptr) *alias = std::string(*topic);
-}
-
 void PropertyMerging::makeSameProps() {
   const auto share = [&](Wrapper& wrapper, Wrapper& companion) {
     if (companion.hadComment) {
       if (companion.kind() == WrapperKind::propGet) addValueArgument(wrapper, companion);
       wrapper.comment = companion.comment;
-      relink(wrapper, companion);
+      wrapper.topic = companion.topic;
     } else {
       companion.comment = wrapper.comment;
-      relink(companion, wrapper);
+      companion.topic = wrapper.topic;
     }
   };
   for (const WrapperRef& set : wrappers_.sets) {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "comments/comment_parser.h"
-#include "model/links.h"
 #include "model/wrapper_collections.h"
 #include "settings/project_settings.h"
 
@@ -12,24 +11,22 @@ namespace tamrikon {
 class PropertyMerging {
  public:
   /// All of them must outlive this object.
-  PropertyMerging(const WrapperCollections& wrappers, Links& links, CommentParser& parser,
+  PropertyMerging(const WrapperCollections& wrappers, CommentParser& parser,
                   const ProjectSettings& settings)
-      : wrappers_(wrappers), links_(links), parser_(parser), settings_(settings) {}
+      : wrappers_(wrappers), parser_(parser), settings_(settings) {}
 
   /// Shares the comments, so that a @same in one procedure's comment holds for the others.
   void makeSamePropsFirst();
 
-  /// Shares them once more and points the links of merged wrappers at the one that keeps the topic.
+  /// Shares them once more and points merged wrappers at the one that keeps the topic.
   /// A Get's comment gets a line for the value argument if it has none.
   void makeSameProps();
 
  private:
   Wrapper* companion(const Wrapper& wrapper, const WrapperList& list, std::string_view mark) const;
   void addValueArgument(const Wrapper& writing, const Wrapper& reading);
-  void relink(const Wrapper& from, const Wrapper& to);
 
   const WrapperCollections& wrappers_;
-  Links& links_;
   CommentParser& parser_;
   const ProjectSettings& settings_;
 };

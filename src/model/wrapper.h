@@ -30,6 +30,10 @@ class Wrapper {
   bool needsModule = false;  // the name isn't unique: labels must add the module's name
   CommentList comment;       // never null; wrappers with one comment share the list
 
+  /// The wrapper whose topic serves this one: itself, unless comments were joined. Null until the
+  /// comments are resolved.
+  Wrapper* topic = nullptr;
+
   CodeModule& cmo() const { return source_.module(); }
   ModuleSource& source() const { return source_; }
 

@@ -52,7 +52,7 @@ bool ListWalk::sort(LinkResolver* resolver) {
 
 std::size_t ListWalk::nextLength() const {
   if (!isSorted()) return (*list_)[done_].size();
-  return links_[done_].key.size() + links_[done_].label.size();
+  return links_[done_].reference.size() + links_[done_].label.size();
 }
 
 bool ListWalk::setNextItem(MacroSlots& slots, const ItemMacros& macros, LinkResolver* resolver,
@@ -84,20 +84,16 @@ bool ListWalk::setFields(std::string_view item, MacroSlots& slots, const ItemMac
 
 void ListWalk::setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros& macros,
                        LinkResolver* resolver, MacroTable& table) const {
-  LinkTarget target;
-  std::string_view file;
-  if (isFileReference(item.key)) {
-    file = std::string_view(item.key).substr(1);
-    target.member = file;
-    target.module = kExternalFile;
-  } else if (resolver != nullptr) {
-    target = resolver->parseLink(item.key);
-  }
-  slots.setText(macros.file, file);
+  const LinkTarget& target = item.target;
+  const bool isFile = isFileReference(item.reference);
+  // A link that leads nowhere is warned of here once more, at its place in the order of the walk.
+  const bool isDead = !isFile && target.wrapper == nullptr;
+  if (isDead && resolver != nullptr) resolver->parseLink(item.reference);
+  slots.setText(macros.file, isFile ? target.member : std::string_view());
   slots.setText(macros.item, target.member);
   slots.setText(macros.location, target.module);
   slots.setText(macros.label, item.label);
-  slots.setText(macros.helpId, std::to_string(item.helpId));
+  slots.setText(macros.helpId, std::to_string(target.helpId));
   if (form_ == Form::moduleLink && target.wrapper != nullptr) {
     resolver->setModuleLists(target, table);
   }

@@ -11,52 +11,53 @@ namespace tamrikon {
 namespace {
 
 std::string madeLabel(const LinkTarget& target) {
-  if (target.member.empty()) return target.module;
-  if (target.wrapper == nullptr || !target.needsModule) return target.member;
-  return target.member + " (" + target.module + ")";
+  if (target.member.empty()) return std::string(target.module);
+  std::string label(target.member);
+  if (target.needsModule) label.append(" (").append(target.module).append(")");
+  return label;
 }
 
 LinkItem linkItem(std::string_view reference, std::string_view label, LinkResolver* resolver) {
   LinkItem item;
-  LinkTarget target;
+  item.reference = reference;
   if (isFileReference(reference)) {
-    item.key = reference;
-    target.member = reference.substr(1);
-    target.module = kExternalFile;
-  } else if (resolver == nullptr) {
-    item.key = reference;
-  } else {
-    item.key = resolver->canonizeLink(reference);
-    if (std::optional<std::string> topic = resolver->topicLink(item.key)) item.key = *topic;
-    target = resolver->parseLink(item.key);
+    item.target.member = reference.substr(1);
+    item.target.module = kExternalFile;
+  } else if (resolver != nullptr) {
+    item.target = resolver->topicOf(reference);
   }
-  item.label = label.empty() ? madeLabel(target) : label;
-  item.helpId = target.wrapper == nullptr ? 0 : target.helpId;
+  item.label = label.empty() ? madeLabel(item.target) : std::string(label);
   return item;
 }
 
 }  // namespace
 
 std::optional<std::vector<LinkItem>> sortLinkItems(const MacroList& list, LinkResolver* resolver) {
-  struct Keyed {
-    std::string sortKey;
-    LinkItem item;
-  };
-  std::vector<Keyed> keyed;
-  keyed.reserve(list.size());
+  std::vector<LinkItem> items;
+  items.reserve(list.size());
   for (const std::string_view text : list) {
     const std::size_t cr = text.find('\r');
     if (cr == std::string_view::npos) return std::nullopt;
-    LinkItem item = linkItem(text.substr(0, cr), text.substr(cr + 1), resolver);
-    std::string sortKey = lowered(item.label + '\r' + std::to_string(item.helpId));
-    keyed.push_back({std::move(sortKey), std::move(item)});
+    items.push_back(linkItem(text.substr(0, cr), text.substr(cr + 1), resolver));
+  }
+  if (items.size() < 2) return items;
+  struct Keyed {
+    std::string sortKey;
+    std::size_t position;
+  };
+  std::vector<Keyed> keyed;
+  keyed.reserve(items.size());
+  for (const LinkItem& item : items) {
+    std::string sortKey = lowered(item.label);
+    sortKey.append("\r").append(std::to_string(item.target.helpId));
+    keyed.push_back({std::move(sortKey), keyed.size()});
   }
   std::stable_sort(keyed.begin(), keyed.end(),
                    [](const Keyed& a, const Keyed& b) { return a.sortKey < b.sortKey; });
-  std::vector<LinkItem> items;
-  items.reserve(keyed.size());
-  for (Keyed& entry : keyed) items.push_back(std::move(entry.item));
-  return items;
+  std::vector<LinkItem> sorted;
+  sorted.reserve(items.size());
+  for (const Keyed& entry : keyed) sorted.push_back(std::move(items[entry.position]));
+  return sorted;
 }
 
 }  // namespace tamrikon

@@ -12,9 +12,9 @@
 namespace tamrikon {
 
 struct LinkItem {
-  std::string key;  // the link, or a double quote and the name of a file
+  std::string_view reference;  // of the list's item: a link, or a double quote and a file's name
+  LinkTarget target;           // the topic that serves it; of a file, its name
   std::string label;
-  int helpId = 0;
 };
 
 /// Whether `reference` names a file: then the rest behind its double quote is the name.
@@ -26,8 +26,8 @@ inline bool isFileReference(std::string_view reference) {
 inline constexpr std::string_view kExternalFile = "External file";
 
 /// The items of `list` with links resolved and empty labels made, by label and then help id as
-/// texts without regard to case; equal ones keep their order. Null: links lead nowhere. Empty if
-/// an item lacks its CR.
+/// texts without regard to case; equal ones keep their order. Without a resolver links lead nowhere.
+/// Empty if an item lacks its CR. The items hold views of `list`.
 std::optional<std::vector<LinkItem>> sortLinkItems(const MacroList& list, LinkResolver* resolver);
 
 }  // namespace tamrikon

@@ -23,14 +23,12 @@ struct RecordingLog : MessageLog {
 struct FakeLinks : LinkResolver {
   explicit FakeLinks(MessageLog& messageLog) : log(messageLog) {}
 
-  std::string canonizeLink(std::string_view link) override {
+  LinkTarget topicOf(std::string_view link) override {
     const std::string full =
         link.starts_with('~') ? "Home." + std::string(link.substr(1)) : std::string(link);
-    return find(full) == nullptr ? std::string(link) : full;
-  }
-  std::optional<std::string> topicLink(std::string_view link) override {
-    const auto found = aliases.find(std::string(link));
-    return found == aliases.end() ? std::nullopt : std::optional(found->second);
+    const std::string canonical = find(full) == nullptr ? std::string(link) : full;
+    const auto alias = aliases.find(canonical);
+    return parseLink(alias == aliases.end() ? canonical : alias->second);
   }
   LinkTarget parseLink(std::string_view link) override {
     const LinkTarget* target = find(std::string(link));
@@ -38,13 +36,16 @@ struct FakeLinks : LinkResolver {
   }
   void setModuleLists(const LinkTarget& target, MacroTable& macros) override {
     macros.setMacroValue("METHODS-LINK-LIST",
-                         std::make_shared<MacroList>(MacroList{target.module + ".Run\rRun"}));
+                         std::make_shared<MacroList>(
+                             MacroList{std::string(target.module) + ".Run\rRun"}));
   }
 
   void add(const std::string& link, int helpId, bool needsModule = false) {
-    const std::size_t dot = link.find('.');
-    const std::string member = dot == std::string::npos ? "" : link.substr(dot + 1);
-    targets[link] = {this, member, link.substr(0, dot), needsModule, helpId};
+    auto& [key, target] = *targets.try_emplace(link).first;
+    const std::string_view name = key;
+    const std::size_t dot = name.find('.');
+    const std::string_view member = dot == std::string_view::npos ? "" : name.substr(dot + 1);
+    target = {this, member, name.substr(0, dot), needsModule, helpId};
   }
   const LinkTarget* find(const std::string& link) {
     const auto found = targets.find(link);
