@@ -2,13 +2,11 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
-#include "base/case_folding.h"
+#include "base/key_index.h"
 
 namespace tamrikon {
 
@@ -19,18 +17,18 @@ class KeyedList {
 
   /// Adds `value` under `key`. False, and no change, if the key is there already.
   bool add(T value, std::string_view key) {
-    if (contains(key)) return false;
-    positions_.emplace(std::string(key), values_.size());
+    if (!keys_.insert(key)) return false;
+    positions_.push_back(values_.size());
     values_.push_back(std::move(value));
     return true;
   }
 
-  bool contains(std::string_view key) const { return positions_.find(key) != positions_.end(); }
+  bool contains(std::string_view key) const { return keys_.find(key) != KeyIndex::kNone; }
 
   /// The value under `key`, or null.
   const T* find(std::string_view key) const {
-    const auto found = positions_.find(key);
-    return found == positions_.end() ? nullptr : &values_[found->second];
+    const std::size_t number = keys_.find(key);
+    return number == KeyIndex::kNone ? nullptr : &values_[positions_[number]];
   }
   T* find(std::string_view key) {
     return const_cast<T*>(static_cast<const KeyedList*>(this)->find(key));
@@ -46,8 +44,8 @@ class KeyedList {
 
  private:
   std::vector<T> values_;
-  std::unordered_map<std::string, std::size_t, CaseInsensitiveHash, CaseInsensitiveEqual>
-      positions_;
+  KeyIndex keys_;
+  std::vector<std::size_t> positions_;  // of the values, by the numbers of their keys
 };
 
 }  // namespace tamrikon

@@ -19,8 +19,8 @@ const WrapperIndex& LinkLists::index() {
 
 LinkListRef LinkLists::getAppliesList(const Wrapper& wrapper) {
   auto items = std::make_shared<MacroList>();
-  for (const std::string& module : index().modulesOf(wrapper.comment.get())) {
-    items->push_back(module + '\r');
+  for (const std::string_view module : index().modulesOf(wrapper)) {
+    items->emplace_back(module).push_back('\r');
   }
   return items;
 }

@@ -1,26 +1,8 @@
 #include "model/wrapper_index.h"
 
-#include <algorithm>
 #include <functional>
-#include <unordered_set>
 
 namespace tamrikon {
-namespace {
-
-/// Views of names that their wrappers hold.
-using NameSet = std::unordered_set<std::string_view, CaseInsensitiveHash, CaseInsensitiveEqual>;
-
-/// Adds those whose name the module's list doesn't hold yet.
-void addByName(const WrapperList& from, std::unordered_map<const CodeModule*, NameSet>& names,
-               const std::function<std::vector<Wrapper*>&(const CodeModule*)>& listOf) {
-  for (const WrapperRef& wrapper : from) {
-    const CodeModule* module = &wrapper->cmo();
-    if (names[module].insert(wrapper->name()).second) listOf(module).push_back(wrapper.get());
-  }
-}
-
-}  // namespace
-
 std::size_t WrapperIndex::KeyHash::operator()(const Key& key) const {
   std::size_t hash = std::hash<std::string_view>()(key.name);
   for (const std::size_t part :
@@ -33,11 +15,12 @@ std::size_t WrapperIndex::KeyHash::operator()(const Key& key) const {
 }
 
 WrapperIndex::WrapperIndex(const WrapperCollections& wrappers) {
-  for (const WrapperList* list :
-       {&wrappers.constants, &wrappers.variables, &wrappers.events, &wrappers.methods,
-        &wrappers.gets, &wrappers.sets, &wrappers.lets}) {
-    count(*list);
-  }
+  const WrapperList* const lists[] = {&wrappers.constants, &wrappers.variables, &wrappers.events,
+                                      &wrappers.methods,   &wrappers.gets,      &wrappers.sets,
+                                      &wrappers.lets};
+  counts_.reserve(wrappers.all.size());
+  for (const WrapperList* list : lists) countNames(*list);
+  for (const WrapperList* list : lists) countComments(*list);
   collectMembers(wrappers);
   collectModules(wrappers.all);
 }
@@ -57,14 +40,24 @@ WrapperIndex::Group WrapperIndex::groupOf(const Wrapper& wrapper) {
   return Group::none;
 }
 
-void WrapperIndex::count(const WrapperList& list) {
+bool WrapperIndex::counts(const Wrapper& wrapper) {
+  // An event of a standard module never makes another one's name ambiguous.
+  return wrapper.kind() != WrapperKind::event || !isStandardModule(wrapper.source().type());
+}
+
+void WrapperIndex::countNames(const WrapperList& list) {
+  for (const WrapperRef& wrapper : list) {
+    if (counts(*wrapper)) ++counts_[{groupOf(*wrapper), wrapper->name(), nullptr, nullptr}];
+  }
+}
+
+void WrapperIndex::countComments(const WrapperList& list) {
   for (const WrapperRef& wrapper : list) {
     const Group group = groupOf(*wrapper);
-    // An event of a standard module never makes another one's name ambiguous.
-    if (group == Group::events && isStandardModule(wrapper->source().type())) continue;
     const std::string_view name = wrapper->name();
+    // Most names stand alone, and then nobody asks.
+    if (!counts(*wrapper) || countOf({group, name, nullptr, nullptr}) == 1) continue;
     const CommentLines* comment = wrapper->comment.get();
-    ++counts_[{group, name, nullptr, nullptr}];
     ++counts_[{group, name, nullptr, comment}];
     if (group != Group::properties) continue;
     ++counts_[{group, name, &wrapper->cmo(), nullptr}];
@@ -82,44 +75,51 @@ bool WrapperIndex::needsModuleName(const Wrapper& wrapper) const {
   if (group == Group::none) return false;
   const std::string_view name = wrapper.name();
   const CommentLines* comment = wrapper.comment.get();
-  int others = countOf({group, name, nullptr, nullptr});
-  int sharing = countOf({group, name, nullptr, comment});
-  if (group == Group::properties) {
-    others -= countOf({group, name, &wrapper.cmo(), nullptr});
-    sharing -= countOf({group, name, &wrapper.cmo(), comment});
-  } else if (group != Group::events || !isStandardModule(wrapper.source().type())) {
-    --others;  // the wrapper itself
-    --sharing;
+  const int itself = counts(wrapper) ? 1 : 0;
+  int others = countOf({group, name, nullptr, nullptr}) - itself;
+  if (others == 0) return false;
+  int sharing = countOf({group, name, nullptr, comment}) - itself;
+  if (group == Group::properties) {  // those of its own module, itself among them, don't clash
+    others -= countOf({group, name, &wrapper.cmo(), nullptr}) - itself;
+    sharing -= countOf({group, name, &wrapper.cmo(), comment}) - itself;
   }
   return others > 0 && sharing == 0;
 }
 
+// Links are unique, and so are the names of a kind in a module.
 void WrapperIndex::collectMembers(const WrapperCollections& wrappers) {
-  std::unordered_map<const CodeModule*, NameSet> names;
-  for (const WrapperList* list : {&wrappers.gets, &wrappers.sets, &wrappers.lets}) {
-    addByName(
-        *list, names, [&](const CodeModule* m) -> auto& { return members_[m].properties; });
+  const auto hasCompanion = [](const Wrapper& wrapper, const WrapperList& list,
+                               std::string_view mark) {
+    const std::string_view link = wrapper.link();
+    std::string companion(link.substr(0, link.size() - mark.size()));
+    const Wrapper* found = findWrapper(list, companion.append(mark));
+    return found != nullptr && &found->cmo() == &wrapper.cmo();
+  };
+  for (const WrapperRef& get : wrappers.gets) {
+    members_[&get->cmo()].properties.push_back(get.get());
   }
-  names.clear();
-  addByName(
-      wrappers.methods, names, [&](const CodeModule* m) -> auto& { return members_[m].methods; });
-  names.clear();
-  addByName(
-      wrappers.events, names, [&](const CodeModule* m) -> auto& { return members_[m].events; });
+  for (const WrapperRef& set : wrappers.sets) {
+    if (hasCompanion(*set, wrappers.gets, "'get")) continue;
+    members_[&set->cmo()].properties.push_back(set.get());
+  }
+  for (const WrapperRef& let : wrappers.lets) {
+    if (hasCompanion(*let, wrappers.gets, "'get")) continue;
+    if (hasCompanion(*let, wrappers.sets, "'set")) continue;
+    members_[&let->cmo()].properties.push_back(let.get());
+  }
+  for (const WrapperRef& method : wrappers.methods) {
+    members_[&method->cmo()].methods.push_back(method.get());
+  }
+  for (const WrapperRef& event : wrappers.events) {
+    members_[&event->cmo()].events.push_back(event.get());
+  }
 }
 
 void WrapperIndex::collectModules(const WrapperList& all) {
-  using OwnedNames = std::unordered_set<std::string, CaseInsensitiveHash, CaseInsensitiveEqual>;
-  std::unordered_map<const CommentLines*, OwnedNames> names;
   for (const WrapperRef& wrapper : all) {
-    const std::string& module = wrapper->source().name();
-    std::vector<std::string>& modules = modules_[wrapper->comment.get()];
-    if (!modules.empty()) {  // few comments are shared: only those need a set of names
-      OwnedNames& seen = names[wrapper->comment.get()];
-      seen.insert(modules.front());
-      if (!seen.insert(module).second) continue;
-    }
-    modules.push_back(module);
+    if (wrapper->comment.use_count() == 1) continue;  // nobody shares it
+    const std::string_view module = wrapper->source().name();
+    modules_[wrapper->comment.get()].add(module, module);
   }
 }
 
@@ -129,10 +129,10 @@ const WrapperIndex::ModuleMembers& WrapperIndex::membersOf(const CodeModule& mod
   return found == members_.end() ? none : found->second;
 }
 
-const std::vector<std::string>& WrapperIndex::modulesOf(const CommentLines* comment) const {
-  static const std::vector<std::string> none;
-  const auto found = modules_.find(comment);
-  return found == modules_.end() ? none : found->second;
+std::vector<std::string_view> WrapperIndex::modulesOf(const Wrapper& wrapper) const {
+  const auto shared = modules_.find(wrapper.comment.get());
+  if (shared == modules_.end()) return {wrapper.source().name()};
+  return {shared->second.begin(), shared->second.end()};
 }
 
 }  // namespace tamrikon

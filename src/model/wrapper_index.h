@@ -2,7 +2,6 @@
 // which names are unique, which comments are shared, which members a module has.
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -25,8 +24,8 @@ class WrapperIndex {
   /// The documented members of a module; empty lists for one that has none.
   const ModuleMembers& membersOf(const CodeModule& module) const;
 
-  /// The names of the modules that hold a wrapper with this comment, each once.
-  const std::vector<std::string>& modulesOf(const CommentLines* comment) const;
+  /// The names of the modules in which the comment of `wrapper` applies, each once.
+  std::vector<std::string_view> modulesOf(const Wrapper& wrapper) const;
 
   /// Whether another wrapper of the same sort bears the same name and none of those shares the
   /// comment. Properties of one module don't clash, nor do methods of classes with functions of
@@ -49,14 +48,17 @@ class WrapperIndex {
   };
 
   static Group groupOf(const Wrapper& wrapper);
-  void count(const WrapperList& list);
+  static bool counts(const Wrapper& wrapper);
+  void countNames(const WrapperList& list);
+  void countComments(const WrapperList& list);
   int countOf(const Key& key) const;
   void collectMembers(const WrapperCollections& wrappers);
   void collectModules(const WrapperList& all);
 
   std::unordered_map<Key, int, KeyHash> counts_;
   std::unordered_map<const CodeModule*, ModuleMembers> members_;
-  std::unordered_map<const CommentLines*, std::vector<std::string>> modules_;
+  // Of the comments that several wrappers hold, the modules of these.
+  std::unordered_map<const CommentLines*, KeyedList<std::string_view>> modules_;
 };
 
 }  // namespace tamrikon

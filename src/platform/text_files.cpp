@@ -1,6 +1,5 @@
 #include "platform/text_files.h"
 
-#include "base/text.h"
 #include "base/utf8.h"
 #include "platform/text_decoding.h"
 
@@ -13,10 +12,17 @@ FileErrorAnswer TextFiles::ask(const std::string& path, std::string_view verb, F
 
 int TextFiles::put(WriteOperation write, const std::string& path, std::string_view text,
                    bool silent) {
-  std::string bytes = replaceAll(text, "\r", "\r\n");
-  if (!isAscii(bytes)) bytes = page_->encode(bytes);
+  bytes_.clear();
+  for (std::string_view rest = text; !rest.empty();) {
+    const std::size_t lineLength = rest.find('\r');
+    bytes_.append(rest, 0, lineLength);
+    if (lineLength == std::string_view::npos) break;
+    bytes_.append("\r\n");
+    rest.remove_prefix(lineLength + 1);
+  }
+  if (!isAscii(bytes_)) bytes_ = page_->encode(bytes_);
   for (;;) {
-    const FileError error = (files_.*write)(path, bytes);
+    const FileError error = (files_.*write)(path, bytes_);
     if (error == FileError::none) return 0;
     switch (ask(path, "saving", error, silent)) {
       case FileErrorAnswer::repeat: break;

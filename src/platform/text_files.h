@@ -60,6 +60,7 @@ class TextFiles {
   FileSystem& files_;
   FileErrorReporter& reporter_;
   const CodePage* page_ = CodePage::find(1252);
+  std::string bytes_;  // of the file in work; kept for the next one, as pages come by thousands
 };
 
 }  // namespace tamrikon

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/case_folding.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "platform/text_decoding.h"
