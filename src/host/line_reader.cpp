@@ -26,7 +26,7 @@ bool LineReader::next() {
   } else if (lf < cr) {
     end_ = LineEnd::lf;
   } else {
-    end_ = lf == cr + 1 ? LineEnd::crLf : LineEnd::cr;
+    end_ = lf == cr + 1 && lf < text_.size() ? LineEnd::crLf : LineEnd::cr;
   }
   offset_ = stop + textOf(end_).size();
   return true;

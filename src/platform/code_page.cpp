@@ -24,6 +24,13 @@ constexpr PageName kPages[] = {
     {1257, "windows-1257"}, {1258, "windows-1258"}, {kUtf8, "utf-8"},
 };
 
+/// Whether the pair is there for reading alone, as Windows writes its character as a later pair.
+bool isReadOnlyPair(int page, unsigned pair) {
+  if (page == 932) return pair >= 0xED40 && pair <= 0xEEFC;
+  return page == 950 &&
+         ((pair >= 0xA2A4 && pair <= 0xA2A7) || pair == 0xA2CC || pair == 0xA2CE);
+}
+
 unsigned char byteAt(std::string_view bytes, std::size_t offset) {
   return static_cast<unsigned char>(bytes[offset]);
 }
@@ -95,11 +102,14 @@ void CodePage::fillTables() {
         const char32_t codePoint = lookUp(std::string_view(pair, 2));
         if (codePoint == 0 || codePoint > 0xFFFF) continue;
         pairs_[lead * 256 + second] = static_cast<char16_t>(codePoint);
-        remember(codePoint, lead * 256 + second);
+        const unsigned bytes = lead * 256 + second;
+        if (!isReadOnlyPair(number_, bytes)) remember(codePoint, bytes);
       }
     }
   }
-  for (unsigned byte = 0x80; byte <= 0xFF; ++byte) remember(byte, byte);
+  for (unsigned byte = 0x80; byte <= 0xFF; ++byte) {
+    if (single_[byte] == 0) remember(byte, byte);
+  }
 }
 
 std::string CodePage::decode(std::string_view bytes) const {

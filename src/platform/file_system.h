@@ -36,7 +36,7 @@ class FileSystem {
   /// Creates the folder and its missing parents. A folder that exists is a success.
   virtual FileError createFolders(const std::string& path) = 0;
 
-  /// Whether a file (not a folder) of that name is there.
+  /// Whether a file of that name is there: no folder, device or pipe, which may never end.
   virtual bool isFile(const std::string& path) = 0;
 
   /// The names in a folder, in no particular order; empty if it can't be read.

@@ -159,24 +159,28 @@ class PosixFileSystem final : public FileSystem {
   }
 
   FileError remove(const std::string& path) override {
-    const std::string native = nativePath(path);
+    const std::string native = checkedPath(path);
+    if (native.empty()) return FileError::badFileName;
     return ::unlink(native.c_str()) == 0 ? FileError::none : errorOf(errno, native);
   }
 
   FileError createFolder(const std::string& path) override {
-    const std::string native = nativePath(path);
+    const std::string native = checkedPath(path);
+    if (native.empty()) return FileError::badFileName;
     return ::mkdir(native.c_str(), 0777) == 0 ? FileError::none : errorOf(errno, native);
   }
 
   FileError createFolders(const std::string& path) override {
+    const std::string native = checkedPath(path);
+    if (native.empty()) return FileError::badFileName;
     std::error_code failure;
-    std::filesystem::create_directories(nativePath(path), failure);
+    std::filesystem::create_directories(native, failure);
     return errorOf(failure.value());
   }
 
   bool isFile(const std::string& path) override {
     struct stat status {};
-    return ::stat(nativePath(path).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+    return ::stat(checkedPath(path).c_str(), &status) == 0 && S_ISREG(status.st_mode);
   }
 
   std::vector<std::string> list(const std::string& folder) override {

@@ -7,9 +7,9 @@ namespace tamrikon {
 DecodedText decodeText(std::string_view bytes, const CodePage& page) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
   DecodedText result;
-  if (bytes.starts_with(kMark) && isValidUtf8(bytes)) {
+  if (bytes.starts_with(kMark)) {
     result.encoding = TextEncoding::utf8WithMark;
-    result.text = bytes.substr(kMark.size());
+    result.text = CodePage::find(65001)->decode(bytes.substr(kMark.size()));
   } else if (isAscii(bytes)) {
     result.text = bytes;
   } else if (isValidUtf8(bytes)) {

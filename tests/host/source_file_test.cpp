@@ -1,0 +1,212 @@
+#include "host/source_file.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "base/text.h"
+#include "host/member_attributes.h"
+
+namespace tamrikon {
+namespace {
+
+const CodePage& page(int number = 1252) { return *CodePage::find(number); }
+
+std::string visible(const SourceFile& file) {
+  return replaceAll(file.text(1, file.lineCount()), "\r\n", "|");
+}
+
+std::string saved(const SourceFile& file) {
+  LackingCharacter lacking;
+  return file.bytes(lacking).value_or("not saved");
+}
+
+TEST(SourceFile, ShowsTheCodeBehindTheHead) {
+  struct Case {
+    const char* name;
+    const char* bytes;
+    const char* visible;
+  };
+  for (const Case& c : {
+           Case{"empty", "", ""},
+           Case{"no head", "Option Explicit\r\n\r\n", "Option Explicit|"},
+           Case{"no line end at the end", "a\nb", "a|b"},
+           Case{"line ends of all kinds", "a\rb\nc\r\n\r\rd\n\r", "a|b|c|||d|"},
+           Case{"class",
+                "VERSION 1.0 CLASS\r\nBEGIN\r\n  MultiUse = -1\r\nEND\r\nAttribute VB_Name = "
+                "\"A\"\r\nPublic b\r\n",
+                "Public b"},
+           Case{"nested blocks, texts that look like their ends",
+                "VERSION 5.00\r\nObject = \"{1}#2.0#0\"; \"X.OCX\"\r\nBegin VB.Form a \r\n  "
+                "Caption = \"\r\n  BeginProperty Font {1} \r\n  endproperty\r\n  begin "
+                "VB.Label b\r\n\tEnd &all\r\n\tEnd\t\r\n  Begin =\r\n  END\r\nEnd\r\nAttribute "
+                "VB_Name = \"a\"\r\nx\r\n",
+                "x"},
+           Case{"continued attribute", "Attribute VB_Ext_KEY = \"a\" _\r\n  ,\"b\"\r\nx\r\n", "x"},
+           Case{"block without an end", "Begin VB.Form a\r\nx\r\nEnd Sub\r\n", ""},
+           Case{"head lines out of order", "Attribute VB_Name = \"a\"\r\nVERSION 5.00\r\nBegin\r\n",
+                "VERSION 5.00|Begin"},
+           Case{"blank line ends the head", "VERSION 5.00\r\n\r\nAttribute VB_Name = \"a\"\r\nx\r\n",
+                "|x"},
+           Case{"hidden lines",
+                "Sub A()\r\n\tattribute A.VB_HelpID = _\r\n5\r\nAttribute A.x = 1\r\nAttributed = "
+                "1\r\nAttribute\r\nEnd Sub\r\n",
+                "Sub A()|Attributed = 1|Attribute|End Sub"},
+       }) {
+    SCOPED_TRACE(c.name);
+    const SourceFile file(c.bytes, page());
+    EXPECT_EQ(visible(file), c.visible);
+    EXPECT_EQ(saved(file), c.bytes);
+  }
+}
+
+TEST(SourceFile, KeepsTheBytesOfWhatIsNotEdited) {
+  struct Case {
+    const char* name;
+    int page;
+    const char* bytes;
+    const char* added;
+    const char* saved;
+  };
+  for (const Case& c : {
+           Case{"code page", 1252, "a\xE4\x9D\r\n", "ü", "\xFC\r\na\xE4\x9D\r\n"},
+           Case{"UTF-8", 1251, "\xC3\xA4\n", "ж", "\xD0\xB6\n\xC3\xA4\n"},
+           Case{"mark", 1252, "\xEF\xBB\xBF" "a\n", "ж", "\xEF\xBB\xBF\xD0\xB6\na\n"},
+           Case{"mark and bytes that aren't UTF-8", 1252, "\xEF\xBB\xBF\xFF\n", "ж",
+                "\xEF\xBB\xBF\xD0\xB6\n\xFF\n"},
+           Case{"pairs that another pair equals", 932, "' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n", "表",
+                "\x95\x5C\n' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n"},
+           Case{"lone CR", 1252, "a\rb", "c", "c\ra\rb"},
+           Case{"no line end at all", 1252, "a", "b\nc", "b\r\nc\r\na"},
+       }) {
+    SCOPED_TRACE(c.name);
+    SourceFile file(c.bytes, page(c.page));
+    EXPECT_EQ(saved(file), c.bytes);
+    EXPECT_FALSE(file.isChanged());
+    file.insertLines(1, c.added);
+    EXPECT_TRUE(file.isChanged());
+    EXPECT_EQ(saved(file), c.saved);
+  }
+}
+
+TEST(SourceFile, NamesTheCharacterThatItsPageLacks) {
+  SourceFile file("Attribute VB_Name = \"a\"\r\nx\xE4\r\nAttribute x.y = _\r\n1\r\nz\r\n", page());
+  file.insertLines(2, "ok\nbut \u03A9");
+  LackingCharacter lacking;
+  EXPECT_FALSE(file.bytes(lacking));
+  EXPECT_EQ(lacking.line, 6);
+  EXPECT_EQ(lacking.codePoint, U'\u03A9');
+}
+
+TEST(SourceFile, EditsAroundHiddenLines) {
+  const std::string bytes = "a\nAttribute a.x = 1\nb\nc\nAttribute c.x = 1";
+  struct Case {
+    const char* name;
+    int line;
+    int deleted;
+    const char* inserted;  // nothing is inserted for null
+    const char* saved;
+  };
+  for (const Case& c : {
+           Case{"insert behind hidden", 2, 0, "n\r\nm", "a\nAttribute a.x = 1\nn\nm\nb\nc\nAttribute "
+                                                        "c.x = 1"},
+           Case{"insert at the end", 4, 0, "n", "a\nAttribute a.x = 1\nb\nc\nAttribute c.x = 1\nn\n"},
+           Case{"line end at the end of the text", 1, 0, "n\r",
+                "n\n\na\nAttribute a.x = 1\nb\nc\nAttribute c.x = 1"},
+           Case{"insert nothing", 1, 0, "", "\na\nAttribute a.x = 1\nb\nc\nAttribute c.x = 1"},
+           Case{"insert hidden", 2, 0, "Attribute a.y = _\n2\nn",
+                "a\nAttribute a.x = 1\nAttribute a.y = _\n2\nn\nb\nc\nAttribute c.x = 1"},
+           Case{"delete with hidden", 1, 1, nullptr, "b\nc\nAttribute c.x = 1"},
+           Case{"delete the last", 2, 2, nullptr, "a\nAttribute a.x = 1\n"},
+           Case{"replace", 3, 1, "n", "a\nAttribute a.x = 1\nb\nn\n"},
+       }) {
+    SCOPED_TRACE(c.name);
+    SourceFile file(bytes, page());
+    if (c.deleted > 0) file.deleteLines(c.line, c.deleted);
+    if (c.inserted != nullptr) file.insertLines(c.line, c.inserted);
+    EXPECT_EQ(saved(file), c.saved);
+    const SourceFile again(saved(file), page());
+    EXPECT_EQ(visible(file), visible(again));
+  }
+}
+
+TEST(MemberAttributes, ReadsTheFirstThatIsNotEmpty) {
+  SourceFile file(
+      "Attribute VB_Name = \"Mod\"\r\nAttribute VB_Description = \"of \"\"it\"\"\"\r\n"
+      "Attribute VB_HelpID = 12\r\nProperty Let A(v)\r\nAttribute A.VB_Description = \"\"\r\n"
+      "Attribute A.VB_HelpID = -1\r\nProperty Get A()\r\n"
+      "attribute a.vb_description=  \"one\\r\\ntwo\\n\" _\r\n  ' x\r\nAttribute A.VB_HelpID = 7\r\n"
+      "Attribute A.VB_VarDescription = \"no\"\r\nDim v\r\nAttribute v.VB_VarHelpID = -1\r\n"
+      "Attribute [x/y.z].VB_VarDescription = \"br\"\r\nAttribute VB_Description = \"hidden\"\r\n"
+      "Attribute v.VB_VarHelpID = 99999999999\r\nAttribute v.VB_VarHelpID = 3\r\n",
+      page());
+  MemberAttributes attributes(file);
+  EXPECT_EQ(attributes.moduleName(), "Mod");
+  EXPECT_EQ(attributes.description({}), "of \"it\"");
+  EXPECT_EQ(attributes.helpContextID({}), 12);
+  EXPECT_EQ(attributes.description({"A", "A"}), "one\r\ntwo\\n");
+  EXPECT_EQ(attributes.helpContextID({"A", "A"}), 7);
+  EXPECT_EQ(attributes.helpContextID({"v", "v", true}), 3);
+  EXPECT_EQ(attributes.helpContextID({"v", "v", false}), 0);
+  EXPECT_EQ(attributes.description({"x_y.z", "x/y.z", true}), "br");
+  EXPECT_EQ(attributes.description({"none", "none"}), "");
+}
+
+TEST(MemberAttributes, WritesIntoTheHeadAndBehindDeclarations) {
+  SourceFile file(
+      "VERSION 1.0 CLASS\nBEGIN\nEND\nAttribute VB_Name = \"M\"\nDim v\n"
+      "Attribute v.VB_UserMemId = 0\nProperty Get P( _\n x)\nAttribute P.VB_Description = \"old\"\n"
+      "Property Let P(x)\n  Attribute p.VB_Description =  _\n\"old\"\nAttribute P.VB_HelpID = -1\n",
+      page());
+  MemberAttributes attributes(file);
+  attributes.setDescription({}, "a \"b\"");
+  attributes.setHelpContextID({}, 0);
+  attributes.setDescription({"v", "v", true, 1}, "");
+  attributes.setHelpContextID({"v", "v", true, 1}, 5);
+  attributes.setDescription({"P", "P", false, 3}, "one\rtwo\nthree\r\n");
+  attributes.setHelpContextID({"P", "P", false, 3}, 0);
+  EXPECT_EQ(saved(file),
+            "VERSION 1.0 CLASS\nBEGIN\nEND\nAttribute VB_Name = \"M\"\n"
+            "Attribute VB_Description = \"a \"\"b\"\"\"\nDim v\nAttribute v.VB_VarHelpID = 5\n"
+            "Attribute v.VB_UserMemId = 0\nProperty Get P( _\n x)\n"
+            "Attribute P.VB_Description = \"one\\r\\ntwo\\r\\nthree\\r\\n\"\n"
+            "Property Let P(x)\n"
+            "  Attribute p.VB_Description =  \"one\\r\\ntwo\\r\\nthree\\r\\n\"\n"
+            "Attribute P.VB_HelpID = -1\n");
+  EXPECT_EQ(attributes.description({"P", "P"}), "one\r\ntwo\r\nthree\r\n");
+  EXPECT_EQ(attributes.helpContextID({"v", "v", true}), 5);
+}
+
+TEST(MemberAttributes, LeavesWhatReadsAsTheValue) {
+  const std::string bytes =
+      "Attribute VB_Name = \"M\"\r\nDim v\r\nAttribute v.VB_VarHelpID = -1\r\n"
+      "Attribute v.VB_VarDescription = \"a\\r\\nb\" 'x\r\n";
+  SourceFile file(bytes, page());
+  MemberAttributes attributes(file);
+  attributes.setHelpContextID({"v", "v", true, 1}, 0);
+  attributes.setDescription({"V", "v", true, 1}, "a\rb");
+  EXPECT_FALSE(file.isChanged());
+}
+
+TEST(MemberAttributes, FindsThemAgainAfterAnEdit) {
+  SourceFile file("a\nAttribute a.VB_HelpID = 1\nb\n", page());
+  MemberAttributes attributes(file);
+  EXPECT_EQ(attributes.helpContextID({"a", "a"}), 1);
+  file.deleteLines(1, 1);
+  EXPECT_EQ(attributes.helpContextID({"a", "a"}), 0);
+  attributes.setHelpContextID({"b", "b", false, 1}, 2);
+  file.insertLines(1, "c");
+  attributes.setHelpContextID({"b", "b", false, 2}, 3);
+  EXPECT_EQ(saved(file), "c\nb\nAttribute b.VB_HelpID = 3\n");
+}
+
+TEST(SourceFile, HeadWithoutLineEndGrows) {
+  SourceFile file("VERSION 1.0 CLASS", page());
+  MemberAttributes attributes(file);
+  attributes.setHelpContextID({}, 4);
+  file.insertLines(1, "x");
+  EXPECT_EQ(saved(file), "VERSION 1.0 CLASS\r\nAttribute VB_HelpID = 4\r\nx\r\n");
+}
+
+}  // namespace
+}  // namespace tamrikon

@@ -1,0 +1,94 @@
+#include "platform/file_system.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "support/temp_folder.h"
+
+namespace tamrikon {
+namespace {
+
+TEST(FileSystem, ReportsTheClassicErrors) {
+  const test::TempFolder folder;
+  folder.put("file", "x");
+  struct Case {
+    std::string path;
+    FileError reading;
+    FileError saving;
+  };
+  for (const Case& c : {
+           Case{folder / "none", FileError::fileNotFound, FileError::none},
+           Case{folder / "no/folder/none", FileError::pathNotFound, FileError::pathNotFound},
+           Case{folder / "file/none", FileError::pathNotFound, FileError::pathNotFound},
+           Case{folder / "", FileError::pathFileAccess, FileError::pathFileAccess},
+           Case{folder / std::string(300, 'n'), FileError::badFileName, FileError::badFileName},
+           Case{folder / std::string("file\0x", 6), FileError::badFileName,
+                FileError::badFileName},
+           Case{"", FileError::badFileName, FileError::badFileName},
+       }) {
+    SCOPED_TRACE(c.path);
+    std::string bytes = "old";
+    EXPECT_EQ(nativeFileSystem().read(c.path, bytes), c.reading);
+    EXPECT_EQ(bytes, "");
+    EXPECT_EQ(nativeFileSystem().write(c.path, "new"), c.saving);
+    if (c.saving == FileError::none) nativeFileSystem().remove(c.path);
+    EXPECT_EQ(nativeFileSystem().append(c.path, "new"), c.saving);
+  }
+  EXPECT_EQ(folder.get("file"), "x");
+}
+
+TEST(FileSystem, FullDeviceIsTold) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no such device here";
+  EXPECT_EQ(nativeFileSystem().write("/dev/full", "x"), FileError::diskFull);
+}
+
+TEST(FileSystem, AppendsBytesAsTheyAre) {
+  const test::TempFolder folder;
+  const std::string bytes("a\0\r\n", 4);
+  EXPECT_EQ(nativeFileSystem().append(folder / "f", bytes), FileError::none);
+  EXPECT_EQ(nativeFileSystem().append(folder / "f", "b"), FileError::none);
+  EXPECT_EQ(folder.get("f"), bytes + "b");
+}
+
+TEST(FileSystem, ReplacingKeepsPermissionsAndLinks) {
+  const test::TempFolder folder;
+  const std::string target = folder.put("real/target", "old");
+  ::chmod(target.c_str(), 0640);
+  const std::string link = folder / "link";
+  std::filesystem::create_symlink(target, link);
+
+  EXPECT_EQ(nativeFileSystem().replaceAtomically(link, "new"), FileError::none);
+
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_EQ(folder.get("real/target"), "new");
+  struct stat status {};
+  ASSERT_EQ(::stat(target.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0640U);
+  EXPECT_EQ(nativeFileSystem().list(folder / "real").size(), 1U);
+}
+
+TEST(FileSystem, FailedReplacementLeavesNothingBehind) {
+  const test::TempFolder folder;
+  folder.put("folder/inner", "x");
+  EXPECT_NE(nativeFileSystem().replaceAtomically(folder / "folder", "new"), FileError::none);
+  EXPECT_EQ(nativeFileSystem().replaceAtomically(folder / "no/file", "new"),
+            FileError::pathNotFound);
+  EXPECT_EQ(nativeFileSystem().list(folder / "").size(), 1U);
+  EXPECT_EQ(folder.get("folder/inner"), "x");
+}
+
+TEST(FileSystem, IsFileTakesOnlyWhatEnds) {
+  const test::TempFolder folder;
+  folder.put("file", "");
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  EXPECT_TRUE(nativeFileSystem().isFile(folder / "file"));
+  EXPECT_FALSE(nativeFileSystem().isFile(folder / ""));
+  EXPECT_FALSE(nativeFileSystem().isFile(folder / "pipe"));
+  EXPECT_FALSE(nativeFileSystem().isFile(folder / std::string("file\0x", 6)));
+}
+
+}  // namespace
+}  // namespace tamrikon
