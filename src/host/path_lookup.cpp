@@ -9,7 +9,8 @@
 namespace tamrikon {
 namespace {
 
-// No system has paths of more folders, and the search calls itself once a folder.
+// No system has longer paths, nor any with more folders; the search calls itself once a folder.
+constexpr std::size_t kMaxLength = 32767;
 constexpr int kMaxDepth = 256;
 
 /// Whether the platform itself takes the path as absolute; a drive letter may mean nothing to it.
@@ -24,7 +25,8 @@ std::string PathLookup::tried(std::string_view folder, std::string_view path) {
 }
 
 std::string PathLookup::find(std::string_view folder, std::string_view path) {
-  if (path.empty() || path.find('\0') != std::string_view::npos) return {};
+  if (path.empty() || path.size() > kMaxLength) return {};
+  if (path.find('\0') != std::string_view::npos) return {};
   if (!isAbsolutePath(path)) return findAt(tried(folder, path));
   const std::string native = nativePath(path);
   const std::string found = isAbsoluteHere(native) ? findAt(native) : std::string();

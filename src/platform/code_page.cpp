@@ -27,8 +27,7 @@ constexpr PageName kPages[] = {
 /// Whether the pair is there for reading alone, as Windows writes its character as a later pair.
 bool isReadOnlyPair(int page, unsigned pair) {
   if (page == 932) return pair >= 0xED40 && pair <= 0xEEFC;
-  return page == 950 &&
-         ((pair >= 0xA2A4 && pair <= 0xA2A7) || pair == 0xA2CC || pair == 0xA2CE);
+  return page == 950 && ((pair >= 0xA2A4 && pair <= 0xA2A7) || pair == 0xA2CC || pair == 0xA2CE);
 }
 
 unsigned char byteAt(std::string_view bytes, std::size_t offset) {

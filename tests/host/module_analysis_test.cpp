@@ -13,8 +13,7 @@ namespace {
 class Analysed {
  public:
   explicit Analysed(std::string text, const char* constants = "")
-      : text_(std::move(text)),
-        analysis_(split(text_, '|'), readConditionalConstants(constants)) {}
+      : text_(std::move(text)), analysis_(split(text_, '|'), readConditionalConstants(constants)) {}
 
   /// Each member as "name type scope line", type and scope by their numbers.
   std::string members() const {

@@ -10,7 +10,9 @@
 namespace tamrikon {
 namespace {
 
-const CodePage& page(int number = 1252) { return *CodePage::find(number); }
+const CodePage& page(int number = 1252) {
+  return *CodePage::find(number);
+}
 
 std::string visible(const SourceFile& file) {
   return replaceAll(file.text(1, file.lineCount()), "\r\n", "|");
@@ -46,8 +48,8 @@ TEST(SourceFile, ShowsTheCodeBehindTheHead) {
            Case{"block without an end", "Begin VB.Form a\r\nx\r\nEnd Sub\r\n", ""},
            Case{"head lines out of order", "Attribute VB_Name = \"a\"\r\nVERSION 5.00\r\nBegin\r\n",
                 "VERSION 5.00|Begin"},
-           Case{"blank line ends the head", "VERSION 5.00\r\n\r\nAttribute VB_Name = \"a\"\r\nx\r\n",
-                "|x"},
+           Case{"blank line ends the head",
+                "VERSION 5.00\r\n\r\nAttribute VB_Name = \"a\"\r\nx\r\n", "|x"},
            Case{"hidden lines",
                 "Sub A()\r\n\tattribute A.VB_HelpID = _\r\n5\r\nAttribute A.x = 1\r\nAttributed = "
                 "1\r\nAttribute\r\nEnd Sub\r\n",
@@ -71,11 +73,14 @@ TEST(SourceFile, KeepsTheBytesOfWhatIsNotEdited) {
   for (const Case& c : {
            Case{"code page", 1252, "a\xE4\x9D\r\n", "ü", "\xFC\r\na\xE4\x9D\r\n"},
            Case{"UTF-8", 1251, "\xC3\xA4\n", "ж", "\xD0\xB6\n\xC3\xA4\n"},
-           Case{"mark", 1252, "\xEF\xBB\xBF" "a\n", "ж", "\xEF\xBB\xBF\xD0\xB6\na\n"},
+           Case{"mark", 1252,
+                "\xEF\xBB\xBF"
+                "a\n",
+                "ж", "\xEF\xBB\xBF\xD0\xB6\na\n"},
            Case{"mark and bytes that aren't UTF-8", 1252, "\xEF\xBB\xBF\xFF\n", "ж",
                 "\xEF\xBB\xBF\xD0\xB6\n\xFF\n"},
-           Case{"pairs that another pair equals", 932, "' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n", "表",
-                "\x95\x5C\n' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n"},
+           Case{"pairs that another pair equals", 932, "' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n",
+                "表", "\x95\x5C\n' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n"},
            Case{"lone CR", 1252, "a\rb", "c", "c\ra\rb"},
            Case{"no line end at all", 1252, "a", "b\nc", "b\r\nc\r\na"},
        }) {
@@ -108,9 +113,11 @@ TEST(SourceFile, EditsAroundHiddenLines) {
     const char* saved;
   };
   for (const Case& c : {
-           Case{"insert behind hidden", 2, 0, "n\r\nm", "a\nAttribute a.x = 1\nn\nm\nb\nc\nAttribute "
-                                                        "c.x = 1"},
-           Case{"insert at the end", 4, 0, "n", "a\nAttribute a.x = 1\nb\nc\nAttribute c.x = 1\nn\n"},
+           Case{"insert behind hidden", 2, 0, "n\r\nm",
+                "a\nAttribute a.x = 1\nn\nm\nb\nc\nAttribute "
+                "c.x = 1"},
+           Case{"insert at the end", 4, 0, "n",
+                "a\nAttribute a.x = 1\nb\nc\nAttribute c.x = 1\nn\n"},
            Case{"line end at the end of the text", 1, 0, "n\r",
                 "n\n\na\nAttribute a.x = 1\nb\nc\nAttribute c.x = 1"},
            Case{"insert nothing", 1, 0, "", "\na\nAttribute a.x = 1\nb\nc\nAttribute c.x = 1"},

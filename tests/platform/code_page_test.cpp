@@ -68,7 +68,8 @@ TEST(CodePage, TellsCharactersThatItLacks) {
   };
   for (const Case& c : {
            Case{1252, "a€\u03A9b", "a\x80?b", 4},
-           Case{1251, "\xC3\x80", "?", 0},  // À: its number is a byte of the page, for another letter
+           Case{1251, "\xC3\x80", "?",
+                0},  // À: its number is a byte of the page, for another letter
            Case{932, "\xC2\xA2", "?", 0},
            Case{949, "x\xF0\x9F\x98\x80", "x?", 1},
        }) {

@@ -25,8 +25,7 @@ TEST(FileSystem, ReportsTheClassicErrors) {
            Case{folder / "file/none", FileError::pathNotFound, FileError::pathNotFound},
            Case{folder / "", FileError::pathFileAccess, FileError::pathFileAccess},
            Case{folder / std::string(300, 'n'), FileError::badFileName, FileError::badFileName},
-           Case{folder / std::string("file\0x", 6), FileError::badFileName,
-                FileError::badFileName},
+           Case{folder / std::string("file\0x", 6), FileError::badFileName, FileError::badFileName},
            Case{"", FileError::badFileName, FileError::badFileName},
        }) {
     SCOPED_TRACE(c.path);

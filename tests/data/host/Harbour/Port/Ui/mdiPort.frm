@@ -1,0 +1,5 @@
+VERSION 5.00
+Begin VB.MDIForm mdiPort 
+   Caption         =   "Port"
+End
+Attribute VB_Name = "mdiPort"

@@ -1,0 +1,271 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/text.h"
+#include "host/host_ide.h"
+#include "support/temp_folder.h"
+
+namespace tamrikon {
+namespace {
+
+/// What an opening gave.
+struct Opened {
+  std::unique_ptr<HostIde> ide;
+  std::string warnings;  // the folder's path as "~", each warning ended by "|"
+  std::string why;
+
+  VBProject& project(int number = 1) const { return ide->VBProjects().Item(number); }
+
+  /// Each component of a project as "TYPE NAME", without a name if it has no code.
+  std::string components(int number = 1) const {
+    std::string result;
+    VBComponents& all = project(number).VBComponents();
+    for (int i = 1; i <= all.Count(); ++i) {
+      if (i > 1) result += ", ";
+      result += std::to_string(static_cast<int>(all.Item(i).Type()));
+      if (all.Item(i).CodeModule() != nullptr) result += ' ' + all.Item(i).CodeModule()->Name();
+    }
+    return result;
+  }
+
+  int codePage(int number = 1) const { return ide->codePageOf(project(number)).number(); }
+};
+
+Opened openIn(const test::TempFolder& folder, const std::string& name, int codePage = 0) {
+  Opened opened;
+  const auto shorten = [&](const std::string& text) {
+    return replaceAll(text, folder.path(), "~");
+  };
+  opened.ide = HostIde::open(
+      nativeFileSystem(), folder / name, CodePage::find(codePage),
+      [&](const std::string& warning) { opened.warnings += shorten(warning) + '|'; }, opened.why);
+  opened.why = shorten(opened.why);
+  return opened;
+}
+
+TEST(Opening, ReadsTheProjectFile) {
+  const test::TempFolder folder;
+  folder.put("Named.bas", "Attribute VB_Name = \"Real\"\r\n");
+  folder.put("Plain.bas", "x\r\n");
+  folder.put("My quay.frm", "VERSION 5.00\r\nBegin VB.Form q \r\nEnd\r\n");
+  folder.put("mdi.frm", "VERSION 5.00\r\nbegin vb.mdiform m \r\nEnd\r\n");
+  for (const char* name : {"c.ctl", "d.dob", "p.pag", "r.dsr", "a.cls", "b.res", "t.txt"}) {
+    folder.put(name, "");
+  }
+  folder.put(
+      "p.vbp",
+      "Type=Exe\nModule = InLine; Named.bas\nmodule=In/Line;Plain.bas\nModule=Plain.bas\n"
+      "Class=A\\B; a.cls\nForm=My quay.frm\nForm=mdi.frm\nPropertyPage=p.pag\n"
+      "UserControl=c.ctl\nUserDocument=d.dob\nDesigner=r.dsr\nResFile32=\"b.res\"\n"
+      "RelatedDoc=t.txt\nFormat=x\nReference=*\\G{1}\nname=\"a/b c\"\nHelpFile=\"h\\i.chm\"\n"
+      "[Other]\nClass=No; no.cls\nName=\"No\"\n");
+  const Opened opened = openIn(folder, "p.vbp");
+  ASSERT_TRUE(opened.ide) << opened.why;
+  EXPECT_EQ(opened.warnings, "");
+  EXPECT_EQ(opened.components(),
+            "1 Real, 1 In_Line, 1 Plain, 2 A_B, 5 My_quay, 6 mdi, 7 p, 8 c, 9 d, 11 r, 4, 10");
+  EXPECT_EQ(opened.project().Name(), "a_b_c");
+  EXPECT_EQ(opened.project().HelpFile(), "h\\i.chm");
+  EXPECT_EQ(opened.project().FileName(), folder / "p.vbp");
+  EXPECT_FALSE(opened.ide->isGroup());
+}
+
+TEST(Opening, FindsFilesAsTheyWereWrittenElsewhere) {
+  const test::TempFolder folder;
+  folder.put("Api/Codigo/X.CLS", "");
+  folder.put("Api/codigo2", "");
+  folder.put("api/other.bas", "");
+  folder.put("Proj/Both.bas", "Attribute VB_Name = \"Wrong\"\n");
+  folder.put("Proj/BOTH.bas", "Attribute VB_Name = \"Right\"\n");
+  folder.put("Proj/Moved.frm", "");
+  folder.put("Proj/sub/keep", "");
+  folder.put("Proj/P.VBP",
+             "Class=X; ..\\Api\\codigo\\x.cls\nModule=O; ..\\API\\OTHER.BAS\nModule=B; BOTH.bas\n"
+             "Form=J:\\Work\\Ui\\moved.frm\nModule=G; Gone\\..\\..\\Api\\none.bas\nModule=D; sub\n"
+             "ResFile32=\"no.res\"\nRelatedDoc=\\\\server\\d$\\no.doc\nForm=\nForm=K:\\no.frm\n"
+             "Class=Self; P.VBP\n");
+  const Opened opened = openIn(folder, "Proj/P.VBP");
+  ASSERT_TRUE(opened.ide) << opened.why;
+  EXPECT_EQ(opened.components(), "2 X, 1 O, 1 Right, 5 Moved, 1, 1, 4, 10, 5, 5, 2 Self");
+  EXPECT_EQ(opened.warnings,
+            "warning: cannot read ~/Proj/Gone/../../Api/none.bas|warning: cannot read ~/Proj/sub|"
+            "warning: cannot read ~/Proj/no.res|warning: cannot read //server/d$/no.doc|"
+            "warning: cannot read ~/Proj/|warning: cannot read K:/no.frm|");
+}
+
+TEST(Opening, GuessesTheCodePage) {
+  const auto form = [](const std::string& charsets, const std::string& code) {
+    std::string text = "Begin VB.Form f \n";
+    for (const std::string_view charset : split(charsets, ' ')) {
+      text +=
+          "BeginProperty Font\n Charset         =   " + std::string(charset) + "\nEndProperty\n";
+    }
+    return text + "End\n' " + code + "\nCharset = 128\n";
+  };
+  struct Case {
+    const char* name;
+    std::vector<std::pair<std::string, std::string>> files;  // by path on disk
+    std::string project;
+    int page;
+  };
+  const std::string few = "204" + replaceAll(std::string(19, 'x'), "x", " 0");
+  const std::vector<Case> cases = {
+      {"nothing", {{"a.frm", form("0 1 2", "\xE4")}}, "Form=a.frm", 1252},
+      {"votes", {{"a.frm", form("0 204", "\xE4\xE4")}}, "Form=a.frm", 1251},
+      {"one in twenty", {{"a.frm", form(few, "\xE4\xE4")}}, "Form=a.frm", 1251},
+      {"less than that", {{"a.frm", form(few + " 0", "\xE4\xE4")}}, "Form=a.frm", 1252},
+      {"lower of equals", {{"a.frm", form("238 204", "\xE4")}}, "Form=a.frm", 1250},
+      {"letters that stand alone",
+       {{"a.frm", form("204", "\xE4 \xE4 \xE4\xE4 \xE4")}},
+       "Form=a.frm",
+       1252},
+      {"half of them in runs", {{"a.frm", form("204", "\xE4 \xE4 \xE4\xE4")}}, "Form=a.frm", 1251},
+      {"runs in another component",
+       {{"a.frm", form("204", "\xE4")}, {"b.bas", "\xE4\xE4"}},
+       "Form=a.frm\nModule=b; b.bas",
+       1251},
+      {"double-byte needs no runs", {{"a.frm", form("128", "\x83")}}, "Form=a.frm", 932},
+      {"classes don't vote", {{"a.cls", form("204", "")}}, "Class=a; a.cls", 1252},
+      {"path",
+       {{"表.bas", ""}, {"a.frm", form("204", "")}},
+       "Form=a.frm\nModule=x; \x95\x5C.bas",
+       932},
+      {"path in a Latin page",
+       {{"ä.bas", ""}, {"a.frm", form("204", "")}},
+       "Form=a.frm\nModule=x; \xE4.bas",
+       1251},
+      {"path in UTF-8",
+       {{"表.bas", ""}, {"a.frm", form("134", "")}},
+       "Form=a.frm\nModule=x; 表.bas",
+       936},
+      {"path in another case", {{"Жук.bas", ""}}, "Module=x; \xE6\xF3\xEA.BAS", 1251},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    const test::TempFolder folder;
+    for (const auto& [name, bytes] : c.files) folder.put(name, bytes);
+    folder.put("p.vbp", c.project + "\n");
+    const Opened opened = openIn(folder, "p.vbp");
+    ASSERT_TRUE(opened.ide) << opened.why;
+    EXPECT_EQ(opened.warnings, "");
+    EXPECT_EQ(opened.codePage(), c.page);
+    EXPECT_EQ(openIn(folder, "p.vbp", 1257).codePage(), 1257);
+  }
+}
+
+TEST(Opening, ReadsGroups) {
+  const test::TempFolder folder;
+  folder.put("A/a.vbp", "Name=\"A\"\nModule=S; ..\\s.bas\n");
+  folder.put("B/b.vbp", "Name=\"B\"\nForm=f.frm\nModule=S; ..\\S.BAS\n");
+  folder.put("B/f.frm", "Begin VB.Form f\nCharset = 128\nEnd\n' \x83\x5C\n");
+  folder.put("s.bas", "x\n");
+  folder.put("g.vbg",
+             "VBGROUP 5.0\nProject=a\\A.vbp\nProject=none.vbp\nStartupProject=B\\b.vbp\n"
+             "Project=B\\b.vbp\n");
+  Opened opened = openIn(folder, "g.vbg");
+  ASSERT_TRUE(opened.ide) << opened.why;
+  EXPECT_TRUE(opened.ide->isGroup());
+  EXPECT_EQ(opened.warnings, "warning: cannot read ~/none.vbp|");
+  ASSERT_EQ(opened.ide->VBProjects().Count(), 2);
+  EXPECT_EQ(opened.project(1).Name(), "A");
+  EXPECT_EQ(&opened.ide->startupProject(), &opened.project(2));
+  EXPECT_EQ(&opened.ide->ActiveVBProject(), &opened.project(2));
+  EXPECT_EQ(opened.codePage(1), 1252);
+  EXPECT_EQ(opened.codePage(2), 932);
+
+  CodeModule* ofA = opened.project(1).VBComponents().Item(1).CodeModule();
+  CodeModule* ofB = opened.project(2).VBComponents().Item(2).CodeModule();
+  ASSERT_NE(ofA, ofB);
+  EXPECT_EQ(ofB->Members().Count(), 0);
+  ofA->InsertLines(1, "Public y");
+  EXPECT_EQ(ofB->Lines(1, 2), "Public y\r\nx");
+  EXPECT_EQ(ofB->Members().Count(), 1);
+  opened.ide->setActiveCodePane(ofA->CodePane());
+  EXPECT_EQ(&opened.ide->ActiveVBProject(), &opened.project(1));
+
+  folder.put("odd.txt", "VBGROUP 5.0\r\nProject=B\\b.vbp\r\n");
+  EXPECT_TRUE(openIn(folder, "odd.txt").ide->isGroup());
+}
+
+TEST(Opening, SaysWhyThereIsNothingToOpen) {
+  const test::TempFolder folder;
+  folder.put("empty.vbg", "VBGROUP 5.0\nProject=no.vbp\nProject=\n");
+  folder.put("dir.vbp/x", "");
+  EXPECT_EQ(openIn(folder, "no.vbp").why, "cannot read ~/no.vbp: there is no such file");
+  EXPECT_EQ(openIn(folder, "no/no.vbp").why, "cannot read ~/no/no.vbp: there is no such folder");
+  EXPECT_EQ(openIn(folder, "dir.vbp").why,
+            "cannot read ~/dir.vbp: it is not a file that can be opened");
+  const Opened group = openIn(folder, "empty.vbg");
+  EXPECT_EQ(group.why, "cannot read ~/empty.vbg: it has no project that can be read");
+  EXPECT_EQ(group.warnings, "warning: cannot read ~/no.vbp|warning: cannot read ~/|");
+}
+
+TEST(Opening, SurvivesAnyBytes) {
+  std::string junk;
+  for (unsigned i = 0; i < 200000; ++i) junk += static_cast<char>(i * i / 7 + i);
+  const std::string longLine(1000000, 'x');
+  const test::TempFolder folder;
+  const std::string nul("a\0b.bas", 7);
+  for (const std::string& text :
+       {std::string(), junk, longLine, "Public [" + longLine + "\nPublic (" + longLine,
+        replaceAll(std::string(100000, 'x'), "x", "Begin\n"),
+        replaceAll(std::string(100000, 'x'), "x", "#If 1 Then\n"),
+        replaceAll(std::string(100000, 'x'), "x", "a _\n"),
+        replaceAll(std::string(100000, 'x'), "x", "[:\""),
+        replaceAll(std::string(100000, 'x'), "x", "[:\r") + "Public a"}) {
+    SCOPED_TRACE(text.substr(0, 20));
+    folder.put("a.bas", text);
+    folder.put("p.vbp",
+               "Module=a; a.bas\nModule=n; " + nul + "\nForm=" + replaceAll(longLine, "xx", "a\\") +
+                   "\nForm=" + replaceAll(longLine, "xxxxx", "a\\..\\") + "a.bas\nName=" + junk);
+    const Opened opened = openIn(folder, "p.vbp");
+    ASSERT_TRUE(opened.ide) << opened.why;
+    CodeModule* module = opened.project().VBComponents().Item(1).CodeModule();
+    ASSERT_NE(module, nullptr);
+    for (int i = 1; i <= module->Members().Count(); ++i) {
+      module->Members().Item(i).setHelpContextID(i);
+    }
+    module->InsertLines(module->CountOfLines() + 1, "' end");
+    EXPECT_EQ(opened.ide->saveAll().size(), 0U);
+    openIn(folder, "a.bas");
+  }
+}
+
+TEST(Opening, SavesTheHelpFileAlone) {
+  struct Case {
+    const char* name;
+    const char* before;
+    const char* helpFile;
+    const char* after;
+  };
+  for (const Case& c : {
+           Case{
+               "replaced",
+               "Type=Exe\r\nhelpfile=\"\"  \r\nName=\"\xE4\x9D\"\r\n\r\n[X]\r\nHelpFile=1", "ä.chm",
+               "Type=Exe\r\nhelpfile=\"\xE4.chm\"  \r\nName=\"\xE4\x9D\"\r\n\r\n[X]\r\nHelpFile=1"},
+           Case{"added", "Type=Exe\n\n \n[X]\nA=1\n", "a.chm",
+                "Type=Exe\nHelpFile=\"a.chm\"\n\n \n[X]\nA=1\n"},
+           Case{"added behind a line without end", "Type=Exe", "a",
+                "Type=Exe\r\nHelpFile=\"a\"\r\n"},
+           Case{"added before all", "[X]\n", "a", "HelpFile=\"a\"\n[X]\n"},
+           Case{"UTF-8", "Name=ä\r\nHelpFile=a", "ж", "Name=ä\r\nHelpFile=\"ж\""},
+           Case{"unchanged", "HelpFile=a", "a", "HelpFile=a"},
+       }) {
+    SCOPED_TRACE(c.name);
+    const test::TempFolder folder;
+    folder.put("p.vbp", c.before);
+    const Opened opened = openIn(folder, "p.vbp");
+    ASSERT_TRUE(opened.ide) << opened.why;
+    opened.project().setHelpFile(c.helpFile);
+    EXPECT_EQ(opened.project().HelpFile(), c.helpFile);
+    EXPECT_EQ(opened.ide->saveAll().size(), 0U);
+    EXPECT_EQ(folder.get("p.vbp"), c.after);
+  }
+}
+
+}  // namespace
+}  // namespace tamrikon
