@@ -19,21 +19,31 @@ struct ParsedAttribute {
   std::string_view value;     // as it is written
 };
 
-/// Parts of "Attribute NAME.PROPERTY = VALUE". The text is one line.
+/// Reads "PROPERTY = VALUE" from the start of `text`: whether it is there.
+bool readProperty(std::string_view text, ParsedAttribute& result) {
+  if (!beginsWith(text, "vb_")) return false;
+  result.property = takeWord(text);
+  text = skipBlanks(text);
+  if (!text.starts_with('=')) return false;
+  result.value = trimBlanks(text.substr(1));
+  return true;
+}
+
+/// Parts of "Attribute NAME.PROPERTY = VALUE". The text is one line. A name that stood in brackets
+/// may hold dots, quotes and equals signs.
 ParsedAttribute parse(std::string_view line) {
-  line = skipBlanks(line).substr(kKeyword.size());
-  const std::size_t equals = line.substr(0, line.find('"')).rfind('=');
-  if (equals == std::string_view::npos) return {};
   ParsedAttribute result;
-  result.value = trimBlanks(line.substr(equals + 1));
-  result.property = trimBlanks(line.substr(0, equals));
-  const std::size_t dot = result.property.rfind('.');
-  if (dot == std::string_view::npos) return result;
-  result.name = result.property.substr(0, dot);
+  line = skipBlanks(skipBlanks(line).substr(kKeyword.size()));
+  if (readProperty(line, result)) return result;
+  std::size_t dot = line.find('.');
+  while (dot != std::string_view::npos && !readProperty(line.substr(dot + 1), result)) {
+    dot = line.find('.', dot + 1);
+  }
+  if (dot == std::string_view::npos) return {};
+  result.name = trimBlanks(line.substr(0, dot));
   if (result.name.starts_with('[') && result.name.ends_with(']')) {
     result.name = result.name.substr(1, result.name.size() - 2);
   }
-  result.property.remove_prefix(dot + 1);
   return result;
 }
 

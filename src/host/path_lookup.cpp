@@ -34,7 +34,7 @@ std::string PathLookup::find(std::string_view folder, std::string_view path) {
 }
 
 std::string PathLookup::findAt(const std::string& path) {
-  const std::string absolute = files_.absolute(path);
+  std::string absolute = files_.absolute(path);
   if (files_.isFile(absolute)) return absolute;
   // Where a folder on the way is a link, ".." behind it may lead elsewhere than its text says.
   if (files_.isFile(path)) return path;
@@ -51,7 +51,7 @@ std::string PathLookup::findIgnoringCase(std::string_view root, std::string_view
   const auto candidates = names.find(name);
   if (candidates == names.end()) return {};
   for (const std::string& candidate : candidates->second) {
-    const std::string path = joinPath(root, candidate);
+    std::string path = joinPath(root, candidate);
     if (!rest.empty()) {
       std::string found = findIgnoringCase(path, rest, depth + 1);
       if (!found.empty()) return found;

@@ -23,20 +23,20 @@ class SourceFile::Writer {
   /// Adds a piece of one or more physical lines. False if the page lacks a character of it.
   bool add(std::string_view text, std::uint32_t origin, LineEnd end) {
     LineReader reader(text);
-    bool first = true;
-    while (reader.next() || first) {
-      first = false;
+    for (bool more = true; more;) {
+      // Behind a line end at the end of the piece stands its last line, an empty one.
+      const bool found = reader.next();
+      more = found && reader.end() != LineEnd::none;
       startLine();
-      if (!addLine(reader.line(), origin)) return false;
+      if (!addLine(found ? reader.line() : std::string_view(), origin)) return false;
       if (origin != kNew) ++origin;
-      pendingEnd_ = reader.end();
+      pendingEnd_ = more ? reader.end() : end;
     }
-    if (end != LineEnd::none) pendingEnd_ = end;
     return true;
   }
 
   std::string finish() {
-    bytes_ += textOf(pendingEnd_);
+    endLine(pendingEnd_);
     return std::move(bytes_);
   }
 
@@ -46,9 +46,15 @@ class SourceFile::Writer {
   void startLine() {
     if (line_ > 0) {
       // The last line of the old file may have had no end, and now stands before another one.
-      bytes_ += textOf(pendingEnd_ == LineEnd::none ? file_.newLineEnd_ : pendingEnd_);
+      endLine(pendingEnd_ == LineEnd::none ? file_.newLineEnd_ : pendingEnd_);
     }
     ++line_;
+  }
+
+  void endLine(LineEnd end) {
+    // An empty line that has come behind a lone CR would melt into it.
+    const bool wouldMelt = end == LineEnd::lf && bytes_.ends_with('\r');
+    bytes_ += textOf(wouldMelt ? LineEnd::crLf : end);
   }
 
   bool addLine(std::string_view text, std::uint32_t origin) {
@@ -95,7 +101,8 @@ SourceFile::SourceFile(std::string bytes, const CodePage& page) : page_(page) {
 
 void SourceFile::readLines(std::size_t attributesStart, std::size_t codeStart) {
   std::uint32_t origin = 0;
-  for (LineReader reader(headBlock_); reader.next();) ++origin;
+  for (LineReader reader(headBlock_); reader.next(); ++origin) headBlockEnd_ = reader.end();
+  headBlock_.remove_suffix(textOf(headBlockEnd_).size());
   const std::size_t guess = (text_.size() - codeStart) / 24;
   lines_.reserve(guess);
   tails_.reserve(guess);
@@ -227,7 +234,7 @@ std::optional<std::string> SourceFile::bytes(LackingCharacter& lacking) const {
       return writer.add(attribute.text, attribute.origin, attribute.end);
     });
   };
-  bool fits = headBlock_.empty() || writer.add(headBlock_, 0, LineEnd::none);
+  bool fits = headBlock_.empty() || writer.add(headBlock_, 0, headBlockEnd_);
   fits = fits && addGroup(0);
   for (std::size_t i = 0; fits && i < lines_.size(); ++i) {
     fits = writer.add(lines_[i], tails_[i].origin, tails_[i].end);

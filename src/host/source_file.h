@@ -98,6 +98,7 @@ class SourceFile {
   std::string raw_;  // the bytes that were read, where encoding text_ again might give others
   LineEnd newLineEnd_ = LineEnd::crLf;
   std::string_view headBlock_;  // what stands before the head's attributes
+  LineEnd headBlockEnd_ = LineEnd::none;
   std::string_view blockClass_;
   std::vector<std::string_view> lines_;
   std::vector<LineTail> tails_;  // beside lines_

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::array<bool, 256> kStops = [] {
   std::array<bool, 256> stops{};
-  for (const unsigned char c : {'"', '\'', ':', '['}) stops[c] = true;
+  for (const char c : {'"', '\'', ':', '['}) stops[static_cast<unsigned char>(c)] = true;
   return stops;
 }();
 

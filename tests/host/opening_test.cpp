@@ -209,9 +209,12 @@ TEST(Opening, SurvivesAnyBytes) {
   for (unsigned i = 0; i < 200000; ++i) junk += static_cast<char>(i * i / 7 + i);
   const std::string longLine(1000000, 'x');
   const test::TempFolder folder;
-  const std::string nul("a\0b.bas", 7);
+  const std::string junkProject = "Module=a; a.bas\nModule=n; " + std::string("a\0b.bas", 7) +
+                                  "\nForm=" + replaceAll(longLine, "xx", "a\\") +
+                                  "\nForm=" + replaceAll(longLine, "xxxxx", "a\\..\\") +
+                                  "a.bas\nName=" + junk;
   for (const std::string& text :
-       {std::string(), junk, longLine, "Public [" + longLine + "\nPublic (" + longLine,
+       {std::string(), junk, longLine, replaceAll("Public [x\nPublic (x", "x", longLine),
         replaceAll(std::string(100000, 'x'), "x", "Begin\n"),
         replaceAll(std::string(100000, 'x'), "x", "#If 1 Then\n"),
         replaceAll(std::string(100000, 'x'), "x", "a _\n"),
@@ -219,9 +222,7 @@ TEST(Opening, SurvivesAnyBytes) {
         replaceAll(std::string(100000, 'x'), "x", "[:\r") + "Public a"}) {
     SCOPED_TRACE(text.substr(0, 20));
     folder.put("a.bas", text);
-    folder.put("p.vbp",
-               "Module=a; a.bas\nModule=n; " + nul + "\nForm=" + replaceAll(longLine, "xx", "a\\") +
-                   "\nForm=" + replaceAll(longLine, "xxxxx", "a\\..\\") + "a.bas\nName=" + junk);
+    folder.put("p.vbp", junkProject);
     const Opened opened = openIn(folder, "p.vbp");
     ASSERT_TRUE(opened.ide) << opened.why;
     CodeModule* module = opened.project().VBComponents().Item(1).CodeModule();

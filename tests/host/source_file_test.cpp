@@ -50,6 +50,7 @@ TEST(SourceFile, ShowsTheCodeBehindTheHead) {
                 "VERSION 5.00|Begin"},
            Case{"blank line ends the head",
                 "VERSION 5.00\r\n\r\nAttribute VB_Name = \"a\"\r\nx\r\n", "|x"},
+           Case{"attribute continued by an empty line", "a\nAttribute b.c = 1 _\n\nd\n", "a|d"},
            Case{"hidden lines",
                 "Sub A()\r\n\tattribute A.VB_HelpID = _\r\n5\r\nAttribute A.x = 1\r\nAttributed = "
                 "1\r\nAttribute\r\nEnd Sub\r\n",
@@ -135,6 +136,12 @@ TEST(SourceFile, EditsAroundHiddenLines) {
     const SourceFile again(saved(file), page());
     EXPECT_EQ(visible(file), visible(again));
   }
+}
+
+TEST(SourceFile, KeepsAnEmptyLineBehindALoneCr) {
+  SourceFile file("a\nb\rc\n\n", page());
+  file.deleteLines(3, 1);
+  EXPECT_EQ(visible(SourceFile(saved(file), page())), "a|b|");
 }
 
 TEST(MemberAttributes, ReadsTheFirstThatIsNotEmpty) {
