@@ -157,6 +157,7 @@ std::string lowered(std::string_view text) {
 }
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
+  if (a == b) return true;  // as it mostly is
   return matchEnd(a, 0, b) == a.size();
 }
 

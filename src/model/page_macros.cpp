@@ -7,6 +7,8 @@
 namespace tamrikon {
 
 LinkListRef macroList(CommentParser::Entries entries) {
+  static const LinkListRef empty = std::make_shared<const MacroList>();
+  if (entries.empty()) return empty;
   return std::make_shared<const MacroList>(std::move(entries));
 }
 

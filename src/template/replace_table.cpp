@@ -23,22 +23,22 @@ bool hasNoLetters(std::string_view text) {
 
 }  // namespace
 
-/// One text on its way through the pairs. A text without any of the bytes that a match can begin
-/// with is left at once: most pairs of a table find nothing.
+/// One text on its way through the pairs. Pairs that can't begin anywhere in it are passed over:
+/// most pairs of a table find nothing.
 class ReplaceTable::Replacement {
  public:
-  Replacement(std::string_view text, const ByteSet& bytes, std::size_t maxLength)
-      : text_(text), bytes_(bytes), maxLength_(maxLength) {}
+  Replacement(std::string_view text, PairSet possible, std::size_t maxLength)
+      : text_(text), possible_(possible), maxLength_(maxLength) {}
 
   /// Does nothing if the text would grow too long.
   void apply(const Pair& pair) {
-    if ((bytes_ & pair.begins).none()) return;
+    if ((possible_ & pair.self) == 0) return;
     if (pair.isExact) {
       replaceExact(pair);
     } else {
       replaceGeneral(pair);
     }
-    for (const char c : pair.with) bytes_.set(byteOf(c));
+    possible_ |= pair.enables;
   }
 
   const std::string& text() const { return text_; }
@@ -69,37 +69,47 @@ class ReplaceTable::Replacement {
   }
 
   std::string text_;
-  ByteSet bytes_;  // those that the text holds, and perhaps some that it held before
+  PairSet possible_;
   std::size_t maxLength_;
 };
 
 ReplaceTable::ReplaceTable(const std::vector<std::string>& words) {
+  constexpr std::size_t kLastBit = 63;
   for (std::size_t i = 0; i + 1 < words.size(); i += 2) {
     const std::string& find = words[i];
     if (find.empty()) continue;
-    Pair pair{find, words[i + 1], hasNoLetters(find), {}};
+    const PairSet self = PairSet{1} << std::min(pairs_.size(), kLastBit);
+    const bool isExact = hasNoLetters(find);
     std::size_t offset = 0;
     const char32_t first = lowerCase(readCodePoint(find, offset));
-    if (pair.isExact || first < 0x80) pair.begins.set(byteOf(find.front()));
-    if (first >= 'a' && first <= 'z') pair.begins.set(first).set(first - 'a' + 'A');
-    // A letter beyond ASCII can be written otherwise, and a few have an ASCII letter as lower case.
-    if (!pair.isExact) {
-      for (std::size_t byte = 0x80; byte < pair.begins.size(); ++byte) pair.begins.set(byte);
+    if (isExact || first < 0x80) beginWith_[byteOf(find.front())] |= self;
+    if (first >= 'a' && first <= 'z') {
+      beginWith_[first] |= self;
+      beginWith_[first - 'a' + 'A'] |= self;
     }
-    begins_ |= pair.begins;
-    pairs_.push_back(std::move(pair));
+    // A letter beyond ASCII can be written otherwise, and a few have an ASCII letter as lower case.
+    if (!isExact) {
+      for (std::size_t byte = 0x80; byte < beginWith_.size(); ++byte) beginWith_[byte] |= self;
+    }
+    pairs_.push_back({find, words[i + 1], isExact, self, 0});
   }
+  for (Pair& pair : pairs_) pair.enables = beginningIn(pair.with);
+}
+
+ReplaceTable::PairSet ReplaceTable::beginningIn(std::string_view text) const {
+  PairSet pairs = 0;
+  for (const char c : text) pairs |= beginWith_[byteOf(c)];
+  return pairs;
 }
 
 void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
                                   ExpansionBudget& budget) const {
-  ByteSet bytes;
-  for (const char c : text) bytes.set(byteOf(c));
-  if ((bytes & begins_).none()) {
+  const PairSet possible = beginningIn(text);
+  if (possible == 0) {
     result += text;
     return;
   }
-  Replacement replacement(text, bytes, text.size() + budget.textLeft());
+  Replacement replacement(text, possible, text.size() + budget.textLeft());
   for (const Pair& pair : pairs_) replacement.apply(pair);
   const std::size_t length = replacement.text().size();
   result += replacement.text();

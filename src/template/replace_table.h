@@ -1,7 +1,8 @@
 // The template's character translation: pairs of a text to find and the text to put in its place.
 #pragma once
 
-#include <bitset>
+#include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,18 +24,22 @@ class ReplaceTable {
   void appendReplaced(std::string_view text, std::string& result, ExpansionBudget& budget) const;
 
  private:
-  using ByteSet = std::bitset<256>;
+  /// A bit for each pair; those from the 64th on share the last one.
+  using PairSet = std::uint64_t;
 
   struct Pair {
     std::string find;
     std::string with;
-    bool isExact;    // `find` has no letters: it equals only itself
-    ByteSet begins;  // the bytes with which a match can begin
+    bool isExact;     // `find` has no letters: it equals only itself
+    PairSet self;     // its bit
+    PairSet enables;  // the pairs of which a match can begin in `with`
   };
   class Replacement;
 
+  PairSet beginningIn(std::string_view text) const;
+
   std::vector<Pair> pairs_;
-  ByteSet begins_;  // of all pairs
+  std::array<PairSet, 256> beginWith_{};  // by byte: the pairs of which a match can begin there
 };
 
 /// `text` translated by the words of a replace table.
