@@ -11,7 +11,7 @@ OutputPages::OutputPages(Session& session, store& store, VBE& ide)
 
 // A failure has been reported by the writer; an answer that gives up shows at the next checkpoint.
 void OutputPages::put(Write write, std::string_view name, std::string_view extension,
-                      const std::string& text) {
+                      std::string text) {
   std::string path = session_.settings.outputPath;
   path.append(name).append(extension);
   if (write == Write::append) {
@@ -19,6 +19,7 @@ void OutputPages::put(Write write, std::string_view name, std::string_view exten
   } else {
     session_.files.writeTextFile(path, text, false);
   }
+  store_.macros.reuse(std::move(text));
 }
 
 void OutputPages::putPage(std::string_view progress, std::string_view extensionMacro,

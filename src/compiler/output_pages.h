@@ -26,7 +26,7 @@ class OutputPages {
   enum class Write { replace, append };
 
   void show(std::string_view name) { session_.log.ShowProgress(name, ""); }
-  void put(Write write, std::string_view name, std::string_view extension, const std::string& text);
+  void put(Write write, std::string_view name, std::string_view extension, std::string text);
   void putPage(std::string_view progress, std::string_view extensionMacro, std::string_view section,
                const std::string& name);
   bool groupPages();

@@ -6,8 +6,9 @@ namespace tamrikon {
 
 void SameComments::resolveSameComments() {
   states_.clear();
+  for (const WrapperRef& wrapper : wrappers_.all) wrapper->topic = nullptr;
   for (const WrapperRef& wrapper : wrappers_.all) {
-    if (states_[wrapper.get()] == State::notVisited) resolveSameOf(*wrapper);
+    if (wrapper->topic == nullptr) resolveSameOf(*wrapper);
   }
 }
 
@@ -20,37 +21,31 @@ Wrapper* SameComments::targetOf(const Wrapper& wrapper, bool& points) {
   return findWrapper(wrappers_.all, links_.canonizeLink(&wrapper, same));
 }
 
-void SameComments::finish(Wrapper& wrapper, const Wrapper& target) {
-  wrapper.comment = target.comment;
-  wrapper.topic = target.topic;
-}
-
 /// Walks a chain of references to its end and back; a loop, as chains can be as long as a project.
 void SameComments::resolveSameOf(Wrapper& first) {
   std::vector<Wrapper*> chain;
   Wrapper* wrapper = &first;
-  State end = State::notVisited;
-  while (end == State::notVisited) {
-    State& state = states_[wrapper];
-    if (state != State::notVisited) {
-      end = state == State::onTheWay ? State::unresolved : state;
-      break;
-    }
+  while (wrapper->topic == nullptr) {  // not visited yet
     wrapper->topic = wrapper;
     bool points = false;
     Wrapper* target = targetOf(*wrapper, points);
     if (target == nullptr) {
-      state = end = points ? State::unresolved : State::done;
+      if (points) states_[wrapper] = State::unresolved;
       break;
     }
-    state = State::onTheWay;
+    states_[wrapper] = State::onTheWay;
     chain.push_back(wrapper);
     wrapper = target;
   }
+  const auto known = states_.find(wrapper);
+  const bool resolved = known == states_.end() || known->second == State::done;
   for (; !chain.empty(); chain.pop_back()) {
     Wrapper& pointing = *chain.back();
-    if (end == State::done) finish(pointing, *wrapper);
-    states_[&pointing] = end;
+    if (resolved) {
+      pointing.comment = wrapper->comment;
+      pointing.topic = wrapper->topic;
+    }
+    states_[&pointing] = resolved ? State::done : State::unresolved;
     wrapper = &pointing;
   }
 }

@@ -22,18 +22,17 @@ class SameComments {
   void resolveSameComments();
 
  private:
-  enum class State { notVisited, onTheWay, unresolved, done };
+  enum class State { onTheWay, unresolved, done };
 
   /// The wrapper that its comment points to; null if it doesn't point, with `points` telling
   /// whether it does.
   Wrapper* targetOf(const Wrapper& wrapper, bool& points);
   void resolveSameOf(Wrapper& wrapper);
-  static void finish(Wrapper& wrapper, const Wrapper& target);
 
   const WrapperCollections& wrappers_;
   Links& links_;
   CommentParser& parser_;
-  std::unordered_map<const Wrapper*, State> states_;
+  std::unordered_map<const Wrapper*, State> states_;  // of those that point to another
 };
 
 }  // namespace tamrikon

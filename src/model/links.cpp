@@ -15,6 +15,11 @@ void Links::warn(const Wrapper* context, const LinkFault& fault, std::string_vie
 
 Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link) {
   if (link.starts_with('"')) return nullptr;
+  // A canonical link, as the program itself makes them, needs no taking apart.
+  if (Wrapper* named = findWrapper(wrappers_.all, link);
+      named != nullptr && link.ends_with(named->traits().linkMark)) {
+    return named;
+  }
   const std::size_t dot = link.find('.');
   const std::size_t apostrophe = link.find('\'');
   if (dot == std::string_view::npos && apostrophe != std::string_view::npos) {

@@ -8,6 +8,8 @@ namespace tamrikon {
 
 std::string Expansion::evaluate(const MacroName& name) {
   MacroText* text = name.slot->text.get();
+  result_ = std::move(state_.spare);
+  result_.clear();
   if (text != nullptr) result_.reserve(text->lastResult);
   call(name);
   run();

@@ -28,6 +28,7 @@ struct ExpansionState {
   std::int64_t nextId = 1;
   std::int64_t counter = 1;
   bool replaceOn = false;
+  std::string spare;  // memory for the next result
 };
 
 /// One outermost call, with its budget. The texts in work stand on a stack of its own, so that no

@@ -105,6 +105,10 @@ std::string MacroTable::evaluateMacro(std::string_view macroName, bool isNestedE
   return result;
 }
 
+void MacroTable::reuse(std::string&& result) {
+  memory_->state.spare = std::move(result);
+}
+
 std::string MacroTable::getMacroBody(std::string_view macroName) const {
   const MacroSlot* slot = memory_->state.slots.findSlot(macroName);
   if (slot == nullptr) return asUnknown(macroName);

@@ -36,6 +36,9 @@ class MacroTable {
   /// like one of an unknown macro, so a macro that calls itself ends.
   std::string evaluateMacro(std::string_view macroName, bool isNestedEvaluation = false);
 
+  /// Takes back a result that nobody needs any more: its memory serves the next one.
+  void reuse(std::string&& result);
+
   /// The unexpanded text; a list gives its name, an unknown macro "$NAME$".
   std::string getMacroBody(std::string_view macroName) const;
 
