@@ -2,7 +2,7 @@
 
 JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
-DOCS := build/inventory
+DOCS := examples/Inventory/Documentation
 
 .PHONY: run test sanitize bench install format tidy clean
 
@@ -10,8 +10,8 @@ DOCS := build/inventory
 run: release
 	build/release/bin/tamrikon compile examples/Inventory/Inventory.vbg --template html --output $(DOCS)
 	@echo
-	@echo "The pages are in $(CURDIR)/$(DOCS). Begin with:"
-	@ls $(CURDIR)/$(DOCS)/*+title*
+	@echo "The pages are in $(CURDIR)/$(DOCS). Open first:"
+	@echo "$(CURDIR)/$(DOCS)/Group+.contents.html"
 
 test:
 	@scripts/install_packages.sh build test
@@ -28,7 +28,7 @@ sanitize:
 
 bench: release
 	@scripts/install_packages.sh bench
-	bench/compile_bench.sh build/release/bin
+	bench/compile_bench.sh build/release/bin/tamrikon
 
 install: release
 	cmake --install build/release --prefix $(PREFIX)
@@ -44,7 +44,7 @@ format:
 
 tidy:
 	cmake --preset dev
-	git ls-files 'src/*.cpp' | xargs -n 4 -P $(JOBS) clang-tidy -p build/dev --quiet
+	git ls-files 'src/*.cpp' | xargs -n 4 -P $(JOBS) clang-tidy -p build/dev --quiet --extra-arg=-Wno-unknown-warning-option
 
 clean:
 	rm -rf build
