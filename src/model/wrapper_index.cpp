@@ -1,26 +1,14 @@
 #include "model/wrapper_index.h"
 
+#include <algorithm>
 #include <functional>
+#include <map>
+#include <utility>
 
 namespace tamrikon {
-std::size_t WrapperIndex::KeyHash::operator()(const Key& key) const {
-  std::size_t hash = std::hash<std::string_view>()(key.name);
-  for (const std::size_t part :
-       {static_cast<std::size_t>(key.group), std::hash<const void*>()(key.module),
-        std::hash<const void*>()(key.comment)}) {
-    hash = (hash ^ part) * 0x9E3779B97F4A7C15U;
-    hash ^= hash >> 29;
-  }
-  return hash;
-}
 
 WrapperIndex::WrapperIndex(const WrapperCollections& wrappers) {
-  const WrapperList* const lists[] = {&wrappers.constants, &wrappers.variables, &wrappers.events,
-                                      &wrappers.methods,   &wrappers.gets,      &wrappers.sets,
-                                      &wrappers.lets};
-  counts_.reserve(wrappers.all.size());
-  for (const WrapperList* list : lists) countNames(*list);
-  for (const WrapperList* list : lists) countComments(*list);
+  findAmbiguous(wrappers);
   collectMembers(wrappers);
   collectModules(wrappers.all);
 }
@@ -40,50 +28,64 @@ WrapperIndex::Group WrapperIndex::groupOf(const Wrapper& wrapper) {
   return Group::none;
 }
 
-bool WrapperIndex::counts(const Wrapper& wrapper) {
+bool WrapperIndex::sharesName(const Named& a, const Named& b) {
+  return a.hash == b.hash && a.group == b.group && a.wrapper->name() == b.wrapper->name();
+}
+
+/// Sorting brings wrappers of one name together; most stand alone, and nobody asks about those.
+void WrapperIndex::findAmbiguous(const WrapperCollections& wrappers) {
+  std::vector<Named> named;
+  named.reserve(wrappers.all.size());
+  for (const WrapperList* list :
+       {&wrappers.constants, &wrappers.variables, &wrappers.events, &wrappers.methods,
+        &wrappers.gets, &wrappers.sets, &wrappers.lets}) {
+    for (const WrapperRef& wrapper : *list) {
+      const Group group = groupOf(*wrapper);
+      const std::size_t hash = std::hash<std::string_view>()(wrapper->name());
+      named.push_back({hash ^ static_cast<std::size_t>(group), group, wrapper.get()});
+    }
+  }
+  std::sort(named.begin(), named.end(), [](const Named& a, const Named& b) {
+    if (a.hash != b.hash) return a.hash < b.hash;
+    if (a.group != b.group) return a.group < b.group;
+    return a.wrapper->name() < b.wrapper->name();
+  });
+  for (NamedRun begin = named.begin(); begin != named.end();) {
+    const NamedRun end = std::find_if_not(
+        begin + 1, named.cend(), [&](const Named& other) { return sharesName(*begin, other); });
+    if (end - begin > 1) findAmbiguousIn(begin, end);
+    begin = end;
+  }
+}
+
+void WrapperIndex::findAmbiguousIn(NamedRun begin, NamedRun end) {
+  const bool areProperties = begin->group == Group::properties;
   // An event of a standard module never makes another one's name ambiguous.
-  return wrapper.kind() != WrapperKind::event || !isStandardModule(wrapper.source().type());
-}
-
-void WrapperIndex::countNames(const WrapperList& list) {
-  for (const WrapperRef& wrapper : list) {
-    if (counts(*wrapper)) ++counts_[{groupOf(*wrapper), wrapper->name(), nullptr, nullptr}];
+  const auto counts = [](const Wrapper& wrapper) {
+    return wrapper.kind() != WrapperKind::event || !isStandardModule(wrapper.source().type());
+  };
+  // What doesn't clash with a wrapper: itself, or as a property all of its module.
+  const auto own = [&](const Wrapper& wrapper) {
+    return areProperties ? static_cast<const void*>(&wrapper.cmo()) : &wrapper;
+  };
+  // How many wrappers there are of an owner or of all (null), with a comment or any (null).
+  std::map<std::pair<const void*, const CommentLines*>, int> count;
+  for (NamedRun named = begin; named != end; ++named) {
+    const Wrapper& wrapper = *named->wrapper;
+    if (!counts(wrapper)) continue;
+    for (const void* owner : {static_cast<const void*>(nullptr), own(wrapper)}) {
+      ++count[{owner, nullptr}];
+      ++count[{owner, wrapper.comment.get()}];
+    }
   }
-}
-
-void WrapperIndex::countComments(const WrapperList& list) {
-  for (const WrapperRef& wrapper : list) {
-    const Group group = groupOf(*wrapper);
-    const std::string_view name = wrapper->name();
-    // Most names stand alone, and then nobody asks.
-    if (!counts(*wrapper) || countOf({group, name, nullptr, nullptr}) == 1) continue;
-    const CommentLines* comment = wrapper->comment.get();
-    ++counts_[{group, name, nullptr, comment}];
-    if (group != Group::properties) continue;
-    ++counts_[{group, name, &wrapper->cmo(), nullptr}];
-    ++counts_[{group, name, &wrapper->cmo(), comment}];
+  for (NamedRun named = begin; named != end; ++named) {
+    const Wrapper& wrapper = *named->wrapper;
+    const void* owner = own(wrapper);
+    const CommentLines* comment = wrapper.comment.get();
+    const int others = count[{nullptr, nullptr}] - count[{owner, nullptr}];
+    const int sharing = count[{nullptr, comment}] - count[{owner, comment}];
+    if (others > 0 && sharing == 0) ambiguous_.insert(&wrapper);
   }
-}
-
-int WrapperIndex::countOf(const Key& key) const {
-  const auto found = counts_.find(key);
-  return found == counts_.end() ? 0 : found->second;
-}
-
-bool WrapperIndex::needsModuleName(const Wrapper& wrapper) const {
-  const Group group = groupOf(wrapper);
-  if (group == Group::none) return false;
-  const std::string_view name = wrapper.name();
-  const CommentLines* comment = wrapper.comment.get();
-  const int itself = counts(wrapper) ? 1 : 0;
-  int others = countOf({group, name, nullptr, nullptr}) - itself;
-  if (others == 0) return false;
-  int sharing = countOf({group, name, nullptr, comment}) - itself;
-  if (group == Group::properties) {  // those of its own module, itself among them, don't clash
-    others -= countOf({group, name, &wrapper.cmo(), nullptr}) - itself;
-    sharing -= countOf({group, name, &wrapper.cmo(), comment}) - itself;
-  }
-  return others > 0 && sharing == 0;
 }
 
 // Links are unique, and so are the names of a kind in a module.

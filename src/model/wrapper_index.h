@@ -4,6 +4,7 @@
 
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "model/wrapper_collections.h"
@@ -30,32 +31,27 @@ class WrapperIndex {
   /// Whether another wrapper of the same sort bears the same name and none of those shares the
   /// comment. Properties of one module don't clash, nor do methods of classes with functions of
   /// standard modules.
-  bool needsModuleName(const Wrapper& wrapper) const;
+  bool needsModuleName(const Wrapper& wrapper) const { return ambiguous_.count(&wrapper) != 0; }
 
  private:
   enum class Group { none, constants, variables, events, methods, functions, properties };
 
-  /// What is counted: wrappers of a group with a name; narrowed by module and comment if not null.
-  struct Key {
+  /// A wrapper among those of its name and group.
+  struct Named {
+    std::size_t hash;  // of name and group
     Group group;
-    std::string_view name;
-    const CodeModule* module;
-    const CommentLines* comment;
-    bool operator==(const Key&) const = default;
+    const Wrapper* wrapper;
   };
-  struct KeyHash {
-    std::size_t operator()(const Key& key) const;
-  };
+  using NamedRun = std::vector<Named>::const_iterator;
 
   static Group groupOf(const Wrapper& wrapper);
-  static bool counts(const Wrapper& wrapper);
-  void countNames(const WrapperList& list);
-  void countComments(const WrapperList& list);
-  int countOf(const Key& key) const;
+  static bool sharesName(const Named& a, const Named& b);
+  void findAmbiguous(const WrapperCollections& wrappers);
+  void findAmbiguousIn(NamedRun begin, NamedRun end);
   void collectMembers(const WrapperCollections& wrappers);
   void collectModules(const WrapperList& all);
 
-  std::unordered_map<Key, int, KeyHash> counts_;
+  std::unordered_set<const Wrapper*> ambiguous_;
   std::unordered_map<const CodeModule*, ModuleMembers> members_;
   // Of the comments that several wrappers hold, the modules of these.
   std::unordered_map<const CommentLines*, KeyedList<std::string_view>> modules_;
