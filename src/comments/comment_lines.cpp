@@ -1,20 +1,17 @@
 #include "comments/comment_lines.h"
 
-#include <string_view>
-
-#include "base/text.h"
+#include <algorithm>
+#include <utility>
 
 namespace tamrikon {
 
-CommentList stripCommentQuotes(const CommentLines& rawLines) {
-  auto body = std::make_shared<CommentLines>();
-  body->reserve(rawLines.size());
-  for (const std::string& rawLine : rawLines) {
-    std::string_view line = trim(rawLine);
-    if (line.starts_with('\'')) line.remove_prefix(1);
-    body->emplace_back(line);
+CommentList stripCommentQuotes(CommentLines rawLines) {
+  for (std::string& line : rawLines) {  // in place, as whole projects pass through here
+    line.erase(line.find_last_not_of(' ') + 1);
+    const std::size_t first = std::min(line.find_first_not_of(' '), line.size());
+    line.erase(0, first + (line.compare(first, 1, "'") == 0 ? 1 : 0));
   }
-  return body;
+  return std::make_shared<CommentLines>(std::move(rawLines));
 }
 
 }  // namespace tamrikon

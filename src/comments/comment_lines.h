@@ -15,6 +15,6 @@ using CommentList = std::shared_ptr<CommentLines>;
 
 /// The body lines of raw lines, as a new comment: each line trimmed, then one leading quote
 /// removed. Blanks behind the quote stay.
-CommentList stripCommentQuotes(const CommentLines& rawLines);
+CommentList stripCommentQuotes(CommentLines rawLines);
 
 }  // namespace tamrikon

@@ -38,7 +38,10 @@ LinkListRef LinkLists::getEventsList(const Wrapper& wrapper) {
 }
 
 std::string LinkLists::linkListItem(const Wrapper& wrapper) {
-  std::string item = wrapper.link() + '\r' + wrapper.name();
+  constexpr std::size_t kExtras = 32;  // for the module and the word for the kind
+  std::string item;
+  item.reserve(wrapper.link().size() + wrapper.name().size() + kExtras);
+  item.append(wrapper.link()).append("\r").append(wrapper.name());
   if (wrapper.needsModule) item.append(" (").append(wrapper.source().name()).append(")");
   return item;
 }

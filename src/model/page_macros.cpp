@@ -24,11 +24,13 @@ void setTagMacros(PageContext& context) {
   macros.setMacroValue("MEMBER-AUTHOR", context.parser.getAuthor());
   macros.setMacroValue("MEMBER-REVISION", context.parser.getRevision());
   macros.setMacroValue("MEMBER-VERSION", context.parser.getVersion());
-  for (std::size_t tag = 1; tag <= ProjectSettings::kUserTags; ++tag) {
-    const std::string text = context.parser.getUser(tag);
+  constexpr std::string_view kNumbered[] = {"MEMBER-USER1", "MEMBER-USER2", "MEMBER-USER3",
+                                            "MEMBER-USER4", "MEMBER-USER5"};
+  for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {
+    const std::string text = context.parser.getUser(tag + 1);
     // The table ignores case, so that the name needs no capitals.
-    macros.setMacroValue("MEMBER-" + context.settings.userName[tag - 1], text);
-    macros.setMacroValue("MEMBER-USER" + std::to_string(tag), text);
+    macros.setMacroValue("MEMBER-" + context.settings.userName[tag], text);
+    macros.setMacroValue(kNumbered[tag], text);
   }
 }
 

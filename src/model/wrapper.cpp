@@ -15,11 +15,7 @@ std::string linkOf(WrapperKind kind, const ModuleSource& source, const std::stri
 }  // namespace
 
 Wrapper::Wrapper(WrapperKind kind, ModuleSource& source, std::string name)
-    : comment(std::make_shared<CommentLines>()),
-      kind_(kind),
-      source_(source),
-      name_(std::move(name)),
-      link_(linkOf(kind_, source_, name_)) {}
+    : kind_(kind), source_(source), name_(std::move(name)), link_(linkOf(kind_, source_, name_)) {}
 
 void Wrapper::addComment(const ProjectSettings& settings) const {
   insertCommentLines(cmo(), CodeLocation(), generateComment(settings));

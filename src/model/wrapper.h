@@ -28,7 +28,7 @@ class Wrapper {
   int helpID = 0;            // number of the topic; 0 until set
   bool hadComment = false;   // the source has a structured comment for it
   bool needsModule = false;  // the name isn't unique: labels must add the module's name
-  CommentList comment;       // never null; wrappers with one comment share the list
+  CommentList comment;       // null until it is fetched; wrappers with one comment share the list
 
   /// The wrapper whose topic serves this one: itself, unless comments were joined. Null until the
   /// comments are resolved.

@@ -1,5 +1,7 @@
 #include "model/wrapper_comments.h"
 
+#include <utility>
+
 #include "comments/comment_finder.h"
 
 namespace tamrikon {
@@ -31,7 +33,7 @@ void WrapperComments::takeHelpId(Wrapper& wrapper) {
 
 bool WrapperComments::prepareComment(Wrapper& wrapper) const {
   if (wrapper.hadComment) {
-    wrapper.comment = stripCommentQuotes(*wrapper.comment);
+    wrapper.comment = stripCommentQuotes(std::move(*wrapper.comment));
     return true;
   }
   if (!settings_.comNonCommented) return false;
