@@ -150,7 +150,7 @@ std::string SpropSet::getExistingCommentForLastArgument(const ProjectSettings& s
   return entries.empty() ? std::string() : tagLine("@param", entries.back());
 }
 
-CommentLines Svariable::generateComment(const ProjectSettings&) const {
+CommentLines DataWrapper::generateComment(const ProjectSettings&) const {
   return variableSkeleton();
 }
 
@@ -160,30 +160,10 @@ std::string Svariable::getReturns() const {
   return definition.returns;
 }
 
-std::string Svariable::pageReturn(PageContext&) const {
-  return getReturns();
-}
-
-std::string Svariable::pageSource(PageContext&) const {
-  return declaration();
-}
-
-CommentLines Sconstant::generateComment(const ProjectSettings&) const {
-  return variableSkeleton();
-}
-
 std::string Sconstant::getReturns() const {
   ProcDefinition definition = definitionOf(*this);
   definition.parseConstantReturn();
   return definition.returns;
-}
-
-std::string Sconstant::pageReturn(PageContext&) const {
-  return getReturns();
-}
-
-std::string Sconstant::pageSource(PageContext&) const {
-  return declaration();
 }
 
 CommentLines Smodule::generateComment(const ProjectSettings& settings) const {

@@ -92,34 +92,39 @@ class SpropSet final : public PropertyWrapper {
   std::string getExistingCommentForLastArgument(const ProjectSettings& settings) const;
 };
 
-class Svariable final : public MemberWrapper {
+/// What variables and constants have in common.
+class DataWrapper : public MemberWrapper {
  public:
-  Svariable(ModuleSource& source, Member& member)
-      : MemberWrapper(WrapperKind::variable, source, member) {}
-  CommentLines generateComment(const ProjectSettings& settings) const override;
+  CommentLines generateComment(const ProjectSettings& settings) const final;
 
-  /// The declared type.
-  std::string getReturns() const;
+  /// What the page shows as the return value.
+  virtual std::string getReturns() const = 0;
+
+ protected:
+  using MemberWrapper::MemberWrapper;
 
  private:
-  std::string pageReturn(PageContext& context) const override;
-  std::string pageSource(PageContext& context) const override;
-  bool hasParameters() const override { return false; }
+  std::string pageReturn(PageContext&) const final { return getReturns(); }
+  std::string pageSource(PageContext&) const final { return declaration(); }
+  bool hasParameters() const final { return false; }
 };
 
-class Sconstant final : public MemberWrapper {
+class Svariable final : public DataWrapper {
+ public:
+  Svariable(ModuleSource& source, Member& member)
+      : DataWrapper(WrapperKind::variable, source, member) {}
+
+  /// The declared type.
+  std::string getReturns() const override;
+};
+
+class Sconstant final : public DataWrapper {
  public:
   Sconstant(ModuleSource& source, Member& member)
-      : MemberWrapper(WrapperKind::constant, source, member) {}
-  CommentLines generateComment(const ProjectSettings& settings) const override;
+      : DataWrapper(WrapperKind::constant, source, member) {}
 
   /// The mark of the constant's type and its value.
-  std::string getReturns() const;
-
- private:
-  std::string pageReturn(PageContext& context) const override;
-  std::string pageSource(PageContext& context) const override;
-  bool hasParameters() const override { return false; }
+  std::string getReturns() const override;
 };
 
 /// A standard module, form or class.
