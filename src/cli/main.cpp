@@ -1,13 +1,12 @@
-#include <unistd.h>
-
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "cli/command_line.h"
+#include "platform/standard_streams.h"
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
-  tamrikon::Streams streams{std::cout, std::cerr, ::isatty(STDERR_FILENO) != 0};
+  tamrikon::Streams streams{std::cout, std::cerr, tamrikon::errorStreamIsTerminal()};
   return tamrikon::runTamrikon(std::vector<std::string>(argv + 1, argv + argc), streams);
 }

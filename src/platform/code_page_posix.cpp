@@ -20,6 +20,7 @@ class IconvTables final : public CodePageTables {
     if (isOpen()) ::iconv_close(converter_);
   }
 
+  // POSIX says that a converter of -1 is none. NOLINTNEXTLINE(performance-no-int-to-ptr)
   bool isOpen() const { return converter_ != reinterpret_cast<iconv_t>(-1); }
 
   std::optional<char32_t> decode(std::string_view bytes) override {

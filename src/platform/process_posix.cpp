@@ -24,6 +24,7 @@ class PosixProcessServices final : public ProcessServices {
                      ProcessHandle& handle, int& error) override {
     std::vector<std::string> words = commandLine;
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
     pid_t process = 0;
