@@ -138,16 +138,17 @@ bool isCaseless(char32_t codePoint) {
 }
 
 std::string lowered(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (std::size_t offset = 0; offset < text.size();) {
-    if (isAsciiByte(text[offset])) {
-      result += asciiLower(text[offset++]);
-      continue;
-    }
+  std::string result(text);
+  std::size_t offset = 0;
+  for (; offset < text.size() && isAsciiByte(text[offset]); ++offset) {
+    result[offset] = asciiLower(text[offset]);
+  }
+  if (offset == text.size()) return result;  // as it mostly is
+  result.resize(offset);
+  while (offset < text.size()) {
     const std::size_t start = offset;
     const char32_t codePoint = readCodePoint(text, offset);
-    if (offset - start == 1) {
+    if (offset - start == 1 && codePoint >= 0x80) {
       result += text[start];  // a stray byte stays what it is
     } else {
       appendCodePoint(result, lowerCase(codePoint));

@@ -34,10 +34,10 @@ std::size_t sequenceLength(std::string_view text, std::size_t offset) {
 
 bool isAscii(std::string_view text) {
   std::size_t offset = 0;
-  for (; offset + 8 <= text.size(); offset += 8) {
-    std::uint64_t eight;
-    std::memcpy(&eight, text.data() + offset, 8);
-    if ((eight & 0x8080808080808080U) != 0) return false;
+  for (; offset + 32 <= text.size(); offset += 32) {
+    std::uint64_t words[4];
+    std::memcpy(words, text.data() + offset, sizeof words);
+    if (((words[0] | words[1] | words[2] | words[3]) & 0x8080808080808080U) != 0) return false;
   }
   return std::all_of(text.begin() + static_cast<std::ptrdiff_t>(offset), text.end(),
                      [](char c) { return static_cast<unsigned char>(c) < 0x80; });

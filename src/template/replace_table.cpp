@@ -1,6 +1,7 @@
 #include "template/replace_table.h"
 
 #include <algorithm>
+#include <bit>
 #include <utility>
 
 #include "base/case_folding.h"
@@ -9,7 +10,11 @@
 namespace tamrikon {
 namespace {
 
-std::size_t byteOf(char c) { return static_cast<unsigned char>(c); }
+constexpr std::size_t kLastBit = 63;  // that the pairs from there on share
+
+std::size_t byteOf(char c) {
+  return static_cast<unsigned char>(c);
+}
 
 bool hasNoLetters(std::string_view text) {
   for (std::size_t offset = 0; offset < text.size();) {
@@ -23,58 +28,7 @@ bool hasNoLetters(std::string_view text) {
 
 }  // namespace
 
-/// One text on its way through the pairs. Pairs that can't begin anywhere in it are passed over:
-/// most pairs of a table find nothing.
-class ReplaceTable::Replacement {
- public:
-  Replacement(std::string_view text, PairSet possible, std::size_t maxLength)
-      : text_(text), possible_(possible), maxLength_(maxLength) {}
-
-  /// Does nothing if the text would grow too long.
-  void apply(const Pair& pair) {
-    if ((possible_ & pair.self) == 0) return;
-    if (pair.isExact) {
-      replaceExact(pair);
-    } else {
-      replaceGeneral(pair);
-    }
-    possible_ |= pair.enables;
-  }
-
-  const std::string& text() const { return text_; }
-
- private:
-  void replaceExact(const Pair& pair) {
-    std::string result;
-    std::size_t copied = 0;
-    for (;;) {
-      const std::size_t at = text_.find(pair.find, copied);
-      if (at == std::string::npos) break;
-      result.append(text_, copied, at - copied).append(pair.with);
-      if (result.size() > maxLength_) return;
-      copied = at + pair.find.size();
-    }
-    if (copied == 0 || result.size() + text_.size() - copied > maxLength_) return;
-    text_ = std::move(result.append(text_, copied));
-  }
-
-  void replaceGeneral(const Pair& pair) {
-    // Only where each character being a match would be too much does it pay to count them.
-    if (!pair.with.empty() && text_.size() > maxLength_ / pair.with.size()) {
-      const std::size_t without = replaceIgnoringCase(text_, pair.find, "").size();
-      const std::size_t matches = replaceIgnoringCase(text_, pair.find, ".").size() - without;
-      if (matches > (maxLength_ - without) / pair.with.size()) return;
-    }
-    text_ = replaceIgnoringCase(text_, pair.find, pair.with);
-  }
-
-  std::string text_;
-  PairSet possible_;
-  std::size_t maxLength_;
-};
-
 ReplaceTable::ReplaceTable(const std::vector<std::string>& words) {
-  constexpr std::size_t kLastBit = 63;
   for (std::size_t i = 0; i + 1 < words.size(); i += 2) {
     const std::string& find = words[i];
     if (find.empty()) continue;
@@ -103,17 +57,57 @@ ReplaceTable::PairSet ReplaceTable::beginningIn(std::string_view text) const {
 }
 
 void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
-                                  ExpansionBudget& budget) const {
-  const PairSet possible = beginningIn(text);
+                                  ExpansionBudget& budget) {
+  PairSet possible = beginningIn(text);
   if (possible == 0) {
     result += text;
     return;
   }
-  Replacement replacement(text, possible, text.size() + budget.textLeft());
-  for (const Pair& pair : pairs_) replacement.apply(pair);
-  const std::size_t length = replacement.text().size();
-  result += replacement.text();
-  if (length > text.size()) budget.takeText(length - text.size());
+  const std::size_t maxLength = text.size() + budget.textLeft();
+  work_ = text;
+  for (std::size_t i = 0; i < pairs_.size(); ++i) {
+    // On to the next pair that can begin anywhere: most of a table find nothing.
+    if (i < kLastBit) {
+      const PairSet later = possible >> i;
+      if (later == 0) break;
+      i += static_cast<std::size_t>(std::countr_zero(later));
+    }
+    const Pair& pair = pairs_[i];
+    if ((possible & pair.self) == 0) continue;
+    if (pair.isExact) {
+      replaceExact(pair, maxLength);
+    } else {
+      replaceGeneral(pair, maxLength);
+    }
+    possible |= pair.enables;
+  }
+  result += work_;
+  if (work_.size() > text.size()) budget.takeText(work_.size() - text.size());
+}
+
+void ReplaceTable::replaceExact(const Pair& pair, std::size_t maxLength) {
+  std::size_t at = work_.find(pair.find);
+  if (at == std::string::npos) return;
+  std::size_t copied = 0;
+  next_.clear();
+  for (; at != std::string::npos; at = work_.find(pair.find, copied)) {
+    next_.append(work_, copied, at - copied).append(pair.with);
+    if (next_.size() > maxLength) return;
+    copied = at + pair.find.size();
+  }
+  if (next_.size() + work_.size() - copied > maxLength) return;
+  next_.append(work_, copied);
+  work_.swap(next_);
+}
+
+void ReplaceTable::replaceGeneral(const Pair& pair, std::size_t maxLength) {
+  // Only where each character being a match would be too much does it pay to count them.
+  if (!pair.with.empty() && work_.size() > maxLength / pair.with.size()) {
+    const std::size_t without = replaceIgnoringCase(work_, pair.find, "").size();
+    const std::size_t matches = replaceIgnoringCase(work_, pair.find, ".").size() - without;
+    if (matches > (maxLength - without) / pair.with.size()) return;
+  }
+  work_ = replaceIgnoringCase(work_, pair.find, pair.with);
 }
 
 std::string replaceStrings(std::string_view text, const std::vector<std::string>& table) {

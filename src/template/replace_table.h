@@ -21,7 +21,7 @@ class ReplaceTable {
   /// Appends `text`, translated, to `result`. The pairs work one after the other, each on what
   /// the one before it left, without regard to case. The first pair that would let the text grow
   /// beyond the budget ends the translation.
-  void appendReplaced(std::string_view text, std::string& result, ExpansionBudget& budget) const;
+  void appendReplaced(std::string_view text, std::string& result, ExpansionBudget& budget);
 
  private:
   /// A bit for each pair; those from the 64th on share the last one.
@@ -34,12 +34,18 @@ class ReplaceTable {
     PairSet self;     // its bit
     PairSet enables;  // the pairs of which a match can begin in `with`
   };
-  class Replacement;
 
   PairSet beginningIn(std::string_view text) const;
+  void replaceExact(const Pair& pair, std::size_t maxLength);
+  void replaceGeneral(const Pair& pair, std::size_t maxLength);
 
   std::vector<Pair> pairs_;
   std::array<PairSet, 256> beginWith_{};  // by byte: the pairs of which a match can begin there
+
+  // The text on its way through the pairs, and the one that a pair makes of it. They are kept, as
+  // pages bring thousands of short texts.
+  std::string work_;
+  std::string next_;
 };
 
 /// `text` translated by the words of a replace table.
