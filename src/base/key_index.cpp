@@ -19,7 +19,9 @@ std::size_t KeyIndex::slotOf(std::string_view key, std::uint32_t hash) const {
   for (std::size_t at = hash & mask;; at = (at + 1) & mask) {
     const Slot& slot = slots_[at];
     if (slot.number == 0) return at;
-    if (slot.hash == hash && equalIgnoringCase(keys_[slot.number - 1], key)) return at;
+    if (slot.hash != hash) continue;
+    const std::string_view known(texts_.data() + slot.offset, slot.length);
+    if (equalIgnoringCase(known, key)) return at;
   }
 }
 
@@ -30,12 +32,13 @@ std::size_t KeyIndex::find(std::string_view key) const {
 }
 
 bool KeyIndex::insert(std::string_view key) {
-  if (keys_.size() * 2 >= slots_.size()) grow();
+  if (size_ * 2 >= slots_.size()) grow();
   const std::uint32_t hash = hashOf(key);
   Slot& slot = slots_[slotOf(key, hash)];
   if (slot.number != 0) return false;
-  keys_.emplace_back(key);
-  slot = {hash, static_cast<std::uint32_t>(keys_.size())};
+  slot = {hash, static_cast<std::uint32_t>(++size_), static_cast<std::uint32_t>(texts_.size()),
+          static_cast<std::uint32_t>(key.size())};
+  texts_ += key;
   return true;
 }
 

@@ -21,18 +21,21 @@ class KeyIndex {
   /// Gives `key` the next number. False, and no change, if it has one already.
   bool insert(std::string_view key);
 
-  std::size_t size() const { return keys_.size(); }
+  std::size_t size() const { return size_; }
 
  private:
   struct Slot {
     std::uint32_t hash;
     std::uint32_t number;  // of the key, from 1; 0 in a free slot
+    std::uint32_t offset;  // of the key in texts_
+    std::uint32_t length;
   };
 
   std::size_t slotOf(std::string_view key, std::uint32_t hash) const;
   void grow();
 
-  std::vector<std::string> keys_;
+  std::size_t size_ = 0;
+  std::string texts_;        // all keys, one behind the other
   std::vector<Slot> slots_;  // a power of two, never more than half full
 };
 

@@ -1,4 +1,4 @@
-// An ordered list of values, numbered from 1, with optional text keys that ignore case.
+// An ordered list of values, numbered from 1, each under a text key that ignores case.
 #pragma once
 
 #include <cstddef>
@@ -13,12 +13,9 @@ namespace tamrikon {
 template <typename T>
 class KeyedList {
  public:
-  void add(T value) { values_.push_back(std::move(value)); }
-
   /// Adds `value` under `key`. False, and no change, if the key is there already.
   bool add(T value, std::string_view key) {
     if (!keys_.insert(key)) return false;
-    positions_.push_back(values_.size());
     values_.push_back(std::move(value));
     return true;
   }
@@ -28,7 +25,7 @@ class KeyedList {
   /// The value under `key`, or null.
   const T* find(std::string_view key) const {
     const std::size_t number = keys_.find(key);
-    return number == KeyIndex::kNone ? nullptr : &values_[positions_[number]];
+    return number == KeyIndex::kNone ? nullptr : &values_[number];
   }
   T* find(std::string_view key) {
     return const_cast<T*>(static_cast<const KeyedList*>(this)->find(key));
@@ -44,8 +41,7 @@ class KeyedList {
 
  private:
   std::vector<T> values_;
-  KeyIndex keys_;
-  std::vector<std::size_t> positions_;  // of the values, by the numbers of their keys
+  KeyIndex keys_;  // numbers the keys as their values stand here
 };
 
 }  // namespace tamrikon

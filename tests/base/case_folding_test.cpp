@@ -98,7 +98,7 @@ TEST(KeyedList, RefusesAKeyInAnotherCase) {
   KeyedList<int> list;
   EXPECT_TRUE(list.add(1, "\xC3\x84rger"));
   EXPECT_FALSE(list.add(2, "\xC3\xA4RGER"));
-  list.add(3);
+  EXPECT_TRUE(list.add(3, "\xC3\x84rge"));
   EXPECT_TRUE(list.add(4, ""));
   EXPECT_EQ(std::vector<int>(list.begin(), list.end()), (std::vector{1, 3, 4}));
   EXPECT_EQ(list.item(3), 4);
@@ -106,6 +106,8 @@ TEST(KeyedList, RefusesAKeyInAnotherCase) {
   *list.find("\xC3\xA4rger") = 5;
   EXPECT_EQ(list.item(1), 5);
   EXPECT_EQ(list.find("3"), nullptr);
+  for (int n = 10; n < 2000; ++n) list.add(n, "Key" + std::to_string(n));
+  for (int n = 10; n < 2000; ++n) EXPECT_EQ(*list.find("kEY" + std::to_string(n)), n);
 }
 
 }  // namespace
