@@ -14,7 +14,8 @@ constexpr std::array<std::string_view, 9> kContentsLists = {
     "CONT-EVENTS-LINK-LIST",  "CONT-VARS-LINK-LIST",      "CONT-CONSTANTS-LINK-LIST",
 };
 
-/// Whether a topic of its own serves the wrapper; if not, it takes the help id of the one that does.
+/// Whether a topic of its own serves the wrapper; if not, it takes the help id of the one that
+/// does.
 bool keepsTopic(Wrapper& wrapper) {
   if (wrapper.topic == nullptr || wrapper.topic == &wrapper) return true;
   wrapper.helpID = wrapper.topic->helpID;

@@ -95,10 +95,6 @@ LastArgument PropertyWrapper::generateCommentForLastArgument(
   return lastArgument(definition, settings);
 }
 
-std::string PropertyWrapper::procedureText() const {
-  return procedureLines(*this);
-}
-
 std::string PropertyWrapper::getSourceCode(const WrapperCollections& wrappers) const {
   const auto procedure = [&](WrapperKind wanted, const WrapperList& list) {
     if (wanted == kind()) return static_cast<const Wrapper*>(this);

@@ -43,9 +43,6 @@ class PropertyWrapper : public MemberWrapper {
   int CodeLocation() const final;
   CommentLines generateComment(const ProjectSettings& settings) const final;
 
-  /// The source of this one procedure. Fails for a public variable, which has none.
-  std::string procedureText() const;
-
   /// The source of all procedures of the property, Get before Set before Let; the declaration of a
   /// public variable.
   std::string getSourceCode(const WrapperCollections& wrappers) const;

@@ -17,8 +17,8 @@ struct DecodedText {
 };
 
 /// Bytes that begin with the UTF-8 mark, and bytes above 0x7F that are valid UTF-8 as a whole, are
-/// read as UTF-8; all else in `page`. Behind a mark, a byte that isn't UTF-8 is read as an undefined
-/// one.
+/// read as UTF-8; all else in `page`. Behind a mark, a byte that isn't UTF-8 is read as an
+/// undefined one.
 DecodedText decodeText(std::string_view bytes, const CodePage& page);
 
 /// The lines of `text`, any of CR LF, LF and CR being a line end. A text that ends in a line end

@@ -26,8 +26,8 @@ inline bool isFileReference(std::string_view reference) {
 inline constexpr std::string_view kExternalFile = "External file";
 
 /// The items of `list` with links resolved and empty labels made, by label and then help id as
-/// texts without regard to case; equal ones keep their order. Without a resolver links lead nowhere.
-/// Empty if an item lacks its CR. The items hold views of `list`.
+/// texts without regard to case; equal ones keep their order. Without a resolver links lead
+/// nowhere. Empty if an item lacks its CR. The items hold views of `list`.
 std::optional<std::vector<LinkItem>> sortLinkItems(const MacroList& list, LinkResolver* resolver);
 
 }  // namespace tamrikon

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/fake_ide.h"
+#include "support/fake_module.h"
 
 namespace tamrikon {
 namespace {

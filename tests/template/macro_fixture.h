@@ -35,9 +35,9 @@ struct FakeLinks : LinkResolver {
     return target == nullptr ? LinkTarget() : *target;
   }
   void setModuleLists(const LinkTarget& target, MacroTable& macros) override {
-    macros.setMacroValue("METHODS-LINK-LIST",
-                         std::make_shared<MacroList>(
-                             MacroList{std::string(target.module) + ".Run\rRun"}));
+    macros.setMacroValue(
+        "METHODS-LINK-LIST",
+        std::make_shared<MacroList>(MacroList{std::string(target.module) + ".Run\rRun"}));
   }
 
   void add(const std::string& link, int helpId, bool needsModule = false) {
