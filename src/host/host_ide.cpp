@@ -92,7 +92,7 @@ std::unique_ptr<HostIde> HostIde::open(FileSystem& files, const std::string& pat
 
 HostProject* HostIde::addProject(std::string fileName, std::string bytes, PathLookup& lookup,
                                  const CodePage* codePage, const WarningSink& warn) {
-  const ProjectContext context{lookup, sources_, codePage, warn};
+  const ProjectContext context{lookup, sources_, codePage, warn, screen_};
   projects_.projects_.push_back(
       std::make_unique<HostProject>(std::move(fileName), std::move(bytes), context));
   return projects_.projects_.back().get();
@@ -120,11 +120,19 @@ void HostIde::openGroup(const std::string& path, std::string_view bytes, const C
   }
 }
 
+void HostIde::setScreen(HostScreen* screen) {
+  screen_ = screen == nullptr ? &unseen_ : screen;
+}
+
 void HostIde::setActiveCodePane(CodePane& pane) {
-  const auto* own = dynamic_cast<const HostCodePane*>(&pane);
-  if (own == nullptr) throw IdeError("the window is not one of this IDE's");
-  pane_ = &pane;
-  active_ = &own->module().component().project();
+  screen_->setActiveCodePane(pane);
+  activate(static_cast<const HostModule&>(pane.CodeModule()).component().project());
+}
+
+void HostIde::activate(VBProject& project) {
+  if (active_ == &project) return;
+  active_ = &project;
+  screen_->projectActivated(project);
 }
 
 const CodePage& HostIde::codePageOf(const VBProject& project) const {

@@ -8,6 +8,7 @@
 
 #include "host/host_project.h"
 #include "host/source_store.h"
+#include "host/unseen_screen.h"
 #include "ide/ide.h"
 #include "platform/code_page.h"
 #include "platform/file_system.h"
@@ -39,8 +40,17 @@ class HostIde final : public VBE {
 
   VBProject& ActiveVBProject() const override { return *active_; }
   tamrikon::VBProjects& VBProjects() const override { return projects_; }
-  CodePane* ActiveCodePane() const override { return pane_; }
+  CodePane* ActiveCodePane() const override { return screen_->activeCodePane(); }
   void setActiveCodePane(CodePane& pane) override;
+  tamrikon::Windows& Windows() const override { return screen_->windows(); }
+  Window* ActiveWindow() const override { return screen_->activeWindow(); }
+  Window& MainWindow() const override { return screen_->mainWindow(); }
+  tamrikon::CommandBars& CommandBars() const override { return screen_->commandBars(); }
+  tamrikon::Events& Events() const override { return screen_->events(); }
+
+  /// Shows everything on `screen` from now on; null: nobody sees it, as at first. The screen must
+  /// outlive its use, and shows modules of this IDE alone.
+  void setScreen(HostScreen* screen);
 
   bool isGroup() const { return isGroup_; }
 
@@ -49,7 +59,7 @@ class HostIde final : public VBE {
   VBProject& startupProject() const { return *startup_; }
 
   /// The project must be one of this IDE's.
-  void activate(VBProject& project) { active_ = &project; }
+  void activate(VBProject& project);
   const CodePage& codePageOf(const VBProject& project) const;
 
   /// Saves each source and project file that has changed. The result is a line for each one that
@@ -65,11 +75,12 @@ class HostIde final : public VBE {
                  const WarningSink& warn);
 
   FileSystem& files_;
+  UnseenScreen unseen_;
+  HostScreen* screen_ = &unseen_;
   SourceStore sources_;
   mutable HostProjects projects_;
   VBProject* active_ = nullptr;
   VBProject* startup_ = nullptr;
-  CodePane* pane_ = nullptr;
   bool isGroup_ = false;
 };
 

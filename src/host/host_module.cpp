@@ -4,12 +4,9 @@
 #include <utility>
 
 #include "host/host_component.h"
+#include "host/host_project.h"
 
 namespace tamrikon {
-
-tamrikon::CodeModule& HostCodePane::CodeModule() const {
-  return module_;
-}
 
 HostModule::HostModule(HostComponent& component, Source& source, std::string name,
                        const ConditionalConstants& constants)
@@ -17,13 +14,16 @@ HostModule::HostModule(HostComponent& component, Source& source, std::string nam
       source_(source),
       name_(std::move(name)),
       constants_(constants),
-      members_(*this),
-      pane_(*this) {}
+      members_(*this) {}
 
 HostModule::~HostModule() = default;
 
 VBComponent& HostModule::Parent() const {
   return component_;
+}
+
+tamrikon::CodePane& HostModule::CodePane() const {
+  return component_.project().screen().codePane(const_cast<HostModule&>(*this));
 }
 
 const ModuleAnalysis& HostModule::analysis() const {

@@ -13,25 +13,6 @@
 namespace tamrikon {
 
 class HostComponent;
-class HostModule;
-
-/// A window that nobody sees: it keeps what it is told.
-class HostCodePane final : public CodePane {
- public:
-  explicit HostCodePane(HostModule& module) : module_(module) {}
-
-  Selection GetSelection() const override { return selection_; }
-  void SetSelection(const Selection& selection) override { selection_ = selection; }
-  void setTopLine(int line) override { topLine_ = line; }
-  int topLine() const { return topLine_; }
-  tamrikon::CodeModule& CodeModule() const override;
-  HostModule& module() const { return module_; }
-
- private:
-  HostModule& module_;
-  Selection selection_;
-  int topLine_ = 1;
-};
 
 /// Several modules, one for each project that names the file, can stand over one source: an edit
 /// through one shows in all.
@@ -45,7 +26,7 @@ class HostModule final : public CodeModule {
   std::string Name() const override { return name_; }
   VBComponent& Parent() const override;
   tamrikon::Members& Members() const override { return members_; }
-  tamrikon::CodePane& CodePane() const override { return pane_; }
+  tamrikon::CodePane& CodePane() const override;
 
   int CountOfLines() const override;
   int CountOfDeclarationLines() const override;
@@ -80,7 +61,6 @@ class HostModule final : public CodeModule {
   std::string name_;
   const ConditionalConstants& constants_;
   mutable HostMembers members_;
-  mutable HostCodePane pane_;
   mutable std::unique_ptr<ModuleAnalysis> analysis_;
   mutable unsigned revision_ = 0;  // of the source when analysis_ was made
 };

@@ -35,7 +35,7 @@ void HostComponents::add(std::unique_ptr<HostComponent> component) {
 }
 
 HostProject::HostProject(std::string fileName, std::string bytes, const ProjectContext& context)
-    : fileName_(std::move(fileName)), file_(std::move(bytes)) {
+    : screen_(context.screen), fileName_(std::move(fileName)), file_(std::move(bytes)) {
   open(context);
 }
 

@@ -8,6 +8,7 @@
 
 #include "host/conditional_expression.h"
 #include "host/host_component.h"
+#include "host/host_screen.h"
 #include "host/path_lookup.h"
 #include "host/project_file.h"
 #include "host/source_store.h"
@@ -38,12 +39,13 @@ struct ProjectContext {
   SourceStore& sources;
   const CodePage* codePage;  // the one that was asked for, or null
   const WarningSink& warn;
+  HostScreen* const& screen;  // follows a change of the screen
 };
 
 class HostProject final : public VBProject {
  public:
   /// `fileName` is the absolute path of the project's file and `bytes` what it holds. Opens all
-  /// components. `context.sources` must outlive the project.
+  /// components. `context.sources` and `context.screen` must outlive the project.
   HostProject(std::string fileName, std::string bytes, const ProjectContext& context);
 
   std::string Name() const override { return name_; }
@@ -53,11 +55,13 @@ class HostProject final : public VBProject {
   tamrikon::VBComponents& VBComponents() const override { return components_; }
 
   const CodePage& codePage() const { return *page_; }
+  HostScreen& screen() const { return *screen_; }
   ProjectFile& file() { return file_; }
 
  private:
   void open(const ProjectContext& context);
 
+  HostScreen* const& screen_;
   std::string fileName_;
   ProjectFile file_;
   const CodePage* page_ = nullptr;

@@ -9,6 +9,10 @@
 #include <stdexcept>
 #include <string>
 
+#include "ide/command_bars.h"
+#include "ide/events.h"
+#include "ide/windows.h"
+
 namespace tamrikon {
 
 class CodeModule;
@@ -71,6 +75,7 @@ class CodePane {
   virtual void SetSelection(const Selection& selection) = 0;
   virtual void setTopLine(int line) = 0;
   virtual tamrikon::CodeModule& CodeModule() const = 0;
+  virtual tamrikon::Window& Window() const = 0;
 };
 
 class CodeModule {
@@ -79,6 +84,8 @@ class CodeModule {
   virtual std::string Name() const = 0;
   virtual VBComponent& Parent() const = 0;
   virtual tamrikon::Members& Members() const = 0;
+
+  /// Opens a window when none is open.
   virtual tamrikon::CodePane& CodePane() const = 0;
 
   virtual int CountOfLines() const = 0;
@@ -168,6 +175,14 @@ class VBE {
 
   /// Makes the pane's project the active one as well.
   virtual void setActiveCodePane(CodePane& pane) = 0;
+
+  virtual tamrikon::Windows& Windows() const = 0;
+
+  /// Null if no window is in front.
+  virtual Window* ActiveWindow() const = 0;
+  virtual Window& MainWindow() const = 0;
+  virtual tamrikon::CommandBars& CommandBars() const = 0;
+  virtual tamrikon::Events& Events() const = 0;
 };
 
 /// Runs one step against the IDE; a step that fails is skipped. Whether it worked.

@@ -18,6 +18,7 @@ struct FakePane final : CodePane {
   }
   void setTopLine(int line) override { topLine = line; }
   tamrikon::CodeModule& CodeModule() const override { throw IdeError("no module"); }
+  tamrikon::Window& Window() const override { throw IdeError("no window"); }
 
   Selection selection;
   int topLine = 1;
