@@ -47,6 +47,7 @@ void addCompile(CLI::App& app, CompileOptions& options) {
   command.add_flag("--quiet", options.quiet, "Print only the warnings and errors of the log");
   command.add_flag("--fail-on-warnings", options.failsOnWarnings,
                    "Exit with status 3 if the log has a warning or an error");
+  command.add_flag("--open", options.opens, "Open the finished documentation");
 }
 
 void addSettings(CLI::App& app, SettingsOptions& options) {

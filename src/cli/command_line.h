@@ -2,6 +2,8 @@
 // that program's choice.
 #pragma once
 
+#include <functional>
+#include <istream>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -12,6 +14,12 @@ struct Streams {
   std::ostream& out;
   std::ostream& err;
   bool errIsTerminal = false;  // whether a status line makes sense
+
+  /// Where somebody answers what is asked on `err`; null if there is nobody.
+  std::istream* in = nullptr;
+
+  /// Whether Ctrl+C was pressed since this was asked last.
+  std::function<bool()> isInterrupted = [] { return false; };
 };
 
 enum ExitStatus { kDone = 0, kFailed = 1, kWrongUsage = 2, kHadWarnings = 3 };

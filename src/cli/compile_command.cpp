@@ -6,8 +6,7 @@
 #include "cli/project_opening.h"
 #include "cli/setting_overrides.h"
 #include "cli/terminal.h"
-#include "compiler/start_compile.h"
-#include "compiler/store.h"
+#include "compiler/group_compile.h"
 
 namespace tamrikon {
 namespace {
@@ -34,18 +33,22 @@ bool chooseOutput(Session& session, const std::string& folder, Terminal& termina
   return false;
 }
 
-/// Whether the compile of the active project worked.
-bool compileActive(Session& session, HostIde& ide, const CompileOptions& options,
-                   Terminal& terminal) {
+/// Makes a project the active one, with its settings as the command line changes them. False if
+/// there is no place for its pages.
+bool prepare(Session& session, HostIde& ide, VBProject& project, const CompileOptions& options,
+             Terminal& terminal) {
+  activateProject(session, ide, project, terminal);
   applySettings(session, ide, options.settings);
   if (!options.templateFile.empty()) chooseTemplate(session, options.templateFile);
-  if (options.outputFolder.empty()) {
-    session.settingsFile.createOutputFolder();
-  } else if (!chooseOutput(session, options.outputFolder, terminal)) {
-    return false;
-  }
-  const std::string name = ide.ActiveVBProject().Name();
-  switch (startCompile(session, ide)) {
+  if (!options.outputFolder.empty()) return chooseOutput(session, options.outputFolder, terminal);
+  session.settingsFile.createOutputFolder();
+  return true;
+}
+
+/// Whether the last compile, that of `project`, worked.
+bool reportOutcome(Session& session, const VBProject& project, Terminal& terminal) {
+  const std::string name = project.Name();
+  switch (session.progressDlg.outcome()) {
     case CompileOutcome::finished: return true;
     case CompileOutcome::aborted:
       terminal.complain("tamrikon: the compile of " + name + " was stopped");
@@ -58,18 +61,23 @@ bool compileActive(Session& session, HostIde& ide, const CompileOptions& options
 
 bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, Terminal& terminal) {
   if (!ide.isGroup()) {
-    activateProject(session, ide, ide.ActiveVBProject(), terminal);
-    return compileActive(session, ide, options, terminal);
+    VBProject& project = ide.ActiveVBProject();
+    if (!prepare(session, ide, project, options, terminal)) return false;
+    session.progressDlg.VBInstance = &ide;
+    session.progressDlg.showModal();
+    return reportOutcome(session, project, terminal);
   }
-  session.compileWholeGroup = true;
   bool worked = true;
-  const VBProjects& projects = ide.VBProjects();
-  for (int number = 1; number <= projects.Count(); ++number) {
-    VBProject& project = projects.Item(number);
-    if (project.VBComponents().Count() == 0) continue;
-    activateProject(session, ide, project, terminal);
-    worked = compileActive(session, ide, options, terminal) && worked;
-  }
+  GroupSteps steps;
+  steps.activate = [&](VBProject& project) {
+    const bool ready = prepare(session, ide, project, options, terminal);
+    worked = ready && worked;
+    return ready;
+  };
+  steps.compiled = [&](VBProject& project) {
+    worked = reportOutcome(session, project, terminal) && worked;
+  };
+  compileGroup(session, ide, steps);
   return worked;
 }
 
@@ -102,6 +110,7 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
     terminal.complain("tamrikon: cannot write the log " + options.logFile);
     worked = false;
   }
+  if (options.opens && worked) worked = session.progressDlg.showDocumentation();
   if (!worked) return kFailed;
   return options.failsOnWarnings && terminal.hadWarnings() ? kHadWarnings : kDone;
 }

@@ -3,10 +3,14 @@
 #include <vector>
 
 #include "cli/command_line.h"
+#include "platform/interrupt.h"
 #include "platform/standard_streams.h"
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
+  tamrikon::InterruptWatch interrupts;
   tamrikon::Streams streams{std::cout, std::cerr, tamrikon::errorStreamIsTerminal()};
+  if (tamrikon::canAskOnTerminal()) streams.in = &std::cin;
+  streams.isInterrupted = [&] { return interrupts.take(); };
   return tamrikon::runTamrikon(std::vector<std::string>(argv + 1, argv + argc), streams);
 }

@@ -21,6 +21,7 @@ struct CompileOptions : ProjectOptions {
   bool saves = false;
   bool quiet = false;
   bool failsOnWarnings = false;
+  bool opens = false;
 };
 
 struct SettingsOptions : ProjectOptions {

@@ -5,6 +5,12 @@
 #include "base/case_folding.h"
 #include "base/text.h"
 #include "base/utf8.h"
+#include "cli/questions.h"
+#include "platform/open_document.h"
+#include "toolkit/buttons.h"
+#include "toolkit/dialog.h"
+#include "toolkit/text_controls.h"
+#include "toolkit/value_controls.h"
 
 namespace tamrikon {
 namespace {
@@ -22,6 +28,15 @@ std::string withLineFeeds(const std::string& text) {
   return lines;
 }
 
+/// The button of the dialog that has `role` and can be pressed, or null.
+CommandButton* buttonOf(const Dialog& dialog, ButtonRole role) {
+  for (Control* control : dialog.controls()) {
+    auto* button = dynamic_cast<CommandButton*>(control);
+    if (button != nullptr && button->role() == role && button->isEnabled()) return button;
+  }
+  return nullptr;
+}
+
 /// The first `width` characters.
 std::string_view shortened(std::string_view text, std::size_t width) {
   std::size_t offset = 0;
@@ -31,10 +46,98 @@ std::string_view shortened(std::string_view text, std::size_t width) {
 
 }  // namespace
 
-void Terminal::addMessage(const std::string& text) {
+/// Prints what is added to a log; a text that is set as a whole was seen before.
+class Terminal::LogPeer final : public ControlPeer {
+ public:
+  explicit LogPeer(Terminal& terminal) : terminal_(terminal) {}
+  void changed() override {}
+  void textAppended(const std::string& text) override { terminal_.showMessage(text); }
+
+ private:
+  Terminal& terminal_;
+};
+
+class Terminal::StatusPeer final : public ControlPeer {
+ public:
+  StatusPeer(Terminal& terminal, const StatusBar& bar) : terminal_(terminal), bar_(bar) {}
+  void changed() override {
+    terminal_.status_ = bar_.panel(1);
+    if (terminal_.status_.empty()) return terminal_.clearStatus();
+    terminal_.showStatus();
+  }
+
+ private:
+  Terminal& terminal_;
+  const StatusBar& bar_;
+};
+
+/// Changes what the next status line says; the status itself follows at once.
+class Terminal::ProgressPeer final : public ControlPeer {
+ public:
+  ProgressPeer(Terminal& terminal, const ProgressIndicator& indicator)
+      : terminal_(terminal), indicator_(indicator) {}
+  void changed() override {
+    terminal_.done_ = indicator_.done();
+    terminal_.all_ = indicator_.all();
+  }
+
+ private:
+  Terminal& terminal_;
+  const ProgressIndicator& indicator_;
+};
+
+Terminal::Terminal(const Streams& streams, bool quiet) : streams_(streams), quiet_(quiet) {}
+
+Terminal::~Terminal() {
+  clearStatus();
+}
+
+void Terminal::runModal(Dialog& dialog) {
+  std::vector<std::pair<Control*, std::unique_ptr<ControlPeer>>> peers;
+  for (Control* control : dialog.controls()) {
+    std::unique_ptr<ControlPeer> peer;
+    if (const auto* box = dynamic_cast<TextBox*>(control); box != nullptr && box->isReadOnly()) {
+      peer = std::make_unique<LogPeer>(*this);
+    } else if (const auto* bar = dynamic_cast<StatusBar*>(control); bar != nullptr) {
+      peer = std::make_unique<StatusPeer>(*this, *bar);
+    } else if (const auto* shown = dynamic_cast<ProgressIndicator*>(control); shown != nullptr) {
+      peer = std::make_unique<ProgressPeer>(*this, *shown);
+    } else {
+      continue;
+    }
+    control->attach(peer.get());
+    peers.emplace_back(control, std::move(peer));
+  }
+  Dialog* const owner = std::exchange(dialog_, &dialog);
+  dialog.onActivate();
+  if (CommandButton* button = buttonOf(dialog, ButtonRole::default_);
+      dialog.isShown() && button != nullptr) {
+    button->userClicked();
+  }
+  dialog.close();
+  dialog_ = owner;
+  for (const auto& [control, peer] : peers) control->attach(nullptr);
+}
+
+void Terminal::checkpoint() {
+  if (!streams_.isInterrupted() || dialog_ == nullptr) return;
+  if (CommandButton* button = buttonOf(*dialog_, ButtonRole::cancel); button != nullptr) {
+    button->userClicked();
+  }
+}
+
+bool Terminal::openDocument(const std::string& path) {
+  return tamrikon::openDocument(path);
+}
+
+void Terminal::beep() {
+  if (streams_.errIsTerminal) streams_.err << '\a' << std::flush;
+}
+
+void Terminal::showMessage(const std::string& text) {
   const bool warns = isWarning(text);
   hadWarnings_ = hadWarnings_ || warns;
-  const std::string lines = withLineFeeds(text) + '\n';
+  const std::string lines = withLineFeeds(text);
   if (log_ != nullptr) *log_ << lines;
   if (quiet_ && !warns) return;
   clearStatus();
@@ -46,24 +149,27 @@ void Terminal::complain(const std::string& text) {
   streams_.err << text << '\n' << std::flush;
 }
 
-MessageAnswer Terminal::messageBox(const std::string& title, const std::string& text,
-                                   MessageButtons) {
-  complain(title + ": " + withLineFeeds(text));
-  return MessageAnswer::cancel;
+MessageAnswer Terminal::messageBox(const MessageBox& box) {
+  complain(box.title + ": " + withLineFeeds(box.text));
+  return streams_.in == nullptr ? answerOfNobody(box.buttons) : ask(box);
 }
 
-void Terminal::setStatusLine(const std::string& text) {
-  if (!streams_.errIsTerminal) return;
-  status_ = text;
-  showStatus();
-}
-
-void Terminal::setProgress(std::size_t done, std::size_t all) {
-  done_ = done;
-  all_ = all;
+MessageAnswer Terminal::ask(const MessageBox& box) {
+  if (box.buttons == MessageButtons::ok) return MessageAnswer::ok;
+  std::string line;
+  for (;;) {
+    streams_.err << promptFor(box.buttons) << std::flush;
+    if (!std::getline(*streams_.in, line)) break;
+    if (const auto answer = readAnswer(line, box.buttons)) return *answer;
+  }
+  // The end of the input, or Ctrl+C: a later question may still be answered.
+  streams_.in->clear();
+  streams_.err << '\n' << std::flush;
+  return answerOfNobody(box.buttons);
 }
 
 void Terminal::showStatus() {
+  if (!streams_.errIsTerminal) return;
   // A line for each of thousands of pages would cost more than the pages.
   constexpr auto kPause = std::chrono::milliseconds(40);
   constexpr std::size_t kWidth = 79;

@@ -1,4 +1,6 @@
-// The progress log, the status line and the message boxes on a terminal or in a pipe.
+// Shows dialogs on a terminal or in a pipe, as far as that goes: a log box is printed as it grows,
+// a status bar and a progress indicator become a status line, a message box becomes a question. All
+// else that a dialog holds stays unseen.
 #pragma once
 
 #include <chrono>
@@ -7,16 +9,16 @@
 #include <string>
 
 #include "cli/command_line.h"
-#include "compiler/user_interface.h"
+#include "toolkit/toolkit.h"
 
 namespace tamrikon {
 
-class Terminal final : public UserInterface {
+class Terminal final : public Toolkit {
  public:
   /// The streams must outlive this object. With `quiet`, only warnings and errors of the log are
   /// printed.
-  Terminal(const Streams& streams, bool quiet) : streams_(streams), quiet_(quiet) {}
-  ~Terminal() override { clearStatus(); }
+  Terminal(const Streams& streams, bool quiet);
+  ~Terminal() override;
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
 
@@ -25,19 +27,37 @@ class Terminal final : public UserInterface {
 
   bool hadWarnings() const { return hadWarnings_; }
 
-  void addMessage(const std::string& text) override;
-  void setStatusLine(const std::string& text) override;
-  void setProgress(std::size_t done, std::size_t all) override;
+  /// Activates the dialog and, when that is done, presses its default button if it is enabled:
+  /// there is nobody who would.
+  void runModal(Dialog& dialog) override;
 
-  /// Nobody is asked: Cancel is taken.
-  MessageAnswer messageBox(const std::string& title, const std::string& text,
-                           MessageButtons buttons) override;
-  void pumpEvents() override {}
+  /// Without somebody to ask, Cancel is taken, or No where there is no Cancel.
+  MessageAnswer messageBox(const MessageBox& box) override;
+
+  /// Nothing is chosen.
+  std::optional<std::string> chooseFileToOpen(const FileChoice&) override { return std::nullopt; }
+  std::optional<std::string> chooseFileToSave(const FileChoice&) override { return std::nullopt; }
+
+  /// Ctrl+C presses the cancel button of the dialog in front.
+  void checkpoint() override;
+
+  /// There is none: what is put there is gone.
+  std::string clipboardText() override { return {}; }
+  void setClipboardText(const std::string&) override {}
+
+  bool openDocument(const std::string& path) override;
+  void beep() override;
 
   /// A line on the error stream.
   void complain(const std::string& text);
 
  private:
+  class LogPeer;
+  class StatusPeer;
+  class ProgressPeer;
+
+  void showMessage(const std::string& text);
+  MessageAnswer ask(const MessageBox& box);
   void showStatus();
   void clearStatus();
 
@@ -45,6 +65,7 @@ class Terminal final : public UserInterface {
   bool quiet_;
   std::ostream* log_ = nullptr;
   bool hadWarnings_ = false;
+  Dialog* dialog_ = nullptr;  // in front
   std::string status_;
   bool statusIsShown_ = false;
   std::size_t done_ = 0;

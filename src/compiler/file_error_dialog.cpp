@@ -29,7 +29,7 @@ FileErrorAnswer FileErrorDialog::reportFileError(const std::string& path, std::s
   const MessageButtons buttons =
       error == FileError::diskFull ? MessageButtons::yesNoCancel : MessageButtons::retryCancel;
   const std::string title = "Error " + std::string(verb) + " " + path + " file";
-  switch (ui_.messageBox(title, messageFor(error), buttons)) {
+  switch (toolkit_.messageBox({title, messageFor(error), buttons})) {
     case MessageAnswer::ok:
     case MessageAnswer::retry:
     case MessageAnswer::yes: return FileErrorAnswer::repeat;

@@ -79,7 +79,7 @@ bool OutputPages::putTopics() {
       const std::string name = isModule ? module : module + "-" + wrapper->name();
       put(Write::replace, name, extension, topicText(*wrapper));
     }
-    session_.ui.setProgress(++topicsDone_, store_.compiledList.size());
+    session_.progressDlg.setProgress(++topicsDone_, store_.compiledList.size());
   }
   return true;
 }
@@ -140,7 +140,7 @@ void OutputPages::appendWrapperPage(Wrapper& wrapper, const std::string& extensi
   const bool isModule = wrapper.kind() == WrapperKind::module;
   session_.log.ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
   if (wantsTopic(wrapper)) put(Write::append, projectName_, extension, topicText(wrapper));
-  session_.ui.setProgress(++topicsDone_, store_.compiledList.size());
+  session_.progressDlg.setProgress(++topicsDone_, store_.compiledList.size());
 }
 
 }  // namespace tamrikon

@@ -1,9 +1,11 @@
 #include "compiler/progress_log.h"
 
+#include "compiler/progress_dlg.h"
+
 namespace tamrikon {
 
 void ProgressLog::logMessage(const std::string& text) {
-  if (!text.starts_with("Warning: ") || text != lastLogMessage) ui_.addMessage(text);
+  if (!text.starts_with("Warning: ") || text != lastLogMessage) dialog_.addMessage(text);
   lastLogMessage = text;
 }
 
@@ -11,7 +13,7 @@ void ProgressLog::ShowProgress(std::string_view name, std::string_view detail) {
   std::string line = "Compiling: ";
   line.append(name);
   if (!detail.empty()) line.append(".").append(detail);
-  ui_.setStatusLine(line);
+  dialog_.setStatusLine(line);
 }
 
 }  // namespace tamrikon

@@ -1,18 +1,19 @@
-// The progress log and the status line of a compile.
+// What a compile reports: to the progress log and the status line of its dialog.
 #pragma once
 
 #include <string>
 #include <string_view>
 
 #include "base/message_log.h"
-#include "compiler/user_interface.h"
 
 namespace tamrikon {
 
+class ProgressDlg;
+
 class ProgressLog final : public MessageLog {
  public:
-  /// `ui` must outlive this object.
-  explicit ProgressLog(UserInterface& ui) : ui_(ui) {}
+  /// `dialog` must outlive this object.
+  explicit ProgressLog(ProgressDlg& dialog) : dialog_(dialog) {}
 
   void logMessage(const std::string& text) override;
 
@@ -23,7 +24,7 @@ class ProgressLog final : public MessageLog {
   std::string lastLogMessage;
 
  private:
-  UserInterface& ui_;
+  ProgressDlg& dialog_;
 };
 
 }  // namespace tamrikon

@@ -6,13 +6,14 @@
 
 namespace tamrikon {
 
-Session::Session(UserInterface& userInterface, FileSystem& fileSystem,
-                 ProcessServices& processServices, std::string dataFolder)
-    : ui(userInterface),
+Session::Session(Toolkit& dialogToolkit, FileSystem& fileSystem, ProcessServices& processServices,
+                 std::string dataFolder)
+    : toolkit(dialogToolkit),
       processes(processServices),
       addInFolder(std::move(dataFolder)),
-      log(userInterface),
-      fileErrors(userInterface, cancelRequested),
+      progressDlg(*this),
+      log(progressDlg),
+      fileErrors(dialogToolkit, cancelRequested),
       files(fileSystem, fileErrors),
       settingsFile(settings, addInFolder, files) {}
 

@@ -6,12 +6,13 @@
 #include <string>
 
 #include "compiler/file_error_dialog.h"
+#include "compiler/progress_dlg.h"
 #include "compiler/progress_log.h"
-#include "compiler/user_interface.h"
 #include "platform/process.h"
 #include "platform/text_files.h"
 #include "settings/project_settings.h"
 #include "settings/settings_file.h"
+#include "toolkit/toolkit.h"
 
 namespace tamrikon {
 
@@ -21,20 +22,23 @@ class Session {
  public:
   /// All of them must outlive this object. `dataFolder` is the folder of the program's data, with
   /// no separator at its end.
-  Session(UserInterface& userInterface, FileSystem& fileSystem, ProcessServices& processServices,
+  Session(Toolkit& dialogToolkit, FileSystem& fileSystem, ProcessServices& processServices,
           std::string dataFolder);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  UserInterface& ui;
+  Toolkit& toolkit;
   ProcessServices& processes;
   const std::string addInFolder;
 
   bool cancelRequested = false;    // stops a running compile at its next checkpoint
-  bool compileWholeGroup = false;  // the compile in work is one of a group's
+  bool compileWholeGroup = false;  // the user asked for the whole group
+  bool lastGroupProject = false;   // the project in work is the last of its group
+  std::string groupLogText;        // the log of the group so far
   bool runsPrograms = true;        // whether a template's external programs run
 
+  ProgressDlg progressDlg;
   ProgressLog log;
   FileErrorDialog fileErrors;
   TextFiles files;

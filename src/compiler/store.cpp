@@ -37,7 +37,7 @@ void store::clearCollections() {
 }
 
 bool store::checkpoint() {
-  session_.ui.pumpEvents();
+  session_.toolkit.checkpoint();
   if (!session_.cancelRequested) return true;
   clearCollections();
   return false;
@@ -69,7 +69,7 @@ void store::compile(VBE& VBInstance) {
 bool store::analyse() {
   ProjectAnalysis analysis(session_.settings, sources_, comments, wrappers);
   analysis.analyseProject([&] {
-    session_.ui.pumpEvents();
+    session_.toolkit.checkpoint();
     return !session_.cancelRequested;
   });
   if (!checkpoint()) return false;

@@ -8,4 +8,8 @@ bool errorStreamIsTerminal() {
   return ::isatty(STDERR_FILENO) != 0;
 }
 
+bool canAskOnTerminal() {
+  return ::isatty(STDIN_FILENO) != 0 && errorStreamIsTerminal();
+}
+
 }  // namespace tamrikon

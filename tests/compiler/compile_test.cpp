@@ -3,10 +3,9 @@
 #include <filesystem>
 #include <iterator>
 
-#include "compiler/start_compile.h"
 #include "compiler/store.h"
 #include "host/host_ide.h"
-#include "support/recording_ui.h"
+#include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
 
 namespace tamrikon {
@@ -29,12 +28,14 @@ class CompileTest : public testing::Test {
     session_.settings.templatePath = folder_.put("t.tmkt", templateText);
     session_.settings.outputPath = output;
     std::filesystem::create_directories(output);
-    return startCompile(session_, *ide_);
+    session_.progressDlg.VBInstance = ide_.get();
+    session_.progressDlg.startCompile();
+    return session_.progressDlg.outcome();
   }
 
   test::TempFolder folder_;
-  test::RecordingUi ui_;
-  Session session_{ui_, nativeFileSystem(), nativeProcessServices(), "/data/$home"};
+  test::ScriptedToolkit toolkit_;
+  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data/$home"};
   std::unique_ptr<HostIde> ide_;
 };
 
@@ -53,7 +54,7 @@ TEST_F(CompileTest, StopsAtTheCheckpointBehindACancel) {
                                     {14, 7}}) {
     SCOPED_TRACE(pump);
     int count = 0;
-    ui_.onPump = [&, last = pump] { session_.cancelRequested = ++count >= last; };
+    toolkit_.onCheckpoint = [&, last = pump] { session_.cancelRequested = ++count >= last; };
     const std::string output = folder_ / std::to_string(pump);
     const CompileOutcome outcome = compile(
         "$MEMBER-EXT$ .m\n$PROJECT-EXT$ .p\n$CONTENTS-EXT$ .c\n$INDEX-EXT$ .i\n$X$ x\n", output);

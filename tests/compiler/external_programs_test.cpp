@@ -2,29 +2,33 @@
 
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "compiler/store.h"
-#include "support/recording_ui.h"
+#include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
 
 namespace tamrikon {
 namespace {
 
-using Messages = std::vector<std::string>;
+/// The progress log with LF between its lines.
+std::string logOf(const Session& session) {
+  return replaceAll(session.progressDlg.Text1.text(), "\r\n", "\n");
+}
 
 class ExternalProgramsTest : public testing::Test {
  protected:
   ExternalProgramsTest() { session_.settings.outputPath = folder_ / "a 'b' $c"; }
 
   std::string run(const std::string& text) {
-    ui_.messages.clear();
+    session_.progressDlg.Text1.setText("");
     std::filesystem::create_directories(session_.settings.outputPath);
     ExternalPrograms(session_).runExternalPrograms(text);
-    return ui_.messages.size() == 1 ? ui_.messages.front() : "";
+    return logOf(session_);
   }
 
   test::TempFolder folder_;
-  test::RecordingUi ui_;
-  Session session_{ui_, nativeFileSystem(), nativeProcessServices(), "/data"};
+  test::ScriptedToolkit toolkit_;
+  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data"};
 };
 
 TEST_F(ExternalProgramsTest, RunsEachLineAsItStandsAndLogsItWithItsOutput) {
@@ -38,17 +42,17 @@ TEST_F(ExternalProgramsTest, RunsEachLineAsItStandsAndLogsItWithItsOutput) {
             "cd /\npwd\n/\n"
             "echo \"open\n"
             "false\n"
-            "echo out; echo err >&2\nout\n");
+            "echo out; echo err >&2\nout\n\n");
   EXPECT_TRUE(std::filesystem::is_empty(session_.settings.outputPath));
 }
 
 TEST_F(ExternalProgramsTest, ReportsWhatItCannotRun) {
-  constexpr const char* kCannot = "ERROR: Cannot create and execute batch file.";
+  constexpr const char* kCannot = "ERROR: Cannot create and execute batch file.\n";
   EXPECT_EQ(run("  "), kCannot);  // no command leaves no log
   EXPECT_TRUE(folder_.has("a 'b' $c/execAfter.sh"));
   session_.settings.outputPath = folder_ / "gone";
   ExternalPrograms(session_).runExternalPrograms("echo");
-  EXPECT_EQ(ui_.messages.back(), kCannot);
+  EXPECT_EQ(logOf(session_), std::string(kCannot) + kCannot);
 }
 
 class NoProcesses final : public ProcessServices {
@@ -69,21 +73,20 @@ class NoProcesses final : public ProcessServices {
 
 TEST_F(ExternalProgramsTest, TellsWhyAProcessDidNotStartAndRepeatsAFailingDelete) {
   NoProcesses processes;
-  Session session(ui_, nativeFileSystem(), processes, "/data");
+  Session session(toolkit_, nativeFileSystem(), processes, "/data");
   session.settings.outputPath = folder_.path();
   ExternalPrograms programs(session);
   EXPECT_EQ(programs.threadCodePage(), 1250);
   programs.runExternalPrograms("echo");
   const std::string script = folder_ / "execAfter.sh";
   const std::string log = folder_ / "execAfter.log";
-  EXPECT_EQ(ui_.messages, (Messages{"ERROR: Cannot execute /bin/sh " + script + ".",
-                                    "CreateProcess failed. Error: 2",
-                                    "ERROR: Cannot create and execute batch file."}));
+  EXPECT_EQ(logOf(session), "ERROR: Cannot execute /bin/sh " + script +
+                                ".\nCreateProcess failed. Error: 2\n"
+                                "ERROR: Cannot create and execute batch file.\n");
   // What looks like the log of an earlier run is taken for this one's.
   folder_.put("execAfter.log", "old");
-  ui_.messages.clear();
   programs.runExternalPrograms("echo");
-  EXPECT_EQ(ui_.messages.back(), "old");
+  EXPECT_TRUE(logOf(session).ends_with("\nold\n"));
   EXPECT_EQ(processes.pauses, 0);
 }
 

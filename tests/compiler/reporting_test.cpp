@@ -1,28 +1,30 @@
 #include <gtest/gtest.h>
 
 #include "compiler/file_error_dialog.h"
-#include "compiler/progress_log.h"
-#include "support/recording_ui.h"
+#include "compiler/session.h"
+#include "compiler/store.h"
+#include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
 
 namespace tamrikon {
 namespace {
 
-using test::RecordingUi;
-using Messages = std::vector<std::string>;
+using test::ScriptedToolkit;
 
 TEST(ProgressLog, LeavesOutAWarningThatRepeatsTheMessageBefore) {
-  RecordingUi ui;
-  ProgressLog log(ui);
+  ScriptedToolkit toolkit;
+  Session session(toolkit, nativeFileSystem(), nativeProcessServices(), "/data");
   for (const char* text :
        {"Warning: a", "Warning: a", "b", "b", "Warning: a", "WARNING: c", "WARNING: c"}) {
-    log.logMessage(text);
+    session.log.logMessage(text);
   }
-  EXPECT_EQ(ui.messages,
-            (Messages{"Warning: a", "b", "b", "Warning: a", "WARNING: c", "WARNING: c"}));
-  log.ShowProgress("Module1", "Foo");
-  log.ShowProgress("contents...", "");
-  EXPECT_EQ(ui.statusLines, (Messages{"Compiling: Module1.Foo", "Compiling: contents..."}));
+  EXPECT_EQ(session.progressDlg.Text1.text(),
+            "Warning: a\r\nb\r\nb\r\nWarning: a\r\nWARNING: c\r\nWARNING: c\r\n");
+  const StatusBar& status = session.progressDlg.StatusBar1;
+  session.log.ShowProgress("Module1", "Foo");
+  EXPECT_EQ(status.panel(1), "Compiling: Module1.Foo");
+  session.log.ShowProgress("contents...", "");
+  EXPECT_EQ(status.panel(1), "Compiling: contents...");
 }
 
 TEST(FileErrorDialog, AsksAndStopsTheCompileOnAGiveUp) {
@@ -38,28 +40,29 @@ TEST(FileErrorDialog, AsksAndStopsTheCompileOnAGiveUp) {
         Case{FileError::diskFull, MessageAnswer::no, FileErrorAnswer::giveUp, true},
         Case{FileError::fileNotFound, MessageAnswer::ignore, FileErrorAnswer::goOn, false},
         Case{FileError::fileNotFound, MessageAnswer::cancel, FileErrorAnswer::giveUp, true}}) {
-    RecordingUi ui;
-    ui.answers = {c.answer};
+    ScriptedToolkit toolkit;
+    toolkit.answers = {c.answer};
     bool cancelRequested = false;
-    FileErrorDialog dialog(ui, cancelRequested);
+    FileErrorDialog dialog(toolkit, cancelRequested);
     EXPECT_EQ(dialog.reportFileError("C:\\a.txt", "saving", c.error), c.expected);
     EXPECT_EQ(cancelRequested, c.cancels);
-    EXPECT_EQ(ui.boxes.front().rfind("Error saving C:\\a.txt file: ", 0), 0U);
+    EXPECT_EQ(toolkit.boxes.front().title, "Error saving C:\\a.txt file");
+    EXPECT_EQ(toolkit.boxes.front().icon, MessageIcon::exclamation);
   }
 }
 
 TEST(TextFiles, RepeatsAFailingStepAndWritesEachCrAsCrLf) {
   const test::TempFolder folder;
-  RecordingUi ui;
+  ScriptedToolkit toolkit;
   bool cancelRequested = false;
-  FileErrorDialog dialog(ui, cancelRequested);
+  FileErrorDialog dialog(toolkit, cancelRequested);
   TextFiles files(nativeFileSystem(), dialog);
   const std::string path = folder / "out/a.txt";
   EXPECT_EQ(files.writeTextFile(path, "x", true), 2);
-  EXPECT_TRUE(ui.boxes.empty());
+  EXPECT_TRUE(toolkit.boxes.empty());
   EXPECT_EQ(files.writeTextFile(path, "x", false), 1);
   EXPECT_TRUE(cancelRequested);
-  EXPECT_EQ(ui.boxes, (Messages{"Error saving " + path + " file: That path doesn't exist."}));
+  EXPECT_EQ(toolkit.boxes.front().text, "That path doesn't exist.");
   folder.put("out/other", "");
   EXPECT_EQ(files.appendTextFile(path, "one\rtw\xC3\xB6", false), 0);
   EXPECT_EQ(files.appendTextFile(path, "\r\xE2\x88\x91", false), 0);

@@ -1,0 +1,83 @@
+#include "compiler/progress_dlg.h"
+
+#include <exception>
+#include <memory>
+#include <stdexcept>
+
+#include "compiler/session.h"
+#include "compiler/store.h"
+#include "toolkit/toolkit.h"
+
+namespace tamrikon {
+
+ProgressDlg::ProgressDlg(Session& session)
+    : Dialog(session.toolkit, "ProgressDlg", "Compilation status:"), session_(session) {
+  Text1.setMultiLine(true);
+  Text1.setReadOnly(true);
+  Animation1.setVisible(false);
+  OKButton.setRole(ButtonRole::default_);
+  CancelButton.setRole(ButtonRole::cancel);
+  OKButton.onClick = [this] { close(); };
+  CancelButton.onClick = [this] { session_.cancelRequested = true; };
+  Command1.onClick = [this] { showDocumentation(); };
+}
+
+Layout ProgressDlg::layout() {
+  return column({item(Text1).sized(80, 18).growing(), item(Animation1),
+                 row({item(Command1), space(), item(CancelButton), item(OKButton)}),
+                 item(StatusBar1)});
+}
+
+void ProgressDlg::onActivate() {
+  startCompile();
+  if (!session_.compileWholeGroup) return;
+  session_.groupLogText = Text1.text();
+  if (!session_.lastGroupProject) close();
+}
+
+void ProgressDlg::setRunning(bool running) {
+  OKButton.setEnabled(!running);
+  Command1.setEnabled(!running);
+  CancelButton.setEnabled(running);
+  Animation1.setVisible(running);
+  Animation1.setRunning(running);
+}
+
+void ProgressDlg::startCompile() {
+  session_.currentStore = std::make_unique<store>(session_);
+  setCaption("Compiling, please wait...");
+  setStatusLine("Analysing the project...");
+  setProgress(0, 0);
+  setRunning(true);
+  Text1.setText(session_.compileWholeGroup ? session_.groupLogText : "");
+  session_.cancelRequested = false;
+  try {
+    if (VBInstance == nullptr) throw std::logic_error("no IDE was given");
+    // A template that can't be loaded has set cancelRequested, if the user gave up at the dialog.
+    session_.currentStore->loadSrc(session_.settings.templatePath, false);
+    session_.currentStore->compile(*VBInstance);
+    outcome_ = session_.cancelRequested ? CompileOutcome::aborted : CompileOutcome::finished;
+  } catch (const std::exception&) {
+    outcome_ = CompileOutcome::failed;
+  }
+  setRunning(false);
+  setStatusLine("");
+  setCaption(session_.cancelRequested ? "Compilation aborted by user" : "Compilation status:");
+  if (outcome_ == CompileOutcome::failed) {
+    toolkit().beep();
+    close();
+    return;
+  }
+  OKButton.setFocus();
+}
+
+bool ProgressDlg::showDocumentation() {
+  const std::string file =
+      session_.currentStore ? session_.currentStore->evaluateMacro("tamrik-help-file") : "";
+  if (toolkit().openDocument(file)) return true;
+  toolkit().messageBox(
+      {"Error while showing documentation", "Cannot show the \"" + file + "\" file"});
+  return false;
+}
+
+}  // namespace tamrikon

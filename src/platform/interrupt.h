@@ -1,0 +1,19 @@
+// Ctrl+C on the terminal.
+#pragma once
+
+namespace tamrikon {
+
+/// While one lives, the first Ctrl+C is noted instead of ending the program; a second one, before
+/// the first has been taken, still ends it. There is at most one at a time.
+class InterruptWatch {
+ public:
+  InterruptWatch();
+  ~InterruptWatch();
+  InterruptWatch(const InterruptWatch&) = delete;
+  InterruptWatch& operator=(const InterruptWatch&) = delete;
+
+  /// Whether Ctrl+C was pressed since this was asked last.
+  bool take();
+};
+
+}  // namespace tamrikon
