@@ -10,10 +10,17 @@
 namespace tamrikon::test {
 
 struct ProgramRun {
-  explicit ProgramRun(const std::vector<std::string>& arguments, bool errIsTerminal = false) {
+  explicit ProgramRun(const std::vector<std::string>& arguments, bool errIsTerminal = false)
+      : ProgramRun(arguments, [errIsTerminal](Streams& s) { s.errIsTerminal = errIsTerminal; }) {}
+
+  /// `setUp` may change what the streams are connected to.
+  template <typename SetUp>
+  ProgramRun(const std::vector<std::string>& arguments, SetUp setUp) {
     std::ostringstream outStream;
     std::ostringstream errStream;
-    status = runTamrikon(arguments, Streams{outStream, errStream, errIsTerminal});
+    Streams streams{outStream, errStream};
+    setUp(streams);
+    status = runTamrikon(arguments, streams);
     out = outStream.str();
     err = errStream.str();
   }

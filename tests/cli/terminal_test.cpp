@@ -1,0 +1,109 @@
+// What somebody at a terminal sees, is asked and can stop.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <stdlib.h>
+
+#include <filesystem>
+
+#include "cli/questions.h"
+#include "platform/interrupt.h"
+#include "support/program_run.h"
+#include "support/temp_folder.h"
+
+namespace tamrikon {
+namespace {
+
+using test::ProgramRun;
+
+class TerminalTest : public testing::Test {
+ protected:
+  TerminalTest() {
+    for (const char* name : {"One", "Two"}) {
+      const std::string text(name);
+      folder_.put("C" + text + ".cls", "'**\n'Fills.\nPublic Sub Fill()\nEnd Sub\n");
+      folder_.put(text + ".vbp", "Name=\"" + text + "\"\nClass=C" + text + "; C" + text + ".cls\n");
+    }
+    folder_.put("t.tmkt",
+                "$MEMBER-EXT$ .m\n$PROJECT-EXT$ .p\n$tamrik-help-file$\n"
+                "$OUTPUT-PATH$/One.p\n$end-tamrik-help-file$\n");
+  }
+
+  std::vector<std::string> compile(const std::string& project) const {
+    return {"compile",  folder_ / project, "--template", folder_ / "t.tmkt",
+            "--output", folder_ / "out",   "--no-exec"};
+  }
+
+  test::TempFolder folder_;
+};
+
+TEST_F(TerminalTest, AsksUntilAnAnswerIsOneAndActsOnIt) {
+  const std::string page = folder_ / "out/One.p";
+  std::filesystem::create_directories(page);  // a folder stands in the way of the page
+  const std::string box = "Error saving " + page + " file: Unrecognized file error.\n";
+  const std::string ask = "[R]etry, [C]ancel? ";
+  const auto answer = [&](std::istringstream input) {
+    return ProgramRun(compile("One.vbp"), [&](Streams& streams) { streams.in = &input; });
+  };
+  const ProgramRun asked = answer(std::istringstream("what\nr\n CANCEL \n"));
+  EXPECT_EQ(asked.status, 1);
+  EXPECT_EQ(asked.err, box + ask + ask + box + ask + "tamrikon: the compile of One was stopped\n");
+  EXPECT_EQ(answer(std::istringstream("")).err,
+            box + ask + "\ntamrikon: the compile of One was stopped\n");
+}
+
+TEST_F(TerminalTest, InterruptStopsTheProjectInWorkAtItsNextCheckpoint) {
+  int pumps = 0;
+  const ProgramRun run(compile("One.vbp"), [&](Streams& streams) {
+    streams.isInterrupted = [&] { return ++pumps == 2; };
+  });
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err, "tamrikon: the compile of One was stopped\n");
+  EXPECT_FALSE(folder_.has("out/One.p"));
+  folder_.put("Both.vbg", "VBGROUP 5.0\nStartupProject=One.vbp\nProject=Two.vbp\n");
+  pumps = 0;
+  const ProgramRun group(compile("Both.vbg"), [&](Streams& streams) {
+    streams.isInterrupted = [&] { return ++pumps == 2; };
+  });
+  EXPECT_EQ(group.status, 1);
+  EXPECT_EQ(group.out, "Project: One\nProject: Two\n") << "each message is printed once";
+  EXPECT_TRUE(folder_.has("out/Two.p"));
+  EXPECT_FALSE(folder_.has("out/One.p"));
+}
+
+TEST_F(TerminalTest, OpensTheDocumentationOrTellsThatItCannot) {
+  folder_.put("bin/xdg-open", "#!/bin/sh\necho \"$1\" > " + (folder_ / "opened") + "\n");
+  std::filesystem::permissions(folder_ / "bin/xdg-open", std::filesystem::perms::owner_all);
+  const std::string path = ::getenv("PATH");
+  ::setenv("PATH", ((folder_ / "bin:") + path).c_str(), 1);
+  std::vector<std::string> arguments = compile("One.vbp");
+  arguments.push_back("--open");
+  EXPECT_EQ(ProgramRun(arguments).status, 0);
+  EXPECT_EQ(folder_.get("opened"), (folder_ / "out/One.p") + "\n");
+  folder_.put("t.tmkt", "$tamrik-help-file$\ngone.chm\n$end-tamrik-help-file$\n");
+  const ProgramRun failed(arguments);
+  EXPECT_EQ(failed.status, 1);
+  EXPECT_EQ(failed.err, "Error while showing documentation: Cannot show the \"gone.chm\" file\n");
+  ::setenv("PATH", path.c_str(), 1);
+}
+
+TEST(Questions, AreAnsweredByFirstLetterOrWord) {
+  EXPECT_EQ(promptFor(MessageButtons::yesNoCancel), "[Y]es, [N]o, [C]ancel? ");
+  EXPECT_EQ(readAnswer("n", MessageButtons::yesNoCancel), MessageAnswer::no);
+  EXPECT_EQ(readAnswer("YES ", MessageButtons::yesNo), MessageAnswer::yes);
+  EXPECT_EQ(readAnswer("c", MessageButtons::yesNo), std::nullopt);
+  EXPECT_EQ(answerOfNobody(MessageButtons::yesNo), MessageAnswer::no);
+  EXPECT_EQ(answerOfNobody(MessageButtons::yesNoCancel), MessageAnswer::cancel);
+}
+
+TEST(InterruptWatch, NotesOneCtrlCAndForgetsItWhenAsked) {
+  InterruptWatch watch;
+  EXPECT_FALSE(watch.take());
+  for (int n = 0; n < 2; ++n) {
+    ::raise(SIGINT);
+    EXPECT_TRUE(watch.take());
+    EXPECT_FALSE(watch.take());
+  }
+}
+
+}  // namespace
+}  // namespace tamrikon
