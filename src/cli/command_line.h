@@ -3,7 +3,7 @@
 #pragma once
 
 #include <functional>
-#include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -11,12 +11,15 @@
 namespace tamrikon {
 
 struct Streams {
+  Streams(std::ostream& output, std::ostream& errors) : out(output), err(errors) {}
+
   std::ostream& out;
   std::ostream& err;
   bool errIsTerminal = false;  // whether a status line makes sense
 
-  /// Where somebody answers what is asked on `err`; null if there is nobody.
-  std::istream* in = nullptr;
+  /// Waits for the line that somebody answers to what is asked on `err`; nothing if that was ended
+  /// by Ctrl+C or there is no more. Empty if there is nobody to ask.
+  std::function<std::optional<std::string>()> readLine;
 
   /// Whether Ctrl+C was pressed since this was asked last.
   std::function<bool()> isInterrupted = [] { return false; };

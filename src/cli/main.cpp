@@ -9,8 +9,9 @@
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
   tamrikon::InterruptWatch interrupts;
-  tamrikon::Streams streams{std::cout, std::cerr, tamrikon::errorStreamIsTerminal()};
-  if (tamrikon::canAskOnTerminal()) streams.in = &std::cin;
+  tamrikon::Streams streams(std::cout, std::cerr);
+  streams.errIsTerminal = tamrikon::errorStreamIsTerminal();
+  if (tamrikon::canAskOnTerminal()) streams.readLine = tamrikon::readTerminalLine;
   streams.isInterrupted = [&] { return interrupts.take(); };
   return tamrikon::runTamrikon(std::vector<std::string>(argv + 1, argv + argc), streams);
 }

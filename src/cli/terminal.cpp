@@ -151,19 +151,18 @@ void Terminal::complain(const std::string& text) {
 
 MessageAnswer Terminal::messageBox(const MessageBox& box) {
   complain(box.title + ": " + withLineFeeds(box.text));
-  return streams_.in == nullptr ? answerOfNobody(box.buttons) : ask(box);
+  return streams_.readLine ? ask(box) : answerOfNobody(box.buttons);
 }
 
 MessageAnswer Terminal::ask(const MessageBox& box) {
   if (box.buttons == MessageButtons::ok) return MessageAnswer::ok;
-  std::string line;
   for (;;) {
     streams_.err << promptFor(box.buttons) << std::flush;
-    if (!std::getline(*streams_.in, line)) break;
-    if (const auto answer = readAnswer(line, box.buttons)) return *answer;
+    const std::optional<std::string> line = streams_.readLine();
+    if (!line) break;
+    if (const auto answer = readAnswer(*line, box.buttons)) return *answer;
   }
-  // The end of the input, or Ctrl+C: a later question may still be answered.
-  streams_.in->clear();
+  streams_.isInterrupted();  // Ctrl+C has had its effect
   streams_.err << '\n' << std::flush;
   return answerOfNobody(box.buttons);
 }

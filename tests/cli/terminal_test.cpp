@@ -42,7 +42,12 @@ TEST_F(TerminalTest, AsksUntilAnAnswerIsOneAndActsOnIt) {
   const std::string box = "Error saving " + page + " file: Unrecognized file error.\n";
   const std::string ask = "[R]etry, [C]ancel? ";
   const auto answer = [&](std::istringstream input) {
-    return ProgramRun(compile("One.vbp"), [&](Streams& streams) { streams.in = &input; });
+    return ProgramRun(compile("One.vbp"), [&](Streams& streams) {
+      streams.readLine = [&]() -> std::optional<std::string> {
+        std::string line;
+        return std::getline(input, line) ? std::optional(line) : std::nullopt;
+      };
+    });
   };
   const ProgramRun asked = answer(std::istringstream("what\nr\n CANCEL \n"));
   EXPECT_EQ(asked.status, 1);

@@ -18,7 +18,7 @@ struct ProgramRun {
   ProgramRun(const std::vector<std::string>& arguments, SetUp setUp) {
     std::ostringstream outStream;
     std::ostringstream errStream;
-    Streams streams{outStream, errStream};
+    Streams streams(outStream, errStream);
     setUp(streams);
     status = runTamrikon(arguments, streams);
     out = outStream.str();
