@@ -19,4 +19,9 @@ Session::Session(Toolkit& dialogToolkit, FileSystem& fileSystem, ProcessServices
 
 Session::~Session() = default;
 
+void Session::loadProjectSettings(VBE& ide) {
+  if (codePageOf) files.setCodePage(codePageOf(ide.ActiveVBProject()));
+  settingsFile.loadProjectSettings(ide);
+}
+
 }  // namespace tamrikon

@@ -2,6 +2,7 @@
 // that is handed down by reference. Two sessions can live side by side.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -44,6 +45,12 @@ class Session {
   TextFiles files;
   ProjectSettings settings;
   SettingsFile settingsFile;
+
+  /// Where the code page of a project comes from; empty: that of `files` stays.
+  std::function<const CodePage&(const VBProject&)> codePageOf;
+
+  /// Makes code page and settings those of the IDE's active project.
+  void loadProjectSettings(VBE& ide);
 
   /// The store of the last compile: its macros can still answer.
   std::unique_ptr<store> currentStore;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/host_module.h"
+#include "host/project_event_sources.h"
 
 namespace tamrikon {
 namespace {
@@ -11,16 +12,6 @@ class NoCommandBars final : public CommandBars {
  public:
   CommandBar* Item(const std::string&) const override { return nullptr; }
   CommandBar* Item(int) const override { return nullptr; }
-};
-
-class NoEvents final : public Events {
- public:
-  std::unique_ptr<tamrikon::CommandBarEvents> CommandBarEvents(CommandBarControl*) override {
-    throw IdeError("there are no command bars");
-  }
-  std::unique_ptr<tamrikon::VBProjectsEvents> VBProjectsEvents() override {
-    return std::make_unique<tamrikon::VBProjectsEvents>();
-  }
 };
 
 }  // namespace
@@ -68,8 +59,20 @@ class UnseenScreen::MainWindow final : public Window {
   std::uintptr_t HWnd() const override { return 0; }
 };
 
+class UnseenScreen::ProjectEvents final : public tamrikon::Events {
+ public:
+  std::unique_ptr<tamrikon::CommandBarEvents> CommandBarEvents(CommandBarControl*) override {
+    throw IdeError("there are no command bars");
+  }
+  std::unique_ptr<tamrikon::VBProjectsEvents> VBProjectsEvents() override { return sources.make(); }
+
+  ProjectEventSources sources;
+};
+
 UnseenScreen::UnseenScreen()
-    : windows_(std::make_unique<OpenWindows>(open_)), main_(std::make_unique<MainWindow>()) {}
+    : windows_(std::make_unique<OpenWindows>(open_)),
+      main_(std::make_unique<MainWindow>()),
+      events_(std::make_unique<ProjectEvents>()) {}
 
 UnseenScreen::~UnseenScreen() = default;
 
@@ -115,8 +118,11 @@ tamrikon::CommandBars& UnseenScreen::commandBars() {
 }
 
 tamrikon::Events& UnseenScreen::events() {
-  static NoEvents none;
-  return none;
+  return *events_;
+}
+
+void UnseenScreen::projectActivated(VBProject& project) {
+  events_->sources.projectActivated(project);
 }
 
 }  // namespace tamrikon

@@ -1,5 +1,4 @@
-// A screen that nobody sees: its panes keep what they are told, and there are no bars and no
-// events.
+// A screen that nobody sees: its panes keep what they are told, and there are no bars.
 #pragma once
 
 #include <map>
@@ -20,7 +19,7 @@ class UnseenScreen final : public HostScreen {
   CodePane& codePane(HostModule& module) override;
   CodePane* activeCodePane() override;
   void setActiveCodePane(CodePane& pane) override;
-  void projectActivated(VBProject&) override {}
+  void projectActivated(VBProject& project) override;
 
   tamrikon::Windows& windows() override;
   Window* activeWindow() override;
@@ -31,6 +30,7 @@ class UnseenScreen final : public HostScreen {
  private:
   class OpenWindows;
   class MainWindow;
+  class ProjectEvents;
   friend class UnseenPane;
 
   void bringToFront(UnseenPane& pane);
@@ -39,6 +39,7 @@ class UnseenScreen final : public HostScreen {
   std::vector<UnseenPane*> open_;  // the one in front is the last
   std::unique_ptr<OpenWindows> windows_;
   std::unique_ptr<MainWindow> main_;
+  std::unique_ptr<ProjectEvents> events_;
 };
 
 }  // namespace tamrikon
