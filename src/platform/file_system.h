@@ -39,6 +39,9 @@ class FileSystem {
   /// Whether a file of that name is there: no folder, device or pipe, which may never end.
   virtual bool isFile(const std::string& path) = 0;
 
+  /// Whether a folder of that name is there, or a link to one.
+  virtual bool isFolder(const std::string& path) = 0;
+
   /// The names in a folder, in no particular order; empty if it can't be read.
   virtual std::vector<std::string> list(const std::string& folder) = 0;
 

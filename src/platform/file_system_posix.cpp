@@ -183,6 +183,11 @@ class PosixFileSystem final : public FileSystem {
     return ::stat(checkedPath(path).c_str(), &status) == 0 && S_ISREG(status.st_mode);
   }
 
+  bool isFolder(const std::string& path) override {
+    struct stat status {};
+    return ::stat(checkedPath(path).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+  }
+
   std::vector<std::string> list(const std::string& folder) override {
     std::vector<std::string> names;
     std::error_code failure;

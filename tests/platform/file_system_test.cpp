@@ -6,6 +6,7 @@
 
 #include <filesystem>
 
+#include "platform/folder_listing.h"
 #include "support/temp_folder.h"
 
 namespace tamrikon {
@@ -87,6 +88,24 @@ TEST(FileSystem, IsFileTakesOnlyWhatEnds) {
   EXPECT_FALSE(nativeFileSystem().isFile(folder / ""));
   EXPECT_FALSE(nativeFileSystem().isFile(folder / "pipe"));
   EXPECT_FALSE(nativeFileSystem().isFile(folder / std::string("file\0x", 6)));
+}
+
+TEST(FileSystem, FoldersAndFilesAreListedApart) {
+  const test::TempFolder folder;
+  for (const char* name : {"b/x", "A/x", "c.txt", "a.txt"}) folder.put(name, "");
+  std::filesystem::create_directory_symlink(folder / "A", folder / "link");
+  std::filesystem::create_symlink(folder / "gone", folder / "broken");
+  FileSystem& files = nativeFileSystem();
+  using Names = std::vector<std::string>;
+  for (const std::string& path : {folder.path(), folder / "", folder.path() + "\\"}) {
+    EXPECT_EQ(foldersIn(files, path), (Names{"A", "b", "link"})) << path;
+    EXPECT_EQ(filesIn(files, path), (Names{"a.txt", "c.txt"})) << path;
+  }
+  for (const std::string& path : {folder / "c.txt", folder / "gone", std::string()}) {
+    EXPECT_FALSE(files.isFolder(path)) << path;
+    EXPECT_EQ(foldersIn(files, path), Names{}) << path;
+    EXPECT_EQ(filesIn(files, path), Names{}) << path;
+  }
 }
 
 }  // namespace
