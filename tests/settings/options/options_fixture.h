@@ -1,0 +1,79 @@
+// The Options dialog over projects on disk, with somebody who opens it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "base/text.h"
+#include "host/host_ide.h"
+#include "settings/options/frm_add_in.h"
+#include "support/scripted_toolkit.h"
+#include "support/temp_folder.h"
+
+namespace tamrikon::test {
+
+class OptionsFixture : public testing::Test {
+ protected:
+  OptionsFixture() {
+    for (const char* name : {"Alpha.bas", "Beta.bas", "Gamma.bas", "Notes.txt"}) {
+      folder_.put(name, "");
+    }
+    folder_.put("Shop.vbp",
+                "Name=\"Shop\"\nModule=Alpha; Alpha.bas\nRelatedDoc=Notes.txt\n"
+                "Module=Beta; Beta.bas\nModule=Gamma; Gamma.bas\n");
+    folder_.put("data/Templates/chm.tmkt",
+                "$tamrik-description$\nfirst\nline\n$end-tamrik-description$\n");
+    open("Shop.vbp");
+  }
+
+  void open(const std::string& project) {
+    std::string why;
+    ide_ = HostIde::open(
+        nativeFileSystem(), folder_ / project, nullptr, [](const std::string&) {}, why);
+    ASSERT_TRUE(ide_) << why;
+    dialog_.VBInstance = ide_.get();
+    session_.settingsFile.setDefaultSettings(*ide_);
+  }
+
+  /// Fills and shows the dialog with a tab in front; the script closes it.
+  void show(const std::string& tab, const std::function<void(User&)>& script) {
+    dialog_.fillValues();
+    dialog_.tbsOptions.select(tab);
+    toolkit_.onDialog("frmAddIn", script);
+    dialog_.showModal();
+  }
+
+  /// The value of `key` in the settings file; of comModules, all names.
+  std::string saved(const std::string& key) {
+    std::string values;
+    const std::string text = replaceAll(folder_.get("Shop.tamrik"), "\r\n", "\n");
+    for (const std::string_view line : split(text, '\n')) {
+      if (!line.starts_with(key + " = ")) continue;
+      values += (values.empty() ? "" : ",") + std::string(line.substr(key.size() + 3));
+    }
+    return values;
+  }
+
+  struct Owner final : OptionsOwner {
+    explicit Owner(frmAddIn& shown) : dialog(shown) { dialog.connect = this; }
+    void Hide() override {
+      onHide();
+      dialog.close();
+    }
+    frmAddIn& dialog;
+    std::function<void()> onHide = [] {};
+  };
+
+  TempFolder folder_;
+  ScriptedToolkit toolkit_;
+  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), folder_ / "data"};
+  frmAddIn dialog_{session_};
+  Owner owner_{dialog_};
+  std::unique_ptr<HostIde> ide_;
+};
+
+}  // namespace tamrikon::test
