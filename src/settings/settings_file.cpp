@@ -12,7 +12,6 @@
 namespace tamrikon {
 namespace {
 
-constexpr std::string_view kHeader = "#Tamrikon Project Settings#";
 constexpr std::string_view kModulesKey = "comModules";
 
 bool holdsCode(ComponentType type) {
@@ -88,7 +87,7 @@ int SettingsFile::readSettingsFile(VBE& ide, bool silent) {
     const FileErrorAnswer answer = files_.ask(path, "reading", FileError::pastEndOfFile, silent);
     return answer == FileErrorAnswer::giveUp ? 2 : 3;
   }
-  if (lines.front() != kHeader) return 1;
+  if (lines.front() != kSettingsHeader) return 1;
   for (std::size_t n = 1; n < lines.size(); ++n) {
     const int outcome = applyLine(lines[n], path, modules, silent);
     if (outcome != 0) return outcome;
@@ -170,7 +169,7 @@ std::string SettingsFile::settingsLines() const {
 int SettingsFile::writeSettingsFile(VBE& ide) {
   std::string path;
   if (!tryStep([&] { path = settingsFilePath(ide); })) return 0;
-  return files_.replaceTextFile(path, std::string(kHeader) + "\r" + settingsLines(), false);
+  return files_.replaceTextFile(path, std::string(kSettingsHeader) + "\r" + settingsLines(), false);
 }
 
 std::string SettingsFile::settingsFilePath(VBE& ide) {

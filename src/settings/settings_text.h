@@ -8,6 +8,9 @@
 
 namespace tamrikon {
 
+/// The first line of a settings file.
+constexpr std::string_view kSettingsHeader = "#Tamrikon Project Settings#";
+
 /// "1" for true, "0" for false.
 std::string_view settingFromBool(bool value);
 

@@ -13,8 +13,6 @@
 namespace tamrikon {
 namespace {
 
-constexpr std::string_view kHeader = "#Tamrikon Project Settings#";
-
 std::vector<SettingField> userTagFields(ProjectSettings& settings) {
   std::vector<SettingField> fields = settingFields(settings);
   fields.erase(std::remove_if(fields.begin(), fields.end(),
@@ -52,7 +50,7 @@ int importUserTags(TextFiles& files, const std::string& path, ProjectSettings& s
     if (answer == FileErrorAnswer::giveUp) return 2;
     if (answer == FileErrorAnswer::fail) return 3;
   }
-  if (lines.front() != kHeader) return 1;
+  if (lines.front() != kSettingsHeader) return 1;
   const std::vector<SettingField> fields = userTagFields(settings);
   for (std::size_t n = 1; n < lines.size(); ++n) {
     const std::size_t sign = lines[n].find('=');
