@@ -15,16 +15,15 @@ std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& te
   return ide;
 }
 
-bool activateProject(Session& session, HostIde& ide, VBProject& project, Terminal& terminal) {
+void activateProject(Session& session, HostIde& ide, VBProject& project, Terminal& terminal) {
   ide.activate(project);
   session.files.setCodePage(ide.codePageOf(project));
   const std::string path = SettingsFile::settingsFilePath(ide);
   if (session.settingsFile.readProjectSettings(ide) || !session.files.files().isFile(path)) {
-    return true;
+    return;
   }
   terminal.complain("warning: " + path +
                     " isn't a settings file that can be used; the defaults hold");
-  return false;
 }
 
 }  // namespace tamrikon

@@ -14,7 +14,7 @@ namespace tamrikon {
 std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& terminal);
 
 /// Makes `project` the active one and reads its settings. A settings file that is there but can't
-/// be used is told on the error stream, and false is returned; the defaults hold then.
-bool activateProject(Session& session, HostIde& ide, VBProject& project, Terminal& terminal);
+/// be used is told on the error stream; the defaults hold then.
+void activateProject(Session& session, HostIde& ide, VBProject& project, Terminal& terminal);
 
 }  // namespace tamrikon

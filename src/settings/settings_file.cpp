@@ -68,9 +68,11 @@ void SettingsFile::createOutputFolder() {
 }
 
 bool SettingsFile::readProjectSettings(VBE& ide) {
+  unusable_.clear();
   setDefaultSettings(ide);
   if (readSettingsFile(ide, true) == 0) return true;
   setDefaultSettings(ide);
+  tryStep([&] { unusable_ = settingsFilePath(ide); });
   return false;
 }
 
@@ -169,7 +171,31 @@ std::string SettingsFile::settingsLines() const {
 int SettingsFile::writeSettingsFile(VBE& ide) {
   std::string path;
   if (!tryStep([&] { path = settingsFilePath(ide); })) return 0;
+  keptAs_.clear();
+  if (path == unusable_ && files_.files().isFile(path)) {
+    const int result = keepUnusable(path);
+    if (result != 0) return result;
+  }
+  unusable_.clear();
   return files_.replaceTextFile(path, std::string(kSettingsHeader) + "\r" + settingsLines(), false);
+}
+
+int SettingsFile::keepUnusable(const std::string& path) {
+  const std::string backup = path + ".bak";
+  std::string bytes;
+  for (;;) {
+    FileError error = files_.files().read(path, bytes);
+    if (error == FileError::none) error = files_.files().replaceAtomically(backup, bytes);
+    if (error == FileError::none) break;
+    switch (files_.ask(backup, "saving", error, false)) {
+      case FileErrorAnswer::repeat: continue;
+      case FileErrorAnswer::goOn: return 0;
+      case FileErrorAnswer::giveUp: return 1;
+      case FileErrorAnswer::fail: return 2;
+    }
+  }
+  keptAs_ = backup;
+  return 0;
 }
 
 std::string SettingsFile::settingsFilePath(VBE& ide) {

@@ -37,8 +37,13 @@ class SettingsFile {
   int readSettingsFile(VBE& ide, bool silent);
 
   /// Writes the file whole, a failure leaving the old one; what writeTextFile returns. A project
-  /// that was never saved has no place for it, and nothing is written.
+  /// that was never saved has no place for it, and nothing is written. The text of a file that
+  /// couldn't be taken when the settings were read is kept first, under the same name with ".bak"
+  /// behind it.
   int writeSettingsFile(VBE& ide);
+
+  /// The file that the last write kept such a text in; empty if it kept none.
+  const std::string& keptAs() const { return keptAs_; }
 
   /// Sets one field from the text of a settings line. `modules` are the modules that a comModules
   /// line may name; other names are passed over.
@@ -56,6 +61,7 @@ class SettingsFile {
   std::string defaultOutputFolder(VBE& ide) const;
 
  private:
+  int keepUnusable(const std::string& path);
   int applyLine(std::string_view line, const std::string& path,
                 const KeyedList<CodeModule*>& modules, bool silent);
   void setTemplateDefaults();
@@ -64,6 +70,8 @@ class SettingsFile {
   ProjectSettings& settings_;
   const std::string& addInFolder_;
   TextFiles& files_;
+  std::string unusable_;  // the file that was there and couldn't be taken
+  std::string keptAs_;
 };
 
 }  // namespace tamrikon

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "base/text.h"
 #include "support/program_run.h"
 #include "support/temp_folder.h"
@@ -104,6 +106,12 @@ TEST_F(SettingsCommandTest, KeepsTheTextOfAFileThatItCannotUse) {
   EXPECT_NE(run.err.find("DEMO.tamrik isn't a settings file"), std::string::npos);
   EXPECT_EQ(folder_.get("DEMO.tamrik.bak"), "somebody's notes");
   EXPECT_EQ(valueOf("addSee"), "0");
+  EXPECT_EQ(ProgramRun({"settings", project_, "addSee=1"}).err, "") << "it is a good one now";
+  folder_.put("DEMO.tamrik", "more notes");
+  std::filesystem::remove(folder_ / "DEMO.tamrik.bak");
+  folder_.put("DEMO.tamrik.bak/in the way", "");
+  EXPECT_EQ(ProgramRun({"settings", project_, "addSee=0"}).status, 1);
+  EXPECT_EQ(folder_.get("DEMO.tamrik"), "more notes");
 }
 
 TEST_F(SettingsCommandTest, FindsTheTemplateInItsFolderOrFallsBack) {
