@@ -2,11 +2,11 @@
 
 #include "base/paths.h"
 #include "cli/commands.h"
-#include "cli/data_folder.h"
 #include "cli/project_opening.h"
 #include "cli/setting_overrides.h"
 #include "cli/terminal.h"
 #include "compiler/group_compile.h"
+#include "platform/data_folder.h"
 
 namespace tamrikon {
 namespace {

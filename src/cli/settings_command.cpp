@@ -1,9 +1,9 @@
 #include "base/text.h"
 #include "cli/commands.h"
-#include "cli/data_folder.h"
 #include "cli/project_opening.h"
 #include "cli/setting_overrides.h"
 #include "compiler/store.h"
+#include "platform/data_folder.h"
 
 namespace tamrikon {
 int settingsCommand(const SettingsOptions& options, const Streams& streams) {

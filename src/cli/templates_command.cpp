@@ -5,10 +5,10 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "cli/commands.h"
-#include "cli/data_folder.h"
 #include "cli/terminal.h"
 #include "compiler/store.h"
 #include "compiler/template_description.h"
+#include "platform/data_folder.h"
 
 namespace tamrikon {
 namespace {

@@ -1,4 +1,4 @@
-#include "cli/data_folder.h"
+#include "platform/data_folder.h"
 
 #include "base/paths.h"
 #include "platform/file_system.h"
