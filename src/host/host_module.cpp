@@ -56,11 +56,20 @@ void HostModule::InsertLines(int line, const std::string& text) {
   source_.file().insertLines(line, text);
 }
 
-void HostModule::DeleteLines(int start, int count) {
+void HostModule::requireLines(int start, int count) const {
   if (start < 1 || count < 0 || start > CountOfLines() + 1 || count > CountOfLines() - start + 1) {
     throw IdeError("no such line");
   }
+}
+
+void HostModule::DeleteLines(int start, int count) {
+  requireLines(start, count);
   source_.file().deleteLines(start, count);
+}
+
+void HostModule::replaceLines(int first, int count, const std::string& text, EditKind kind) {
+  requireLines(first, count);
+  source_.file().replaceLines(first, count, text, kind);
 }
 
 std::string HostModule::ProcOfLine(int line, ProcKind& kind) const {

@@ -43,6 +43,41 @@ class HostModule final : public CodeModule {
   int ProcCountLines(const std::string& name, ProcKind kind) const override;
   int ProcBodyLine(const std::string& name, ProcKind kind) const override;
 
+  // For people who edit. What they do goes to the source, and so do its undo steps: all modules
+  // over it share them. InsertLines, DeleteLines and the writing of descriptions and help context
+  // IDs are steps too.
+
+  /// Replaces `count` lines by those of `text`, divided as InsertLines does; with 0, inserts before
+  /// `first`, which may be one past the last line. Lines that stay the same are left alone, byte
+  /// for byte. A line that is changed in its place keeps the hidden attribute lines behind it, and
+  /// so do the parts of one that is divided or joined; those of lines that go, go with them, and
+  /// come back with undo(). Other than with InsertLines, all of `text` is visible, also a line that
+  /// begins with "Attribute": somebody may be typing it. It becomes a hidden one when the file is
+  /// read again. Fails, and changes nothing, unless all of the lines are there.
+  void replaceLines(int first, int count, const std::string& text, EditKind kind = EditKind::step);
+
+  /// Each step back or forth restores exactly what was there, hidden lines and line ends included.
+  /// False if there is nothing to undo or redo, and while an EditGroup lives.
+  bool undo() { return file().undo(); }
+  bool redo() { return file().redo(); }
+  bool canUndo() const { return file().history().canUndo(); }
+  bool canRedo() const { return file().history().canRedo(); }
+
+  /// Ends a run of EditKind::typing: the next keystroke begins a step of its own. Any other edit,
+  /// an undo and a save end it too.
+  void endTyping() { file().history().endTyping(); }
+
+  /// The observer is told of all changes of the source until it stops, which it must do before it
+  /// dies.
+  void observe(SourceObserver& observer) { file().observers().add(observer); }
+  void stopObserving(SourceObserver& observer) { file().observers().remove(observer); }
+
+  /// Whether the source differs from what was read or saved last.
+  bool isChanged() const { return file().isChanged(); }
+
+  /// Absolute path of the source.
+  const std::string& path() const { return source_.path(); }
+
   /// Of the lines as they are: made when it is first asked for, and again after an edit.
   const ModuleAnalysis& analysis() const;
   MemberAttributes& attributes() const { return source_.attributes(); }
@@ -55,6 +90,8 @@ class HostModule final : public CodeModule {
     int count;
   };
   Place placeOf(const std::string& name, ProcKind kind) const;
+  SourceFile& file() const { return source_.file(); }
+  void requireLines(int start, int count) const;
 
   HostComponent& component_;
   Source& source_;
@@ -63,6 +100,23 @@ class HostModule final : public CodeModule {
   mutable HostMembers members_;
   mutable std::unique_ptr<ModuleAnalysis> analysis_;
   mutable unsigned revision_ = 0;  // of the source when analysis_ was made
+
+  friend class EditGroup;
+};
+
+/// As long as one lives, all edits of the module's source are one undo step. A group within a group
+/// is a part of it; a save divides the step.
+class EditGroup {
+ public:
+  explicit EditGroup(HostModule& module) : history_(module.file().history()) {
+    history_.beginGroup();
+  }
+  ~EditGroup() { history_.endGroup(); }
+  EditGroup(const EditGroup&) = delete;
+  EditGroup& operator=(const EditGroup&) = delete;
+
+ private:
+  EditHistory& history_;
 };
 
 }  // namespace tamrikon

@@ -37,4 +37,16 @@ LineEnd firstLineEnd(std::string_view text) {
   return reader.next() && reader.end() != LineEnd::none ? reader.end() : LineEnd::crLf;
 }
 
+std::vector<std::string_view> dividedLines(std::string_view text) {
+  std::vector<std::string_view> lines;
+  LineReader reader(text);
+  bool endsInLine = false;
+  while (reader.next()) {
+    lines.push_back(reader.line());
+    endsInLine = reader.end() == LineEnd::none;
+  }
+  if (!endsInLine) lines.push_back(text.substr(text.size()));
+  return lines;
+}
+
 }  // namespace tamrikon

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace tamrikon {
 
@@ -41,5 +42,9 @@ class LineReader {
 
 /// How the first line of `text` ends; CR LF if it has no line end.
 LineEnd firstLineEnd(std::string_view text);
+
+/// The lines of a text that is put into others: a line end at its end divides too, so that an empty
+/// line follows it. At least one line; all are views into `text`.
+std::vector<std::string_view> dividedLines(std::string_view text);
 
 }  // namespace tamrikon

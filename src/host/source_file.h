@@ -2,27 +2,23 @@
 // behind them. What isn't edited is saved byte for byte.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/edit_history.h"
 #include "host/line_reader.h"
+#include "host/source_observers.h"
+#include "host/source_records.h"
+#include "host/source_writer.h"
 #include "platform/code_page.h"
-#include "platform/text_decoding.h"
 
 namespace tamrikon {
 
-/// A character that stands in the way of a save.
-struct LackingCharacter {
-  int line = 0;  // in the file as it would have been written, its head included
-  char32_t codePoint = 0;
-};
-
-/// Line numbers count visible lines from 1. Callers keep them within lineCount().
+/// Line numbers count visible lines from 1. Callers keep them within lineCount(). Each operation
+/// that changes something is one undo step, or a part of the group's.
 class SourceFile {
  public:
   /// `page` is for bytes that aren't UTF-8. It must outlive the file.
@@ -30,9 +26,13 @@ class SourceFile {
   SourceFile(const SourceFile&) = delete;
   SourceFile& operator=(const SourceFile&) = delete;
 
+  /// Takes other bytes in place of all that it holds, in the same code page; the history is
+  /// cleared.
+  void reload(std::string bytes);
+
   int lineCount() const { return static_cast<int>(lines_.size()); }
 
-  /// The visible lines. The views hold as long as the file, also across edits.
+  /// The visible lines. The views hold until the next edit.
   const std::vector<std::string_view>& lines() const { return lines_; }
 
   /// `count` lines from `first` on, CR LF between them.
@@ -48,11 +48,25 @@ class SourceFile {
   /// Deletes lines with the hidden lines behind them.
   void deleteLines(int first, int count);
 
-  /// Grows with every edit of visible lines.
+  /// Puts `text`, divided as for insertLines, in place of `count` lines, as a person does who edits
+  /// them: a line that is the same stays untouched, one that is changed in its place keeps its line
+  /// end and the hidden lines behind it, and so do the parts of a line that is divided or joined.
+  /// All lines of `text` are visible, also those that begin as attributes do.
+  void replaceLines(int first, int count, std::string_view text, EditKind kind = EditKind::step);
+
+  /// False if there is nothing to undo or redo.
+  bool undo();
+  bool redo();
+
+  /// Its own operations for groups, the end of typing and what can be undone.
+  EditHistory& history() { return history_; }
+  SourceObservers& observers() { return observers_; }
+
+  /// Grows with every edit of visible lines, and with all that may take attributes away.
   unsigned revision() const { return revision_; }
 
   // Attributes: each is one hidden line with the lines that continue it. They are known by a number
-  // that stays until visible lines are deleted.
+  // that stays as long as the revision.
 
   /// The numbers of the attributes behind visible line `line`; those of the head for line 0.
   const std::vector<std::uint32_t>& attributesBehind(int line) const;
@@ -63,50 +77,49 @@ class SourceFile {
   /// of the head. Returns its number.
   std::uint32_t addAttribute(int line, std::string text);
 
-  bool isChanged() const { return changed_; }
-  void setSaved() { changed_ = false; }
+  /// Whether it differs from what was read or saved last.
+  bool isChanged() const { return history_.isChanged(); }
+  void setSaved();
 
-  /// The file's bytes, or nothing if its code page lacks a character that was put in.
+  /// The file's bytes, or nothing if its code page lacks a character that was put in. Attributes
+  /// behind a line that an edit has made run on in the next one go behind the end of the statement.
   std::optional<std::string> bytes(LackingCharacter& lacking) const;
 
-  const CodePage& page() const { return page_; }
+  const CodePage& page() const { return format_.page; }
 
  private:
-  class Writer;
+  class SavedStateWatch;
 
-  // `origin` is the number, from 0, of the line's first physical line in the file as it was read.
-  static constexpr std::uint32_t kNew = UINT32_MAX;
-  struct LineTail {
-    std::uint32_t origin = kNew;
-    std::uint32_t group = 0;  // into groups_; 0 for a line without attributes behind it
-    LineEnd end = LineEnd::none;
-  };
-  struct Attribute {
-    std::string_view text;  // with the line ends between its physical lines
-    std::uint32_t origin = kNew;
-    LineEnd end = LineEnd::none;
-  };
-
+  void read(std::string bytes);
   void readLines(std::size_t attributesStart, std::size_t codeStart);
   std::uint32_t groupBehind(LineTail& tail);
-  std::uint32_t addAttributeTo(std::uint32_t group, const Attribute& attribute);
-  std::string_view keep(std::string text);
+  std::uint32_t newAttribute(const SourceAttribute& attribute);
 
-  const CodePage& page_;
-  TextEncoding encoding_ = TextEncoding::codePage;
+  std::vector<SourceLine> replacement(int first, int count, std::string_view text, EditStep& step);
+  void joinAttributes(LineTail& tail, const LineTail& joined, EditStep& step);
+  void retype(EditStep& step, int line, std::string_view text);
+  void insertNumbers(EditStep& step, std::uint32_t group, std::size_t index,
+                     std::vector<std::uint32_t> numbers);
+  void apply(EditStep& step, SourceChange change);
+  void swap(LinesChange& change);
+  void swap(GroupChange& change);
+  void swap(AttributeChange& change);
+  void tell(const SourceChange& change);
+  bool runsOn(std::size_t index, bool ranOn) const;
+
+  SourceFormat format_;
   std::string text_;
   std::string raw_;  // the bytes that were read, where encoding text_ again might give others
-  LineEnd newLineEnd_ = LineEnd::crLf;
   std::string_view headBlock_;  // what stands before the head's attributes
   LineEnd headBlockEnd_ = LineEnd::none;
   std::string_view blockClass_;
   std::vector<std::string_view> lines_;
   std::vector<LineTail> tails_;  // beside lines_
-  std::vector<Attribute> attributes_;
-  std::vector<std::vector<std::uint32_t>> groups_{1};  // the first is that of the head
-  std::deque<std::string> edits_;                      // texts that didn't come from the file
+  std::vector<SourceAttribute> attributes_;
+  std::vector<std::vector<std::uint32_t>> groups_;  // of attributes; the first is that of the head
+  EditHistory history_;
+  SourceObservers observers_;
   unsigned revision_ = 0;
-  bool changed_ = false;
 };
 
 }  // namespace tamrikon
