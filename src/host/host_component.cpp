@@ -1,20 +1,35 @@
 #include "host/host_component.h"
 
+#include <utility>
+
 #include "base/case_folding.h"
+#include "base/paths.h"
 #include "host/names.h"
 
 namespace tamrikon {
 
+bool hasCode(ComponentType type) {
+  return type != ComponentType::resourceFile && type != ComponentType::relatedDocument;
+}
+
 HostComponent::HostComponent(HostProject& project, ComponentType type, const std::string& name,
-                             Source* source, const ConditionalConstants& constants)
-    : project_(project), type_(type) {
-  if (source == nullptr) return;
-  if (type == ComponentType::form && equalIgnoringCase(source->file().blockClass(), "VB.MDIForm")) {
-    type_ = ComponentType::mdiForm;
-  }
-  const std::string ownName = source->attributes().moduleName();
-  module_ = std::make_unique<HostModule>(
-      *this, *source, identifierFrom(ownName.empty() ? name : ownName), constants);
+                             ComponentFile file, const ConditionalConstants& constants)
+    : project_(project),
+      type_(type),
+      nameInProject_(hasCode(type) ? identifierFrom(name) : lastName(file.path)),
+      file_(std::move(file)) {
+  if (file_.source == nullptr) return;
+  module_ = std::make_unique<HostModule>(*this, *file_.source, nameInProject_, constants);
+}
+
+ComponentType HostComponent::Type() const {
+  const bool isMdi = type_ == ComponentType::form && file_.source != nullptr &&
+                     equalIgnoringCase(file_.source->file().blockClass(), "VB.MDIForm");
+  return isMdi ? ComponentType::mdiForm : type_;
+}
+
+std::string HostComponent::name() const {
+  return module_ ? module_->Name() : nameInProject_;
 }
 
 std::string HostComponent::Description() const {

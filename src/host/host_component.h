@@ -13,15 +13,25 @@ namespace tamrikon {
 
 class HostProject;
 
+/// Whether components of the type hold code; the others are files for the compiler or for people.
+bool hasCode(ComponentType type);
+
+/// Where a component is kept.
+struct ComponentFile {
+  std::string path;        // absolute; of a missing file, the one at which it was looked for first
+  bool isMissing = false;  // wasn't there or couldn't be read when the project was opened
+  Source* source = nullptr;  // decoded; null for a component without code and for a missing one
+};
+
 class HostComponent final : public VBComponent {
  public:
-  /// `source` is decoded, or null if the component has no code; `name` is the module's, unless its
-  /// source has one. Everything else must outlive the component.
-  HostComponent(HostProject& project, ComponentType type, const std::string& name, Source* source,
-                const ConditionalConstants& constants);
+  /// `name` is the module's, unless its source has one. The project, the source and the constants
+  /// must outlive the component.
+  HostComponent(HostProject& project, ComponentType type, const std::string& name,
+                ComponentFile file, const ConditionalConstants& constants);
 
-  ComponentType Type() const override { return type_; }
-  tamrikon::CodeModule* CodeModule() const override { return module_.get(); }
+  ComponentType Type() const override;
+  HostModule* CodeModule() const override { return module_.get(); }
   std::string Description() const override;
   int HelpContextID() const override;
 
@@ -31,11 +41,19 @@ class HostComponent final : public VBComponent {
 
   HostProject& project() const { return project_; }
 
+  /// The module's name, also if its file is missing; of a component that has no code by its kind,
+  /// the file's.
+  std::string name() const;
+  const std::string& path() const { return file_.path; }
+  bool isMissing() const { return file_.isMissing; }
+
  private:
   MemberAttributes& writableAttributes() const;
 
   HostProject& project_;
   ComponentType type_;
+  std::string nameInProject_;
+  ComponentFile file_;
   std::unique_ptr<HostModule> module_;
 };
 

@@ -1,10 +1,12 @@
 #include "host/host_ide.h"
 
+#include <algorithm>
 #include <cstdio>
-#include <optional>
 #include <set>
+#include <string_view>
 #include <utility>
 
+#include "base/case_folding.h"
 #include "base/paths.h"
 #include "base/utf8.h"
 #include "host/code_page_guess.h"
@@ -15,19 +17,6 @@ namespace {
 
 constexpr int kUtf8 = 65001;
 constexpr int kGroupCodePage = 1252;
-
-std::string reasonOf(FileError error) {
-  switch (error) {
-    case FileError::fileNotFound: return "there is no such file";
-    case FileError::pathNotFound: return "there is no such folder";
-    case FileError::permissionDenied: return "no permission";
-    case FileError::diskFull: return "no space on the device";
-    case FileError::deviceIo: return "input/output error";
-    case FileError::deviceUnavailable: return "no such device";
-    case FileError::badFileName: return "the name is not valid";
-    default: return "it is not a file that can be opened";
-  }
-}
 
 /// A path with a backslash keeps its style where it is absolute already.
 std::string absolutePath(FileSystem& files, const std::string& path) {
@@ -42,24 +31,25 @@ std::string lackingMessage(const CodePage& page, const LackingCharacter& lacking
          " lacks " + codePoint;
 }
 
-/// Saves `file`, a source or project file, if it has changed; a message if that fails.
+/// Saves `file`, a source or project file, if it has changed, or if the one on disk has and that
+/// shall not stand; a message if that fails.
 template <typename File>
-std::optional<std::string> save(FileSystem& files, const std::string& path, File& file,
-                                const CodePage& page) {
-  if (!file.isChanged()) return std::nullopt;
-  const std::string start = "cannot save " + path;
+std::optional<std::string> saveFile(FileSystem& files, FileOnDisk& disk, File& file,
+                                    const CodePage& page, OnConflict onConflict) {
+  const bool isNeeded =
+      file.isChanged() || (onConflict == OnConflict::overwrite && disk.isChanged(files));
+  if (!isNeeded) return std::nullopt;
   LackingCharacter lacking;
   const std::optional<std::string> bytes = file.bytes(lacking);
-  if (!bytes) return start + lackingMessage(page, lacking);
-  const FileError error = files.replaceAtomically(path, *bytes);
-  if (error != FileError::none) return start + ": " + reasonOf(error);
-  file.setSaved();
-  return std::nullopt;
+  if (!bytes) return "cannot save " + disk.path() + lackingMessage(page, lacking);
+  std::optional<std::string> failure = disk.save(files, *bytes, onConflict);
+  if (!failure) file.setSaved();
+  return failure;
 }
 
 }  // namespace
 
-VBProject& HostProjects::Item(int number) const {
+HostProject& HostProjects::Item(int number) const {
   if (number < 1 || number > Count()) throw IdeError("there is no project of that number");
   return *projects_[static_cast<std::size_t>(number - 1)];
 }
@@ -135,25 +125,74 @@ void HostIde::activate(VBProject& project) {
   screen_->projectActivated(project);
 }
 
-const CodePage& HostIde::codePageOf(const VBProject& project) const {
+HostProject& HostIde::own(const VBProject& project) const {
   for (const auto& own : projects_.projects_) {
-    if (own.get() == &project) return own->codePage();
+    if (own.get() == &project) return *own;
   }
   throw IdeError("the project is not one of this IDE's");
 }
 
-std::vector<std::string> HostIde::saveAll() {
+const CodePage& HostIde::codePageOf(const VBProject& project) const {
+  return own(project).codePage();
+}
+
+bool HostIde::isProjectFile(const std::string& path) {
+  if (!hasExtension(path)) return false;
+  const std::string_view extension = std::string_view(path).substr(path.rfind('.'));
+  return equalIgnoringCase(extension, ".vbp") || equalIgnoringCase(extension, ".vbg");
+}
+
+bool HostIde::hasUnsavedChanges() const {
+  const auto isChanged = [](const auto& entry) { return entry->file().isChanged(); };
+  const auto& sources = sources_.sources();
+  const auto& projects = projects_.projects_;
+  return std::any_of(sources.begin(), sources.end(), isChanged) ||
+         std::any_of(projects.begin(), projects.end(), isChanged);
+}
+
+std::optional<std::string> HostIde::save(HostModule& module, OnConflict onConflict) {
+  Source& source = module.source();
+  return saveFile(files_, source.disk(), source.file(), source.file().page(), onConflict);
+}
+
+std::optional<std::string> HostIde::saveProject(VBProject& project, OnConflict onConflict) {
+  HostProject& saved = own(project);
+  return saveFile(files_, saved.disk(), saved.file(), saved.codePage(), onConflict);
+}
+
+std::vector<std::string> HostIde::saveAll(OnConflict onConflict) {
   std::vector<std::string> failures;
   const auto note = [&](std::optional<std::string> failure) {
     if (failure) failures.push_back(std::move(*failure));
   };
   for (const auto& source : sources_.sources()) {
-    note(save(files_, source->path(), source->file(), source->file().page()));
+    SourceFile& file = source->file();
+    if (file.isChanged()) note(saveFile(files_, source->disk(), file, file.page(), onConflict));
   }
   for (const auto& project : projects_.projects_) {
-    note(save(files_, project->FileName(), project->file(), project->codePage()));
+    if (project->file().isChanged()) note(saveProject(*project, onConflict));
   }
   return failures;
+}
+
+bool HostIde::changedOnDisk(const HostModule& module) const {
+  return module.source().disk().isChanged(files_);
+}
+
+bool HostIde::changedOnDisk(const VBProject& project) const {
+  return own(project).disk().isChanged(files_);
+}
+
+bool HostIde::isGone(const HostModule& module) const {
+  return module.source().disk().isGone(files_);
+}
+
+bool HostIde::isGone(const VBProject& project) const {
+  return own(project).disk().isGone(files_);
+}
+
+std::optional<std::string> HostIde::reload(HostModule& module) {
+  return module.source().reload(files_);
 }
 
 }  // namespace tamrikon

@@ -3,9 +3,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "host/file_on_disk.h"
 #include "host/host_project.h"
 #include "host/source_store.h"
 #include "host/unseen_screen.h"
@@ -18,7 +20,7 @@ namespace tamrikon {
 class HostProjects final : public VBProjects {
  public:
   int Count() const override { return static_cast<int>(projects_.size()); }
-  VBProject& Item(int number) const override;
+  HostProject& Item(int number) const override;
 
  private:
   friend class HostIde;
@@ -27,7 +29,7 @@ class HostProjects final : public VBProjects {
 
 /// All objects that it hands out live as long as it does and keep their addresses: a member of a
 /// name that an edit takes away and another one brings back is the same object. Nothing is written
-/// to disk but by saveAll().
+/// to disk but by the operations that save.
 class HostIde final : public VBE {
  public:
   /// Opens a project (.vbp) or a group (.vbg). `codePage`, if it isn't null, is taken instead of
@@ -39,7 +41,7 @@ class HostIde final : public VBE {
                                        std::string& why);
 
   VBProject& ActiveVBProject() const override { return *active_; }
-  tamrikon::VBProjects& VBProjects() const override { return projects_; }
+  HostProjects& VBProjects() const override { return projects_; }
   CodePane* ActiveCodePane() const override { return screen_->activeCodePane(); }
   void setActiveCodePane(CodePane& pane) override;
   tamrikon::Windows& Windows() const override { return screen_->windows(); }
@@ -62,9 +64,34 @@ class HostIde final : public VBE {
   void activate(VBProject& project);
   const CodePage& codePageOf(const VBProject& project) const;
 
+  /// Whether `path` names a project or a group by its extension.
+  static bool isProjectFile(const std::string& path);
+
+  bool hasUnsavedChanges() const;
+
   /// Saves each source and project file that has changed. The result is a line for each one that
-  /// couldn't be saved; such a file is as it was on disk and counts as changed still.
-  std::vector<std::string> saveAll();
+  /// couldn't be saved; such a file is as it was on disk and counts as changed still. A file that
+  /// changedOnDisk() is one of those, unless `onConflict` says otherwise.
+  std::vector<std::string> saveAll(OnConflict onConflict = OnConflict::fail);
+
+  /// Save the source of one module, and the project's own file without its components, as saveAll()
+  /// does; a line if that fails. With OnConflict::overwrite, a file that changedOnDisk() is written
+  /// even if there is nothing to save.
+  std::optional<std::string> save(HostModule& module, OnConflict onConflict = OnConflict::fail);
+  std::optional<std::string> saveProject(VBProject& project,
+                                         OnConflict onConflict = OnConflict::fail);
+
+  /// Whether the file, which is read for that, isn't what was read or saved last; also if it is
+  /// gone.
+  bool changedOnDisk(const HostModule& module) const;
+  bool changedOnDisk(const VBProject& project) const;
+  bool isGone(const HostModule& module) const;
+  bool isGone(const VBProject& project) const;
+
+  /// Reads the module's file again, whatever was edited in it, for all modules over it: they stay
+  /// the same objects, their observers are told, and the history is cleared. A line if that fails;
+  /// nothing has changed then.
+  std::optional<std::string> reload(HostModule& module);
 
  private:
   explicit HostIde(FileSystem& files) : files_(files), sources_(files) {}
@@ -73,6 +100,9 @@ class HostIde final : public VBE {
                           const CodePage* codePage, const WarningSink& warn);
   void openGroup(const std::string& path, std::string_view bytes, const CodePage* codePage,
                  const WarningSink& warn);
+
+  /// Fails for a project that isn't one of this IDE's.
+  HostProject& own(const VBProject& project) const;
 
   FileSystem& files_;
   UnseenScreen unseen_;

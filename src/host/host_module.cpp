@@ -5,6 +5,7 @@
 
 #include "host/host_component.h"
 #include "host/host_project.h"
+#include "host/names.h"
 
 namespace tamrikon {
 
@@ -12,11 +13,20 @@ HostModule::HostModule(HostComponent& component, Source& source, std::string nam
                        const ConditionalConstants& constants)
     : component_(component),
       source_(source),
-      name_(std::move(name)),
+      nameInProject_(std::move(name)),
       constants_(constants),
       members_(*this) {}
 
 HostModule::~HostModule() = default;
+
+std::string HostModule::Name() const {
+  if (generation_ != source_.generation()) {
+    const std::string ownName = source_.attributes().moduleName();
+    name_ = identifierFrom(ownName.empty() ? nameInProject_ : ownName);
+    generation_ = source_.generation();
+  }
+  return name_;
+}
 
 VBComponent& HostModule::Parent() const {
   return component_;

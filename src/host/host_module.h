@@ -18,12 +18,13 @@ class HostComponent;
 /// through one shows in all.
 class HostModule final : public CodeModule {
  public:
-  /// All but the name must outlive the module. The source is decoded.
+  /// All but the name must outlive the module. The source is decoded; `name` is for one whose head
+  /// has none.
   HostModule(HostComponent& component, Source& source, std::string name,
              const ConditionalConstants& constants);
   ~HostModule() override;
 
-  std::string Name() const override { return name_; }
+  std::string Name() const override;
   VBComponent& Parent() const override;
   tamrikon::Members& Members() const override { return members_; }
   tamrikon::CodePane& CodePane() const override;
@@ -82,6 +83,7 @@ class HostModule final : public CodeModule {
   const ModuleAnalysis& analysis() const;
   MemberAttributes& attributes() const { return source_.attributes(); }
   HostComponent& component() const { return component_; }
+  Source& source() const { return source_; }
 
  private:
   struct Place {
@@ -95,7 +97,9 @@ class HostModule final : public CodeModule {
 
   HostComponent& component_;
   Source& source_;
-  std::string name_;
+  std::string nameInProject_;
+  mutable std::string name_;
+  mutable unsigned generation_ = 0;  // of the source when name_ was found
   const ConditionalConstants& constants_;
   mutable HostMembers members_;
   mutable std::unique_ptr<ModuleAnalysis> analysis_;

@@ -9,10 +9,6 @@
 namespace tamrikon {
 namespace {
 
-bool hasCode(ComponentType type) {
-  return type != ComponentType::resourceFile && type != ComponentType::relatedDocument;
-}
-
 /// Whether the component's file holds the fonts of controls.
 bool hasControls(ComponentType type) {
   return type == ComponentType::form || type == ComponentType::userControl ||
@@ -25,7 +21,7 @@ std::string cannotReadWarning(const std::string& path) {
   return "warning: cannot read " + path;
 }
 
-VBComponent& HostComponents::Item(int number) const {
+HostComponent& HostComponents::Item(int number) const {
   if (number < 1 || number > Count()) throw IdeError("there is no component of that number");
   return *components_[static_cast<std::size_t>(number - 1)];
 }
@@ -35,12 +31,12 @@ void HostComponents::add(std::unique_ptr<HostComponent> component) {
 }
 
 HostProject::HostProject(std::string fileName, std::string bytes, const ProjectContext& context)
-    : screen_(context.screen), fileName_(std::move(fileName)), file_(std::move(bytes)) {
+    : screen_(context.screen), disk_(std::move(fileName), bytes), file_(std::move(bytes)) {
   open(context);
 }
 
 void HostProject::open(const ProjectContext& context) {
-  const std::string folder(folderOf(fileName_));
+  const std::string folder(folderOf(disk_.path()));
   struct Opened {
     FoundPath found;
     Source* source = nullptr;
@@ -62,22 +58,24 @@ void HostProject::open(const ProjectContext& context) {
 
   page_ = context.codePage != nullptr ? context.codePage : &guess.page();
   file_.setCodePage(*page_);
-  const std::string name = file_.name();
-  name_ = identifierFrom(name.empty() ? baseName(fileName_) : name);
+  const std::string ownName = file_.name();
+  name_ = identifierFrom(ownName.empty() ? baseName(disk_.path()) : ownName);
   constants_ = readConditionalConstants(file_.conditionalConstants());
 
   for (std::size_t i = 0; i < opened.size(); ++i) {
     const ProjectFile::ComponentLine& line = file_.components()[i];
-    const Opened& entry = opened[i];
-    const bool isThere = hasCode(line.type) ? entry.source != nullptr : !entry.found.path.empty();
-    if (!isThere) {
-      context.warn(cannotReadWarning(PathLookup::tried(folder, file_.text(line.path))));
+    ComponentFile file{std::move(opened[i].found.path), false, opened[i].source};
+    file.isMissing = hasCode(line.type) ? file.source == nullptr : file.path.empty();
+    if (file.isMissing) {
+      const std::string tried = PathLookup::tried(folder, file_.text(line.path));
+      context.warn(cannotReadWarning(tried));
+      if (file.path.empty()) file.path = tried;
     }
-    if (entry.source != nullptr) entry.source->decode(*page_);
-    const std::string lineName = file_.text(line.name);
-    components_.add(std::make_unique<HostComponent>(
-        *this, line.type, lineName.empty() ? std::string(baseName(entry.found.path)) : lineName,
-        entry.source, constants_));
+    if (file.source != nullptr) file.source->decode(*page_);
+    std::string name = file_.text(line.name);
+    if (name.empty()) name = baseName(file.path);
+    components_.add(
+        std::make_unique<HostComponent>(*this, line.type, name, std::move(file), constants_));
   }
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/conditional_expression.h"
+#include "host/file_on_disk.h"
 #include "host/host_component.h"
 #include "host/host_screen.h"
 #include "host/path_lookup.h"
@@ -26,7 +27,7 @@ std::string cannotReadWarning(const std::string& path);
 class HostComponents final : public VBComponents {
  public:
   int Count() const override { return static_cast<int>(components_.size()); }
-  VBComponent& Item(int number) const override;
+  HostComponent& Item(int number) const override;
   void add(std::unique_ptr<HostComponent> component);
 
  private:
@@ -49,20 +50,24 @@ class HostProject final : public VBProject {
   HostProject(std::string fileName, std::string bytes, const ProjectContext& context);
 
   std::string Name() const override { return name_; }
-  std::string FileName() const override { return fileName_; }
+  std::string FileName() const override { return disk_.path(); }
   std::string HelpFile() const override { return file_.helpFile(); }
   void setHelpFile(const std::string& path) override { file_.setHelpFile(path); }
-  tamrikon::VBComponents& VBComponents() const override { return components_; }
+  HostComponents& VBComponents() const override { return components_; }
+
+  /// Whether the project's own file differs from what was read or saved last.
+  bool isChanged() const { return file_.isChanged(); }
 
   const CodePage& codePage() const { return *page_; }
   HostScreen& screen() const { return *screen_; }
   ProjectFile& file() { return file_; }
+  FileOnDisk& disk() { return disk_; }
 
  private:
   void open(const ProjectContext& context);
 
   HostScreen* const& screen_;
-  std::string fileName_;
+  FileOnDisk disk_;
   ProjectFile file_;
   const CodePage* page_ = nullptr;
   std::string name_;

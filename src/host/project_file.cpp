@@ -90,11 +90,14 @@ std::string ProjectFile::text(std::string_view bytes) const {
 }
 
 void ProjectFile::setHelpFile(const std::string& path) {
-  changed_ = changed_ || path != helpFile_;
+  if (path == helpFile_) return;
+  changed_ = true;
+  isAsRead_ = false;
   helpFile_ = path;
 }
 
 std::optional<std::string> ProjectFile::bytes(LackingCharacter& lacking) const {
+  if (isAsRead_) return bytes_;
   const std::size_t start = helpFileValue_
                                 ? static_cast<std::size_t>(helpFileValue_->data() - bytes_.data())
                                 : insertionOffset_;

@@ -62,6 +62,7 @@ class ProjectFile {
   std::size_t insertionOffset_ = 0;                // where a missing line goes
   std::string helpFile_;
   bool changed_ = false;
+  bool isAsRead_ = true;
 };
 
 /// `text` without the quotes around it.

@@ -6,12 +6,23 @@
 namespace tamrikon {
 
 Source::Source(std::string path, std::string bytes)
-    : path_(std::move(path)), bytes_(std::move(bytes)), evidence_(readCodePageEvidence(bytes_)) {}
+    : disk_(std::move(path), bytes),
+      bytes_(std::move(bytes)),
+      evidence_(readCodePageEvidence(bytes_)) {}
 
 void Source::decode(const CodePage& page) {
   if (file_) return;
   file_ = std::make_unique<SourceFile>(std::move(bytes_), page);
   attributes_ = std::make_unique<MemberAttributes>(*file_);
+}
+
+std::optional<std::string> Source::reload(FileSystem& files) {
+  std::string bytes;
+  std::optional<std::string> failure = disk_.read(files, bytes);
+  if (failure) return failure;
+  ++generation_;
+  file_->reload(std::move(bytes));
+  return std::nullopt;
 }
 
 Source* SourceStore::open(const std::string& path) {

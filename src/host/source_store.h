@@ -2,11 +2,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "host/code_page_guess.h"
+#include "host/file_on_disk.h"
 #include "host/member_attributes.h"
 #include "host/source_file.h"
 #include "platform/file_system.h"
@@ -19,7 +21,8 @@ class Source {
  public:
   Source(std::string path, std::string bytes);
 
-  const std::string& path() const { return path_; }
+  const std::string& path() const { return disk_.path(); }
+  FileOnDisk& disk() { return disk_; }
   const CodePageEvidence& evidence() const { return evidence_; }
 
   /// Has no effect on a file that is decoded already.
@@ -29,12 +32,20 @@ class Source {
   SourceFile& file() { return *file_; }
   MemberAttributes& attributes() { return *attributes_; }
 
+  /// Reads a decoded file again, in its code page. A message if that fails; nothing has changed
+  /// then.
+  std::optional<std::string> reload(FileSystem& files);
+
+  /// Grows with each reload.
+  unsigned generation() const { return generation_; }
+
  private:
-  std::string path_;
+  FileOnDisk disk_;
   std::string bytes_;  // until they are decoded
   CodePageEvidence evidence_;
   std::unique_ptr<SourceFile> file_;
   std::unique_ptr<MemberAttributes> attributes_;
+  unsigned generation_ = 1;
 };
 
 class SourceStore {

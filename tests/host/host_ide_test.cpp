@@ -213,7 +213,7 @@ TEST_F(HostIdeTest, FailedSavesLeaveTheirFilesAndNoOthers) {
 
   std::filesystem::remove_all(folder_ / "Harbour/Common");
   module(1, 4).DeleteLines(1, 1);
-  EXPECT_EQ(ide_->saveAll(),
+  EXPECT_EQ(ide_->saveAll(OnConflict::overwrite),
             std::vector<std::string>{"cannot save " + folder_ / "Harbour/Common/modShared.bas" +
                                      ": there is no such folder"});
 }
