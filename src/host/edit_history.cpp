@@ -19,11 +19,6 @@ void EditHistory::beginGroup() {
   if (depth_++ == 0) isGroupStepOpen_ = false;
 }
 
-void EditHistory::endGroup() {
-  --depth_;
-  endTyping();
-}
-
 void EditHistory::clear() {
   done_.clear();
   undone_.clear();

@@ -68,7 +68,7 @@ class EditHistory {
 
   /// All edits up to the end of the outermost group are one step; a save divides it.
   void beginGroup();
-  void endGroup();
+  void endGroup() { --depth_; }
 
   /// Forgets all steps; the file counts as saved.
   void clear();

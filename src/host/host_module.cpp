@@ -9,22 +9,28 @@
 
 namespace tamrikon {
 
+EditGroup::EditGroup(HostModule& module) : EditGroup(module.source().file().history()) {}
+
 HostModule::HostModule(HostComponent& component, Source& source, std::string name,
                        const ConditionalConstants& constants)
     : component_(component),
       source_(source),
       nameInProject_(std::move(name)),
       constants_(constants),
-      members_(*this) {}
+      members_(*this) {
+  readName();
+}
 
 HostModule::~HostModule() = default;
 
+void HostModule::readName() const {
+  const std::string ownName = source_.attributes().moduleName();
+  name_ = identifierFrom(ownName.empty() ? nameInProject_ : ownName);
+  generation_ = source_.generation();
+}
+
 std::string HostModule::Name() const {
-  if (generation_ != source_.generation()) {
-    const std::string ownName = source_.attributes().moduleName();
-    name_ = identifierFrom(ownName.empty() ? nameInProject_ : ownName);
-    generation_ = source_.generation();
-  }
+  if (generation_ != source_.generation()) readName();
   return name_;
 }
 

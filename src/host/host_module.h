@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/conditional_expression.h"
+#include "host/edit_group.h"
 #include "host/host_member.h"
 #include "host/module_analysis.h"
 #include "host/source_store.h"
@@ -91,6 +92,7 @@ class HostModule final : public CodeModule {
     int body;
     int count;
   };
+  void readName() const;
   Place placeOf(const std::string& name, ProcKind kind) const;
   SourceFile& file() const { return source_.file(); }
   void requireLines(int start, int count) const;
@@ -104,23 +106,6 @@ class HostModule final : public CodeModule {
   mutable HostMembers members_;
   mutable std::unique_ptr<ModuleAnalysis> analysis_;
   mutable unsigned revision_ = 0;  // of the source when analysis_ was made
-
-  friend class EditGroup;
-};
-
-/// As long as one lives, all edits of the module's source are one undo step. A group within a group
-/// is a part of it; a save divides the step.
-class EditGroup {
- public:
-  explicit EditGroup(HostModule& module) : history_(module.file().history()) {
-    history_.beginGroup();
-  }
-  ~EditGroup() { history_.endGroup(); }
-  EditGroup(const EditGroup&) = delete;
-  EditGroup& operator=(const EditGroup&) = delete;
-
- private:
-  EditHistory& history_;
 };
 
 }  // namespace tamrikon

@@ -1,9 +1,12 @@
-// Which lines of a stretch that is replaced live on in the lines that come instead.
+// Which lines of a stretch that is replaced live on in the lines that come instead. Blanks at the
+// start and the end of a line don't count but for matchLines().
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace tamrikon {
 
@@ -14,11 +17,13 @@ struct LineMatch {
 };
 LineMatch matchLines(std::span<const std::string_view> old, std::span<const std::string_view> now);
 
-/// `line` has been divided into `parts` (at least one): the index of the part that goes on as that
-/// line, the first that begins or ends like it, blanks apart.
-std::size_t partThatGoesOn(std::string_view line, std::span<const std::string_view> parts);
+/// In place of an index: the line doesn't live on.
+constexpr std::size_t kGone = SIZE_MAX;
 
-/// Whether the end of `line` could be what is left of the end of `old`, blanks apart.
-bool endsLike(std::string_view line, std::string_view old);
+/// For each of the `old` lines the index of the line of `now` that it lives on in, or kGone. A line
+/// that both have once goes where it now stands; lines between those go in their order. Of the
+/// parts of a line that was divided, one goes on; lines that were joined go on in the same one.
+std::vector<std::size_t> successorsOf(std::span<const std::string_view> old,
+                                      std::span<const std::string_view> now);
 
 }  // namespace tamrikon

@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "base/vb_text.h"
+#include "host/edit_group.h"
 #include "host/names.h"
 #include "host/scanning.h"
 
@@ -174,6 +175,7 @@ void MemberAttributes::setHelpContextID(const AttributeOwner& owner, int id) {
 
 void MemberAttributes::write(const AttributeOwner& owner, Property property,
                              const std::string& value, bool isEmpty) {
+  const EditGroup group(file_.history());
   const bool isText = property == Property::description;
   const std::vector<std::uint32_t> numbers = find(owner, property);
   std::string key(owner.writtenName);

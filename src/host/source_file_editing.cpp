@@ -112,21 +112,22 @@ std::vector<SourceLine> SourceFile::replacement(int first, int count, std::strin
   }
   const auto start = static_cast<std::size_t>(first - 1);
   const auto size = static_cast<std::size_t>(count);
-  const std::size_t pairs = std::min(size, lines.size());
-  for (std::size_t i = 0; i < pairs; ++i) {
-    std::size_t place = i;
-    if (i + 1 == size) {
-      place += partThatGoesOn(lines_[start + i], std::span(pieces).subspan(i));
+  const std::span<const std::string_view> old(lines_.data() + start, size);
+  const std::vector<std::size_t> successors = successorsOf(old, pieces);
+  std::vector<bool> isTaken(lines.size());
+  for (std::size_t i = 0; i < size; ++i) {
+    if (successors[i] == kGone) continue;
+    SourceLine& line = lines[successors[i]];
+    const LineTail& tail = tails_[start + i];
+    if (isTaken[successors[i]]) {
+      joinAttributes(line.tail, tail, step);
+    } else {
+      line.tail = tail;
+      if (line.text != old[i]) line.tail.origin = kNoOrigin;
+      isTaken[successors[i]] = true;
     }
-    LineTail& tail = lines[place].tail;
-    tail = tails_[start + i];
-    if (lines[place].text != lines_[start + i]) tail.origin = kNoOrigin;
   }
-  const std::size_t end = start + size;
-  if (size > pairs && endsLike(pieces.back(), lines_[end - 1])) {
-    joinAttributes(lines.back().tail, tails_[end - 1], step);
-  }
-  if (end == lines_.size() && end > 0) lines.back().tail.end = tails_.back().end;
+  if (start + size == lines_.size() && !tails_.empty()) lines.back().tail.end = tails_.back().end;
   return lines;
 }
 

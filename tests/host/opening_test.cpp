@@ -97,6 +97,33 @@ TEST(Opening, FindsFilesAsTheyWereWrittenElsewhere) {
             "warning: cannot read ~/Proj/|warning: cannot read K:/no.frm|");
 }
 
+TEST(Opening, TellsWhereComponentsAre) {
+  const test::TempFolder folder;
+  folder.put("Src/Plain.bas", "");
+  folder.put("Src/own.cls", "Attribute VB_Name = \"Real\"\n");
+  folder.put("b.res", "");
+  folder.put("p.vbp",
+             "Module=In/Line; SRC\\plain.bas\nClass=x; Src\\own.cls\nForm=Ui\\my gone.frm\n"
+             "Class=cGone; Gone.cls\nResFile32=\"b.res\"\nRelatedDoc=Doc\\no.txt\n");
+  const Opened opened = openIn(folder, "p.vbp");
+  ASSERT_TRUE(opened.ide) << opened.why;
+  std::string found;
+  HostComponents& components = opened.ide->VBProjects().Item(1).VBComponents();
+  for (int i = 1; i <= components.Count(); ++i) {
+    const HostComponent& component = components.Item(i);
+    found += component.name() + " " + replaceAll(component.path(), folder.path(), "~") +
+             (component.isMissing() ? " missing|" : "|");
+  }
+  EXPECT_EQ(found,
+            "In_Line ~/Src/Plain.bas|Real ~/Src/own.cls|my_gone ~/Ui/my gone.frm missing|"
+            "cGone ~/Gone.cls missing|b.res ~/b.res|no.txt ~/Doc/no.txt missing|");
+  EXPECT_EQ(components.Item(1).CodeModule()->path(), folder / "Src/Plain.bas");
+  for (const char* path : {"a/p.VBP", "p.b.vbg"}) EXPECT_TRUE(HostIde::isProjectFile(path)) << path;
+  for (const char* path : {"a.vbp/m", "vbp", "p.vbpx"}) {
+    EXPECT_FALSE(HostIde::isProjectFile(path)) << path;
+  }
+}
+
 TEST(Opening, GuessesTheCodePage) {
   const auto form = [](const std::string& charsets, const std::string& code) {
     std::string text = "Begin VB.Form f \n";

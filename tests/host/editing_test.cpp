@@ -1,0 +1,314 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "host/edit_group.h"
+#include "host/member_attributes.h"
+#include "host/source_file.h"
+#include "host/source_head.h"
+
+namespace tamrikon {
+namespace {
+
+std::string visible(const SourceFile& file) {
+  return replaceAll(file.text(1, file.lineCount()), "\r\n", "|");
+}
+
+std::string saved(const SourceFile& file) {
+  LackingCharacter lacking;
+  return file.bytes(lacking).value_or("not saved");
+}
+
+TEST(Editing, HiddenLinesStayWithTheLineThatLivesOn) {
+  struct Case {
+    const char* name;
+    const char* before;
+    int first;
+    int count;
+    const char* text;
+    const char* after;
+  };
+  for (const Case& c : {
+           Case{"changed in its place", "a\nSub A()\r\nAttribute A.x = 1\nb", 2, 1, "Sub B(c)",
+                "a\nSub B(c)\r\nAttribute A.x = 1\nb"},
+           Case{"with its neighbours", "a\nAttribute a.x = 1\rb\nc\nAttribute c.x = 1\n", 1, 3,
+                "a1\nb\nc1", "a1\nAttribute a.x = 1\rb\nc1\nAttribute c.x = 1\n"},
+           Case{"Enter behind it", "A()\nAttribute A.x = 1\nb\n", 1, 1, "A()\n",
+                "A()\nAttribute A.x = 1\n\nb\n"},
+           Case{"Enter before it", "  A()\nAttribute A.x = 1\nb\n", 1, 1, "  \n A()",
+                "  \n A()\nAttribute A.x = 1\nb\n"},
+           Case{"Enter before its comment", "A() 'long remark\nAttribute A.x = 1\n", 1, 1,
+                "A()\n'long remark", "A()\nAttribute A.x = 1\n'long remark\n"},
+           Case{"changed below new lines", "Sub A()\nAttribute A.x = 1\nb\n", 1, 1, "' S\nSub A(c)",
+                "' S\nSub A(c)\nAttribute A.x = 1\nb\n"},
+           Case{"joined with the line above", "  \nA()\nAttribute A.x = 1\nb\n", 1, 2, "  A()",
+                "  A()\nAttribute A.x = 1\nb\n"},
+           Case{"rest of it joined", "x\nAttribute x.x = 1\n'\nPublic A()\nAttribute A.x = 1\n", 1,
+                3, "xA()", "xA()\nAttribute x.x = 1\nAttribute A.x = 1\n"},
+           Case{"a whole module over the old one",
+                "a\nAttribute a.x = 1\n\nb\nAttribute b.x = 1\n\nc\nAttribute c.x = 1\n", 1, 5,
+                "new\n\n  b\n\nc\na\n",
+                "new\n\n  b\nAttribute b.x = 1\n\nc\nAttribute c.x = 1\na\nAttribute a.x = 1\n\n"},
+           Case{"gone with its line", "a\nAttribute a.x = 1\nb\nAttribute b.x = 1\nc\n", 1, 2, "z",
+                "z\nAttribute a.x = 1\nc\n"},
+           Case{"a statement that goes on behind it", "A()\nAttribute A.x = 1\nb\n", 1, 1,
+                "A( _\nc _\n)", "A( _\nc _\n)\nAttribute A.x = 1\nb\n"},
+           Case{"such a statement in the file", "A( _\nAttribute A.x = 1\n)\nb\n", 3, 1, "c",
+                "A( _\nAttribute A.x = 1\n)\nc\n"},
+           Case{"insertion", "a\nAttribute a.x = 1\n", 2, 0, "b", "a\nAttribute a.x = 1\nb\n"},
+           Case{"no line end at the end", "a\nb", 2, 1, "b\nc", "a\nb\nc"},
+           Case{"an empty line there", "a\r\nb", 2, 1, "", "a\r\n\r\n"},
+           Case{"nothing", "a\nAttribute a.x = 1\n\rb", 1, 3, "a\r\n\rb",
+                "a\nAttribute a.x = 1\n\rb"},
+       }) {
+    SCOPED_TRACE(c.name);
+    SourceFile file(c.before, *CodePage::find(1252));
+    file.replaceLines(c.first, c.count, c.text);
+    EXPECT_EQ(saved(file), c.after);
+    EXPECT_EQ(visible(SourceFile(saved(file), file.page())), visible(file));
+    const bool wasChanged = file.isChanged();
+    EXPECT_EQ(file.undo(), wasChanged);
+    EXPECT_EQ(saved(file), c.before);
+  }
+}
+
+TEST(Editing, WhatIsTypedStaysVisibleUntilTheFileIsReadAgain) {
+  SourceFile file("a\n", *CodePage::find(1252));
+  file.replaceLines(1, 1, "Attribute a.VB_HelpID = 1", EditKind::typing);
+  EXPECT_EQ(visible(file), "Attribute a.VB_HelpID = 1");
+  file.replaceLines(1, 1, "Attributes", EditKind::typing);
+  EXPECT_EQ(saved(file), "Attributes\n");
+}
+
+TEST(Editing, TypingOnALineIsOneStep) {
+  const std::string bytes = "\x87\x90\n\n";  // two bytes that code page 932 would write otherwise
+  SourceFile file(bytes, *CodePage::find(932));
+  const auto type = [&](int line, const char* text) {
+    file.replaceLines(line, 1, text, EditKind::typing);
+  };
+  type(2, "a");
+  type(2, "ab");
+  file.history().endTyping();
+  type(2, "abc");
+  type(2, "abcd");
+  type(1, "x");
+  type(1, "xy");
+  file.replaceLines(1, 1, "xyz");
+  EXPECT_EQ(visible(file), "xyz|abcd");
+  for (const char* expected : {"xy|abcd", "≒|abcd", "≒|ab", "≒|"}) {
+    EXPECT_TRUE(file.undo());
+    EXPECT_EQ(visible(file), expected);
+  }
+  EXPECT_FALSE(file.isChanged());
+  EXPECT_FALSE(file.undo());
+  EXPECT_TRUE(file.redo());
+  type(2, "abC");
+  EXPECT_FALSE(file.redo());
+  EXPECT_TRUE(file.undo());
+  EXPECT_EQ(visible(file), "≒|ab");
+  file.setSaved();
+  type(1, "≒x");
+  type(1, "≒");
+  EXPECT_EQ(saved(file), "\x87\x90\nab\n");
+  EXPECT_TRUE(file.undo());
+  EXPECT_FALSE(file.isChanged());
+}
+
+TEST(Editing, GroupsAreOneStepEach) {
+  SourceFile file("a\nb\n", *CodePage::find(1252));
+  {
+    const EditGroup outer(file.history());
+    file.deleteLines(1, 1);
+    const EditGroup inner(file.history());
+    file.insertLines(2, "c");
+    EXPECT_FALSE(file.undo());
+    file.setSaved();
+    file.insertLines(3, "d");
+  }
+  MemberAttributes(file).setHelpContextID({"c", "c", false, 2}, 5);
+  EXPECT_EQ(saved(file), "b\nc\nAttribute c.VB_HelpID = 5\nd\n");
+  EXPECT_TRUE(file.undo());
+  EXPECT_EQ(MemberAttributes(file).helpContextID({"c", "c"}), 0);
+  EXPECT_TRUE(file.isChanged());
+  EXPECT_TRUE(file.undo());
+  EXPECT_FALSE(file.isChanged());
+  EXPECT_EQ(visible(file), "b|c");
+  EXPECT_TRUE(file.undo());
+  EXPECT_TRUE(file.isChanged());
+  EXPECT_EQ(visible(file), "a|b");
+  file.insertLines(1, "x");
+  EXPECT_TRUE(file.undo());
+  EXPECT_TRUE(file.isChanged()) << "what was saved can't be redone any more";
+}
+
+/// Keeps the lines as an editor does that looks only at what it is told.
+class Mirror final : public SourceObserver {
+ public:
+  explicit Mirror(SourceFile& file) : file_(file) { linesChanged(1, 0, file.lineCount()); }
+  void linesChanged(int first, int removed, int inserted) override {
+    const auto start = lines.begin() + (first - 1);
+    const auto now = file_.lines().begin() + (first - 1);
+    lines.insert(lines.erase(start, start + removed), now, now + inserted);
+  }
+  void savedStateChanged() override { isChanged = !isChanged; }
+
+  std::vector<std::string> lines;
+  bool isChanged = false;
+
+ private:
+  SourceFile& file_;
+};
+
+/// Edits a file at random, and knows what each undo and redo must give back.
+class RandomEditing {
+ public:
+  RandomEditing(const char* bytes, int page, unsigned seed)
+      : random_(seed), file_(bytes, *CodePage::find(page)), attributes_(file_), mirror_(file_) {
+    file_.observers().add(mirror_);
+    states_.push_back(state());
+  }
+
+  void run() {
+    for (int i = 0; i < 300 && !testing::Test::HasFailure(); ++i) act();
+    while (file_.undo()) --position_;
+    EXPECT_EQ(position_, 0U);
+    check();
+    while (file_.redo()) ++position_;
+    check();
+  }
+
+ private:
+  struct State {
+    std::vector<std::string> lines;
+    std::string bytes;
+    bool operator==(const State&) const = default;
+  };
+
+  unsigned below(unsigned limit) { return static_cast<unsigned>(random_() % limit); }
+  State state() const { return {{file_.lines().begin(), file_.lines().end()}, saved(file_)}; }
+
+  std::string someText(bool mayHide) {
+    static const char* const kLines[] = {"", "  x", "Sub A()", "Dim b, _", "' \xC3\xA4", "End Sub"};
+    std::string text;
+    for (unsigned left = 1 + below(4); left > 0; --left) {
+      const bool hides = mayHide && below(3) == 0;
+      text += hides ? "Attribute A.VB_HelpID = _\n 7" : kLines[below(6)];
+      if (left > 1) text += below(2) == 0 ? "\r\n" : "\n";
+    }
+    return text;
+  }
+
+  /// One edit; the line that was typed on, or 0.
+  int edit() {
+    const auto lines = static_cast<unsigned>(file_.lineCount());
+    const auto first = static_cast<int>(1 + below(lines + 1));
+    const auto count =
+        static_cast<int>(below(std::min(4U, lines + 2U - static_cast<unsigned>(first))));
+    switch (below(6)) {
+      case 0: file_.insertLines(first, someText(true)); return 0;
+      case 1: file_.deleteLines(first, count); return 0;
+      case 2: {
+        const int owner = static_cast<int>(below(lines + 1));
+        attributes_.setHelpContextID({owner == 0 ? "" : "A", owner == 0 ? "" : "A", false, owner},
+                                     static_cast<int>(below(9)));
+        return 0;
+      }
+      case 3: file_.replaceLines(first, count, someText(false)); return 0;
+      default: {
+        const int line = lines == 0 ? 1 : static_cast<int>(1 + below(std::min(lines, 2U)));
+        const std::string text = "t" + std::to_string(below(1000));
+        file_.replaceLines(line, lines == 0 ? 0 : 1, text, EditKind::typing);
+        return line;
+      }
+    }
+  }
+
+  void act() {
+    const State before = state();
+    int typed = 0;
+    switch (below(12)) {
+      case 0:
+        if (!file_.undo()) return check();
+        --position_;
+        break;
+      case 1:
+        if (!file_.redo()) return check();
+        ++position_;
+        break;
+      case 2:
+        file_.setSaved();
+        saved_ = static_cast<long>(position_);
+        break;
+      case 3: {
+        const EditGroup group(file_.history());
+        while (state() == before) edit();
+        push(false);
+        edit();
+        states_.back() = state();
+        break;
+      }
+      default:
+        typed = edit();
+        if (state() == before) return check();
+        push(typed != 0 && typed == run_);
+    }
+    run_ = typed;
+    check();
+  }
+
+  void push(bool joins) {
+    states_.resize(position_ + (joins ? 0 : 1));
+    if (saved_ >= static_cast<long>(states_.size())) saved_ = -1;
+    states_.push_back(state());
+    position_ = states_.size() - 1;
+  }
+
+  void check() {
+    const State now = state();
+    EXPECT_EQ(now.lines, states_[position_].lines);
+    EXPECT_EQ(now.bytes, states_[position_].bytes);
+    EXPECT_EQ(mirror_.lines, now.lines);
+    EXPECT_EQ(file_.isChanged(), saved_ != static_cast<long>(position_));
+    EXPECT_EQ(mirror_.isChanged, file_.isChanged());
+    EXPECT_EQ(visible(SourceFile(now.bytes, file_.page())), visible(file_));
+  }
+
+  std::mt19937 random_;
+  SourceFile file_;
+  MemberAttributes attributes_;
+  Mirror mirror_;
+  std::vector<State> states_;  // by the number of steps done
+  std::size_t position_ = 0;
+  long saved_ = 0;
+  int run_ = 0;
+};
+
+TEST(Editing, UndoAndRedoGiveBackEveryByte) {
+  struct Case {
+    const char* name;
+    int page;
+    const char* bytes;
+  };
+  for (const Case& c : {
+           Case{"empty", 1252, ""},
+           Case{"class in code page 1252", 1252,
+                "VERSION 1.0 CLASS\r\nBEGIN\r\nEND\r\nAttribute VB_Name = \"A\"\r\n' \xE4\x9D\r\n"
+                "Sub A()\r\nAttribute A.VB_Description = \"\xFC\" _\r\n'x\r\nEnd Sub\r\n\r\nx"},
+           Case{"UTF-8 with mark, LF", 1252,
+                "\xEF\xBB\xBFOption Explicit\n\nSub A()\nAttribute A.VB_HelpID = 1\n' \xC3\xA4\n"},
+           Case{"line ends of all kinds", 932,
+                "a\r\x87\x90\nAttribute a.x = 1\r\r\n\nc\r\nAttribute c.x = 1\rd"},
+       }) {
+    for (unsigned seed = 1; seed <= 3; ++seed) {
+      SCOPED_TRACE(std::string(c.name) + ", seed " + std::to_string(seed));
+      RandomEditing(c.bytes, c.page, seed).run();
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tamrikon
