@@ -107,6 +107,7 @@ std::vector<SourceLine> SourceFile::replacement(int first, int count, std::strin
                                                 EditStep& step) {
   std::vector<SourceLine> lines;
   const std::vector<std::string_view> pieces = dividedLines(step.keep(std::string(text)));
+  lines.reserve(pieces.size());
   for (const std::string_view piece : pieces) {
     lines.push_back({piece, {kNoOrigin, 0, format_.newLineEnd}});
   }

@@ -13,8 +13,7 @@ void SourceObservers::add(SourceObserver& observer) {
 void SourceObservers::remove(SourceObserver& observer) {
   std::replace(observers_.begin(), observers_.end(), &observer,
                static_cast<SourceObserver*>(nullptr));
-  if (telling_ == 0)
-    observers_.erase(std::remove(observers_.begin(), observers_.end(), nullptr), observers_.end());
+  if (telling_ == 0) std::erase(observers_, nullptr);
 }
 
 template <typename Call>
@@ -24,8 +23,7 @@ void SourceObservers::tell(const Call& call) {
   for (std::size_t i = 0; i < count; ++i) {
     if (observers_[i] != nullptr) call(*observers_[i]);
   }
-  if (--telling_ > 0) return;
-  observers_.erase(std::remove(observers_.begin(), observers_.end(), nullptr), observers_.end());
+  if (--telling_ == 0) std::erase(observers_, nullptr);
 }
 
 void SourceObservers::linesChanged(int first, int removed, int inserted) {

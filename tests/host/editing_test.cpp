@@ -120,6 +120,7 @@ TEST(Editing, TypingOnALineIsOneStep) {
 
 TEST(Editing, GroupsAreOneStepEach) {
   SourceFile file("a\nb\n", *CodePage::find(1252));
+  MemberAttributes attributes(file);
   {
     const EditGroup outer(file.history());
     file.deleteLines(1, 1);
@@ -129,10 +130,10 @@ TEST(Editing, GroupsAreOneStepEach) {
     file.setSaved();
     file.insertLines(3, "d");
   }
-  MemberAttributes(file).setHelpContextID({"c", "c", false, 2}, 5);
+  attributes.setHelpContextID({"c", "c", false, 2}, 5);
   EXPECT_EQ(saved(file), "b\nc\nAttribute c.VB_HelpID = 5\nd\n");
   EXPECT_TRUE(file.undo());
-  EXPECT_EQ(MemberAttributes(file).helpContextID({"c", "c"}), 0);
+  EXPECT_EQ(attributes.helpContextID({"c", "c"}), 0);
   EXPECT_TRUE(file.isChanged());
   EXPECT_TRUE(file.undo());
   EXPECT_FALSE(file.isChanged());
