@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "compiler/group_compile.h"
+#include "compiler/store.h"
 
 namespace tamrikon {
 namespace {
@@ -30,6 +31,9 @@ connect::~connect() = default;
 void connect::setIde(VBE* ide) {
   ProjectHandler.reset();
   VBInstance = ide;
+  // Both hold on to modules of the IDE before.
+  session_.currentStore.reset();
+  session_.settings = ProjectSettings();
   if (ide == nullptr) return;
   const auto load = [this](VBProject&) {
     tryStep([this] { session_.loadProjectSettings(*VBInstance); });

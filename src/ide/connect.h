@@ -20,8 +20,8 @@ class connect final : public OptionsOwner {
   VBE* VBInstance = nullptr;
   bool FormDisplayed = false;  // the Options dialog is up
 
-  /// Takes `ide` as the one to work in. The settings are those of its active project from now on.
-  /// Both may change by the time of the next call; null leaves the IDE.
+  /// Takes `ide` as the one to work in, until the next call; null leaves the IDE. The settings are
+  /// those of its active project from now on.
   void setIde(VBE* ide);
 
   /// Runs the Options dialog and, if it asks for one, the compile after it. A step that fails is
