@@ -14,14 +14,14 @@ run: release
 	@echo "$(CURDIR)/$(DOCS)/Group+.contents.html"
 
 test:
-	@scripts/install_packages.sh build test
+	@scripts/install_packages.sh build workbench test
 	cmake --preset dev
 	cmake --build --preset dev -j $(JOBS)
 	ctest --preset dev
 
 # The tests once more, under AddressSanitizer and UndefinedBehaviorSanitizer.
 sanitize:
-	@scripts/install_packages.sh build test
+	@scripts/install_packages.sh build workbench test
 	cmake --preset asan
 	cmake --build --preset asan -j $(JOBS)
 	ctest --preset asan

@@ -1,12 +1,13 @@
 #!/bin/sh
 # Installs the Debian packages that a task needs and that aren't there yet.
-# usage: install_packages.sh [build] [test] [bench]
+# usage: install_packages.sh [build] [workbench] [test] [bench]
 set -eu
 
 packages=
 for task in "$@"; do
   case $task in
     build) packages="$packages g++ cmake ninja-build libcli11-dev" ;;
+    workbench) packages="$packages qt6-base-dev fonts-dejavu-core" ;;
     test) packages="$packages libgtest-dev" ;;
     bench) packages="$packages tar universal-ctags" ;;
     *) echo "install_packages.sh: there is no task '$task'" >&2; exit 2 ;;

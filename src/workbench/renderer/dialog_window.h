@@ -1,0 +1,57 @@
+// The window of a dialog that is shown.
+#pragma once
+
+#include <QDialog>
+#include <exception>
+#include <functional>
+
+#include "toolkit/dialog.h"
+#include "workbench/renderer/caption_marks.h"
+#include "workbench/renderer/dialog_keys.h"
+#include "workbench/renderer/event_gate.h"
+#include "workbench/renderer/peer_set.h"
+
+namespace tamrikon {
+
+/// Application modal. Once it is seen, it activates the dialog; after that the dialog hears what
+/// the user does until it closes.
+class DialogWindow final : public QDialog, private DialogPeer {
+ public:
+  /// `dialog` must outlive the window. `onClosed` is told when it has been closed, or when the
+  /// window is destroyed before.
+  DialogWindow(Dialog& dialog, QWidget* owner, std::function<void()> onClosed);
+  ~DialogWindow() override;
+
+  /// What a handler has thrown; that has closed the dialog. Null if nothing was thrown.
+  std::exception_ptr failure() const { return gate_.failure(); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  /// Esc is a matter of the cancel button.
+  void reject() override {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+  void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void captionChanged() override;
+  void closed() override;
+
+  void activateSoon(int milliseconds);
+  void activate();
+  void focusFirst();
+
+  Dialog& dialog_;
+  std::function<void()> onClosed_;
+  EventGate gate_;
+  CaptionMarks marks_;
+  PeerSet peers_;
+  DialogKeys keys_;
+  bool isActivating_ = false;
+  bool isActivated_ = false;
+};
+
+}  // namespace tamrikon

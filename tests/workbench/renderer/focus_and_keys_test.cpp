@@ -1,0 +1,156 @@
+#include <QAbstractButton>
+#include <QTabBar>
+
+#include "workbench/renderer/renderer_fixture.h"
+
+namespace tamrikon {
+namespace {
+
+struct FocusAndKeysTest : test::RendererTest {
+  QString captionOf(const Control& control) { return user.widget<QAbstractButton>(control).text(); }
+};
+
+TEST_F(FocusAndKeysTest, FirstControlGetsTheFocusWhenTheDialogIsActive) {
+  std::string atActivation;
+  dialog.activate = [&] { atActivation = "told:" + dialog.told(); };
+  dialog.show([&] {
+    EXPECT_EQ(atActivation, "told:");
+    EXPECT_EQ(dialog.told(), "+Name ");
+  });
+}
+
+TEST_F(FocusAndKeysTest, ActivatedDialogMayMoveTheFocus) {
+  dialog.activate = [&] { dialog.Width.setFocus(); };
+  dialog.show([&] { EXPECT_EQ(dialog.told(), "+Width "); });
+}
+
+TEST_F(FocusAndKeysTest, TabFollowsTheLayout) {
+  dialog.Tabs.select("list");
+  show([&] {
+    user.focus(dialog.List);
+    dialog.told();
+    std::string order;
+    for (int i = 0; i < 9; ++i) {
+      user.press(Key::tab);
+      const std::string told = dialog.told();
+      order += told.substr(told.find('+'));
+    }
+    EXPECT_EQ(order, "+Checks +Folders +Combo +Typed +Cells +Nothing +Ok +Cancel +Tabs ");
+    user.press(KeyEvent{Key::tab, false, true});
+    EXPECT_EQ(dialog.told(), "key Tabs.key -Tabs +Cancel ");
+  });
+}
+
+TEST_F(FocusAndKeysTest, KeyThatIsHandledGoesNoFurther) {
+  dialog.handledKey = Key::escape;
+  dialog.Name.onKeyDown = [](KeyEvent& event) { event.handled = true; };
+  show([&] {
+    user.press(Key::escape);
+    EXPECT_EQ(dialog.told(), "key ");
+    user.press(Key::enter);
+    user.typeText("x");
+    EXPECT_EQ(dialog.told(), "key ");
+    EXPECT_EQ(dialog.Name.text(), "");
+  });
+}
+
+TEST_F(FocusAndKeysTest, EscapeWithoutACancelButtonDoesNothing) {
+  dialog.Cancel.setEnabled(false);
+  show([&] {
+    user.press(Key::escape);
+    EXPECT_EQ(dialog.told(), "key Name.key ");
+    EXPECT_TRUE(dialog.isShown());
+    dialog.Cancel.setEnabled(true);
+    dialog.Cancel.onClick = [&] { dialog.close(); };
+    user.press(Key::escape);
+    EXPECT_FALSE(dialog.isShown());
+  });
+}
+
+TEST_F(FocusAndKeysTest, EnterPressesTheButtonInFocusOrTheDefaultOne) {
+  dialog.Lines.setReadOnly(true);
+  show([&] {
+    user.focus(dialog.Lines);
+    dialog.told();
+    user.press(Key::enter);
+    EXPECT_EQ(dialog.told(), "key Lines.key -Lines +Ok Ok=click ");
+    user.click(dialog.Nothing);
+    dialog.told();
+    user.press(Key::enter);
+    EXPECT_EQ(dialog.told(), "key Nothing.key Nothing=click ");
+    dialog.Ok.setEnabled(false);
+    user.focus(dialog.Name);
+    dialog.told();
+    user.press(Key::enter);
+    EXPECT_EQ(dialog.told(), "key Name.key ");
+  });
+}
+
+TEST_F(FocusAndKeysTest, ControlTabTurnsPagesRoundTheEnds) {
+  show([&] {
+    user.press(KeyEvent{Key::tab, true, false});
+    EXPECT_EQ(dialog.told(), "key Name.key -Name +Tabs Tabs=1 ");
+    user.press(KeyEvent{Key::tab, true, false});
+    EXPECT_EQ(dialog.told(), "key Tabs.key Tabs=0 ");
+    user.press(KeyEvent{Key::tab, true, true});
+    EXPECT_EQ(dialog.told(), "key Tabs.key Tabs=1 ");
+  });
+}
+
+TEST_F(FocusAndKeysTest, OtherWindowsDontTakeTheFocusOfTheDialog) {
+  dialog.Nothing.onClick = [&] {
+    dialog.Width.setFocus();
+    test::whenShown([](QWidget& box) { box.close(); });
+    toolkit.messageBox({"Title", "Text"});
+  };
+  show([&] {
+    user.click(dialog.Nothing);
+    EXPECT_EQ(dialog.told(), "-Name +Nothing -Nothing +Width ");
+    user.typeText("7");
+    EXPECT_EQ(dialog.told(), "Width=780 ");
+  });
+}
+
+TEST_F(FocusAndKeysTest, ControlThatIsHiddenInAHandlerLosesTheFocusAfterIt) {
+  dialog.Nothing.onClick = [&] {
+    dialog.Nothing.setVisible(false);
+    dialog.Name.setText("hidden");
+    EXPECT_EQ(dialog.told(), "-Name +Nothing ");
+  };
+  show([&] {
+    user.click(dialog.Nothing);
+    EXPECT_EQ(dialog.told(), "-Nothing +Ok ");
+  });
+}
+
+TEST_F(FocusAndKeysTest, FocusOnWhatCantBeReachedIsRefused) {
+  show([&] {
+    dialog.List.setFocus();
+    dialog.Cancel.setEnabled(false);
+    dialog.Cancel.setFocus();
+    EXPECT_EQ(dialog.told(), "");
+    EXPECT_EQ(user.window().focusWidget(), &user.widget(dialog.Name));
+  });
+}
+
+TEST_F(FocusAndKeysTest, AcceleratorsAreUniqueAndTheBoxIsLeftBeforeTheyClick) {
+  dialog.Nothing.setCaption("Check");
+  dialog.ByName.setCaption("Check, too");
+  show([&] {
+    EXPECT_EQ(captionOf(dialog.Nothing), "&Check");
+    EXPECT_EQ(captionOf(dialog.Check), "Now && &then");
+    EXPECT_EQ(captionOf(dialog.ByName), "C&heck, too");
+    EXPECT_EQ(captionOf(dialog.Ok), "OK");
+    std::string told;
+    user.press(Qt::Key_C, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+      told += dialog.told();
+      return told == "-Name +Nothing Nothing=click ";
+    })) << told;
+    dialog.Nothing.setCaption("Quit");
+    EXPECT_EQ(captionOf(dialog.ByName), "&Check, too");
+  });
+}
+
+}  // namespace
+}  // namespace tamrikon
