@@ -1,5 +1,6 @@
 #include "workbench/renderer/list_peers.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
@@ -68,10 +69,15 @@ QItemSelectionModel::SelectionFlags ListView::selectionCommand(const QModelIndex
   return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
-QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-  // The item that Qt has made current when the focus came isn't selected: the first key selects it.
-  const bool isStart = selectedItems().isEmpty() && currentIndex().isValid();
-  return isStart ? currentIndex() : Sized::moveCursor(action, modifiers);
+void ListView::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  const bool isStep = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home;
+  // The item that Qt has made current when the focus came isn't selected: the first key does that.
+  if (isStep && selectedItems().isEmpty() && currentIndex().isValid()) {
+    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+    return;
+  }
+  Sized::keyPressEvent(event);
 }
 
 void ListView::mousePressEvent(QMouseEvent* event) {

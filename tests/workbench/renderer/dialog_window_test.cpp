@@ -1,0 +1,158 @@
+#include <QApplication>
+#include <QTabWidget>
+#include <QTimer>
+#include <stdexcept>
+
+#include "workbench/renderer/renderer_fixture.h"
+
+namespace tamrikon {
+namespace {
+
+struct DialogWindowTest : test::RendererTest {
+  bool isSeen(const Control& control) { return user.widget(control).isVisible(); }
+  bool isEnabled(const Control& control) { return user.widget(control).isEnabled(); }
+};
+
+TEST_F(DialogWindowTest, FramesAndTabsStandForWhatTheyHold) {
+  show([&] {
+    dialog.Order.setEnabled(false);
+    EXPECT_FALSE(isEnabled(dialog.ByName));
+    EXPECT_TRUE(isEnabled(dialog.ByKind));
+    dialog.Order.setVisible(false);
+    EXPECT_FALSE(isSeen(dialog.ByName));
+    dialog.Tabs.select("list");
+    EXPECT_FALSE(isSeen(dialog.Name));
+    EXPECT_TRUE(isSeen(dialog.List));
+    dialog.Tabs.setEnabled(false);
+    EXPECT_FALSE(isEnabled(dialog.List));
+    EXPECT_EQ(user.widget<QTabWidget>(dialog.Tabs).tabText(1), "Lists && more");
+  });
+}
+
+TEST_F(DialogWindowTest, PagesAreAsLargeAsTheLargestOne) {
+  QSize first;
+  show([&] {
+    first = user.window().size();
+    user.selectTab(dialog.Tabs, "list");
+    EXPECT_EQ(user.window().size(), first);
+  });
+  test::SampleDialog other(toolkit);
+  other.Tabs.select("list");
+  other.show([&] { EXPECT_EQ(user.window().size(), first); });
+}
+
+TEST_F(DialogWindowTest, CloseBoxAsksTheDialog) {
+  bool isGranted = false;
+  dialog.queryClose = [&] { return isGranted; };
+  show([&] {
+    user.clickCloseBox();
+    EXPECT_TRUE(dialog.isShown());
+    EXPECT_TRUE(user.window().isVisible());
+    isGranted = true;
+    user.clickCloseBox();
+    EXPECT_FALSE(dialog.isShown());
+  });
+}
+
+TEST_F(DialogWindowTest, DialogThatClosesWhenActivatedEndsAtOnce) {
+  int activations = 0;
+  dialog.activate = [&] {
+    ++activations;
+    EXPECT_TRUE(user.window().isVisible());
+    dialog.close();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  };
+  dialog.showModal();
+  EXPECT_EQ(activations, 1);
+}
+
+TEST_F(DialogWindowTest, CheckpointLetsAClickThroughWhileTheDialogWorks) {
+  bool isCancelled = false;
+  int rounds = 0;
+  dialog.Cancel.onClick = [&] { isCancelled = true; };
+  dialog.activate = [&] {
+    QTimer::singleShot(0, qApp, [&] { user.click(dialog.Cancel); });
+    QElapsedTimer time;
+    time.start();
+    for (; !isCancelled && time.elapsed() < 5000; ++rounds) toolkit.checkpoint();
+    dialog.close();
+  };
+  dialog.showModal();
+  EXPECT_TRUE(isCancelled);
+}
+
+TEST_F(DialogWindowTest, QuittingWhileTheDialogWorksClosesIt) {
+  dialog.activate = [&] {
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+    for (int i = 0; i < 10; ++i) {
+      QTest::qSleep(5);
+      toolkit.checkpoint();
+    }
+    EXPECT_EQ(toolkit.messageBox({"Title", "Nobody answers", MessageButtons::yesNo}),
+              MessageAnswer::no);
+  };
+  QTimer::singleShot(0, qApp, [&] { dialog.showModal(); });
+  QCoreApplication::exec();
+  EXPECT_FALSE(dialog.isShown());
+}
+
+TEST_F(DialogWindowTest, WhatAHandlerThrowsComesOutWhenTheDialogHasGone) {
+  dialog.Nothing.onClick = [] { throw std::runtime_error("thrown"); };
+  try {
+    show([&] {
+      user.click(dialog.Nothing);
+      EXPECT_FALSE(dialog.isShown());
+    });
+    FAIL();
+  } catch (const std::runtime_error& failure) {
+    EXPECT_STREQ(failure.what(), "thrown");
+  }
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(DialogWindowTest, DialogsNestAndEachKeepsItsFocus) {
+  test::SampleDialog inner(toolkit);
+  dialog.Nothing.onClick = [&] {
+    inner.show([&] {
+      EXPECT_EQ(inner.told(), "+Name ");
+      user.typeText("x");
+      EXPECT_EQ(inner.Name.text(), "x");
+    });
+    EXPECT_EQ(dialog.told(), "-Name +Nothing ");
+  };
+  show([&] {
+    user.click(dialog.Nothing);
+    EXPECT_EQ(dialog.told(), "");
+    EXPECT_EQ(dialog.Name.text(), "");
+  });
+}
+
+TEST_F(DialogWindowTest, DialogThatIsShownAgainIsAsItWasLeft) {
+  QSize size;
+  show([&] {
+    user.type(dialog.Name, "kept");
+    user.window().resize(user.window().size() * 2);
+    size = user.window().size();
+  });
+  dialog.setCaption("Once more");
+  show([&] {
+    EXPECT_EQ(user.widget<QLineEdit>(dialog.Name).text(), "kept");
+    EXPECT_EQ(user.window().size(), size);
+    EXPECT_EQ(user.window().windowTitle(), "Once more");
+    dialog.setCaption("Now");
+    EXPECT_EQ(user.window().windowTitle(), "Now");
+  });
+}
+
+TEST_F(DialogWindowTest, OwnerMayTakeItsDialogWithIt) {
+  auto* owner = new QWidget;
+  toolkit.setOwner(owner);
+  show([&] {
+    delete owner;
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  });
+  EXPECT_FALSE(dialog.isShown());
+}
+
+}  // namespace
+}  // namespace tamrikon

@@ -1,0 +1,170 @@
+#include <QComboBox>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTreeWidget>
+
+#include "workbench/renderer/renderer_fixture.h"
+
+namespace tamrikon {
+namespace {
+
+struct ListPeersTest : test::RendererTest {
+  std::string texts(const ListBox& list) {
+    const auto& view = user.widget<QListWidget>(list);
+    std::string all;
+    for (int i = 0; i < view.count(); ++i) all += view.item(i)->text().toStdString() + " ";
+    const auto selected = view.selectedItems();
+    return all + (selected.isEmpty() ? "-" : selected.front()->text().toStdString());
+  }
+};
+
+TEST_F(ListPeersTest, ListFollowsTheProgramAndTellsNothing) {
+  showLists([&] {
+    dialog.List.select(1);
+    dialog.List.add("d");
+    EXPECT_EQ(texts(dialog.List), "a b c d b");
+    dialog.List.remove(0);
+    EXPECT_EQ(texts(dialog.List), "b c d b");
+    dialog.List.remove(0);
+    EXPECT_EQ(texts(dialog.List), "c d -");
+    dialog.List.setItems({"x", "c", "y", "d"});
+    EXPECT_EQ(texts(dialog.List), "x c y d -");
+    dialog.List.setItems({"c"});
+    EXPECT_EQ(texts(dialog.List), "c -");
+    dialog.List.setItems({"c", "c"});
+    EXPECT_EQ(texts(dialog.List), "c c -");
+    EXPECT_EQ(dialog.told(), "");
+  });
+}
+
+TEST_F(ListPeersTest, ScrolledListStaysWhereItIsWhenItemsComeAndGo) {
+  std::vector<std::string> items;
+  for (int i = 0; i < 1000; ++i) items.push_back("item " + std::to_string(i));
+  dialog.List.setItems(items);
+  showLists([&] {
+    QScrollBar& bar = *user.widget<QListWidget>(dialog.List).verticalScrollBar();
+    bar.setValue(500);
+    dialog.List.add("last");
+    dialog.List.remove(990);
+    EXPECT_EQ(bar.value(), 500);
+  });
+}
+
+TEST_F(ListPeersTest, KeysSelectFromTheFirstItemOn) {
+  showLists([&] {
+    dialog.List.setFocus();
+    dialog.told();
+    user.press(Qt::Key_Down);
+    user.press(Qt::Key_Down);
+    user.press(Qt::Key_End);
+    EXPECT_EQ(dialog.told(), "key List.key List=a key List.key List=b key List.key List=c ");
+  });
+}
+
+TEST_F(ListPeersTest, ChecksFollowTheProgram) {
+  std::vector<CheckList::Item> items(5000, {"item", false});
+  dialog.Checks.setItems(items);
+  showLists([&] {
+    dialog.Checks.setChecked(4999, true);
+    auto& view = user.widget<QListWidget>(dialog.Checks);
+    EXPECT_EQ(view.count(), 5000);
+    EXPECT_EQ(view.item(4999)->checkState(), Qt::Checked);
+    EXPECT_EQ(view.item(4998)->checkState(), Qt::Unchecked);
+    dialog.Checks.clear();
+    EXPECT_EQ(view.count(), 0);
+    EXPECT_EQ(dialog.told(), "");
+  });
+}
+
+TEST_F(ListPeersTest, HandlerMayReplaceTheListThatItIsToldOf) {
+  dialog.List.onClick = [&] { dialog.List.setItems({"new"}); };
+  dialog.Checks.onItemCheck = [&](int) { dialog.Checks.setItems({{"new", true}}); };
+  showLists([&] {
+    user.doubleClick(dialog.List, "c");
+    EXPECT_EQ(texts(dialog.List), "new -");
+    user.check(dialog.Checks, "y", true);
+    EXPECT_EQ(user.widget<QListWidget>(dialog.Checks).count(), 1);
+  });
+}
+
+TEST_F(ListPeersTest, DropDownListFollowsTheProgram) {
+  dialog.Combo.select(1);
+  dialog.Typed.setText("own");
+  showLists([&] {
+    const auto& combo = user.widget<QComboBox>(dialog.Combo);
+    EXPECT_EQ(combo.currentText(), "two");
+    dialog.Combo.setItems({"x", "y"});
+    EXPECT_EQ(combo.currentIndex(), -1);
+    dialog.Combo.setText("y");
+    EXPECT_EQ(combo.currentIndex(), 1);
+    const auto& typed = user.widget<QComboBox>(dialog.Typed);
+    EXPECT_EQ(typed.currentText(), "own");
+    dialog.Typed.setText("blue");
+    EXPECT_EQ(typed.currentText(), "blue");
+    EXPECT_EQ(dialog.told(), "");
+  });
+}
+
+TEST_F(ListPeersTest, TypedTextThatIsAnItemsIsNoChoice) {
+  showLists([&] {
+    user.type(dialog.Typed, "red");
+    user.click(dialog.Nothing);
+    EXPECT_EQ(dialog.told(),
+              "-List +Typed Typed=r? Typed=re? Typed=red? -Typed +Nothing Nothing=click ");
+    EXPECT_EQ(dialog.Typed.selected(), 0);
+  });
+}
+
+TEST_F(ListPeersTest, FolderTreeReadsWhatIsOpened) {
+  dialog.Folders.select("/docs/api");
+  showLists([&] {
+    auto& tree = user.widget<QTreeWidget>(dialog.Folders);
+    EXPECT_EQ(tree.currentItem()->text(0), "api");
+    EXPECT_TRUE(tree.currentItem()->parent()->isExpanded());
+    dialog.Folders.select("/gone");
+    EXPECT_TRUE(tree.selectedItems().isEmpty());
+    dialog.Folders.setRoot("/docs");
+    EXPECT_EQ(tree.topLevelItem(0)->childCount(), 1);
+    EXPECT_EQ(dialog.told(), "");
+  });
+}
+
+TEST_F(ListPeersTest, OptionsOfAGroupExcludeEachOtherAcrossFrames) {
+  dialog.ByKind.select();
+  show([&] {
+    const auto& byName = user.widget<QRadioButton>(dialog.ByName);
+    const auto& byKind = user.widget<QRadioButton>(dialog.ByKind);
+    EXPECT_TRUE(byKind.isChecked());
+    dialog.ByName.select();
+    EXPECT_TRUE(byName.isChecked());
+    EXPECT_FALSE(byKind.isChecked());
+    EXPECT_EQ(dialog.told(), "");
+  });
+}
+
+TEST_F(ListPeersTest, ArrowKeysInABoxStepItsSpin) {
+  show([&] {
+    user.focus(dialog.Width);
+    dialog.told();
+    user.press(Key::up);
+    user.press(Key::down);
+    EXPECT_EQ(dialog.told(), "key Width.key Spin=81 key Width.key Spin=80 ");
+  });
+}
+
+TEST_F(ListPeersTest, ProgressIsBusyUntilItIsKnownHowMuchThereIs) {
+  show([&] {
+    const auto& bar = user.widget<QProgressBar>(dialog.Progress);
+    dialog.Progress.setRunning(true);
+    EXPECT_EQ(bar.maximum(), 0);
+    dialog.Progress.setProgress(std::size_t{3} << 40, std::size_t{4} << 40);
+    EXPECT_EQ(bar.value() * 4, bar.maximum() * 3);
+    dialog.Progress.setVisible(false);
+    EXPECT_FALSE(bar.isVisible());
+  });
+}
+
+}  // namespace
+}  // namespace tamrikon
