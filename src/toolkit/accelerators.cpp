@@ -10,15 +10,17 @@ namespace {
 constexpr std::size_t kNone = std::string::npos;
 constexpr int kLetters = 26;
 
-/// 0 to 25, or -1 for what is no letter.
-int letterOf(char c) {
-  if (c >= 'a' && c <= 'z') return c - 'a';
-  if (c >= 'A' && c <= 'Z') return c - 'A';
-  return -1;
+bool isLetter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+/// The place of a letter in the alphabet, from 0, in whichever case it is.
+std::size_t indexOf(char letter) {
+  return static_cast<std::size_t>((letter | 0x20) - 'a') % kLetters;
 }
 
 bool isPartOfWord(char c) {
-  return letterOf(c) >= 0 || (c >= '0' && c <= '9') || c == '\'' ||
+  return isLetter(c) || (c >= '0' && c <= '9') || c == '\'' ||
          static_cast<unsigned char>(c) >= 0x80;
 }
 
@@ -33,10 +35,9 @@ Candidates candidatesOf(const std::string& caption) {
   std::array<bool, kLetters> known{};
   for (const bool beginsWord : {true, false}) {
     for (std::size_t i = 0; i < caption.size(); ++i) {
-      const int letter = letterOf(caption[i]);
-      if (letter < 0 || known[static_cast<std::size_t>(letter)]) continue;
+      if (!isLetter(caption[i]) || known[indexOf(caption[i])]) continue;
       if (beginsWord && i > 0 && isPartOfWord(caption[i - 1])) continue;
-      known[static_cast<std::size_t>(letter)] = true;
+      known[indexOf(caption[i])] = true;
       result.offsets.push_back(i);
     }
     if (beginsWord) result.firstLetters = result.offsets.size();
@@ -50,7 +51,7 @@ class Choice {
       : captions_(captions), chosen_(captions.size(), kNone) {
     owners_.fill(kFree);
     for (const char c : taken) {
-      if (letterOf(c) >= 0) ownerOf(c) = kTaken;
+      if (isLetter(c)) ownerOf(c) = kTaken;
     }
     for (const std::string& caption : captions) candidates_.push_back(candidatesOf(caption));
   }
@@ -72,7 +73,7 @@ class Choice {
   static constexpr int kFree = -1;
   static constexpr int kTaken = -2;
 
-  int& ownerOf(char letter) { return owners_[static_cast<std::size_t>(letterOf(letter))]; }
+  int& ownerOf(char letter) { return owners_[indexOf(letter)]; }
 
   void give(std::size_t caption, std::size_t offset) {
     chosen_[caption] = offset;
@@ -95,7 +96,7 @@ class Choice {
   bool takeFromOthers(std::size_t caption, std::array<bool, kLetters>& tried) {
     for (const std::size_t offset : candidates_[caption].offsets) {
       const char letter = captions_[caption][offset];
-      bool& wasTried = tried[static_cast<std::size_t>(letterOf(letter))];
+      bool& wasTried = tried[indexOf(letter)];
       if (wasTried) continue;
       wasTried = true;
       const int owner = ownerOf(letter);
