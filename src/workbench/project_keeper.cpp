@@ -1,0 +1,147 @@
+#include "workbench/project_keeper.h"
+
+#include <set>
+
+#include "workbench/lists_in_words.h"
+#include "workbench/qt_text.h"
+
+namespace tamrikon {
+
+std::vector<HostModule*> modulesOf(const HostIde& ide) {
+  std::vector<HostModule*> modules;
+  std::set<std::string> paths;
+  for (int i = 1; i <= ide.VBProjects().Count(); ++i) {
+    HostComponents& components = ide.VBProjects().Item(i).VBComponents();
+    for (int j = 1; j <= components.Count(); ++j) {
+      HostModule* module = components.Item(j).CodeModule();
+      if (module != nullptr && paths.insert(module->path()).second) modules.push_back(module);
+    }
+  }
+  return modules;
+}
+
+bool ProjectKeeper::open(const QString& path) {
+  const std::string absolute = files_.absolute(fromQt(path));
+  if (!HostIde::isProjectFile(absolute)) {
+    prompts_.ask({"Only projects (.vbp) and project groups (.vbg) can be opened.", path, {"OK"}});
+    return false;
+  }
+  if (ide_ && !letGo()) return false;
+  QStringList warnings;
+  std::string why;
+  std::unique_ptr<HostIde> ide = HostIde::open(
+      files_, absolute, nullptr, [&](const std::string& line) { warnings += toQt(line); }, why);
+  if (!ide) {
+    prompts_.ask({"The project can't be opened.", toQt(why), {"OK"}});
+    return false;
+  }
+  if (ide_) emit closing(*ide_);
+  ide_ = std::move(ide);
+  path_ = toQt(absolute);
+  emit opened(*ide_, warnings);
+  return true;
+}
+
+bool ProjectKeeper::close() {
+  if (!ide_) return true;
+  if (!letGo()) return false;
+  emit closing(*ide_);
+  ide_.reset();
+  path_.clear();
+  emit closed();
+  return true;
+}
+
+bool ProjectKeeper::isUnsaved(const HostModule& module) const {
+  return module.isChanged() || ide_->isGone(module);
+}
+
+/// Asks what to do about changes that aren't saved. Whether the project may be closed.
+bool ProjectKeeper::letGo() {
+  QStringList names;
+  for (const HostModule* module : modulesOf(*ide_)) {
+    if (!isUnsaved(*module)) continue;
+    const QString note = ide_->isGone(*module) ? " (gone from the disk)" : "";
+    names += toQt(module->path()) + note;
+  }
+  for (int i = 1; i <= ide_->VBProjects().Count(); ++i) {
+    const HostProject& project = ide_->VBProjects().Item(i);
+    if (project.isChanged()) names += toQt(project.FileName());
+  }
+  if (names.isEmpty()) return true;
+  enum { save, discard, cancel };
+  const QString text = names.size() == 1
+                           ? QString("Save the changes to this file before it is closed?")
+                           : QString("Save the changes to these %1 files?").arg(names.size());
+  const int answer =
+      prompts_.ask({text, inLines(names), {"&Save", "&Don't Save", "Cancel"}, save, cancel});
+  return answer == save ? saveAll() : answer == discard;
+}
+
+bool ProjectKeeper::save(HostModule& module) {
+  QStringList failures;
+  const bool isSaved = saveOne(module, failures);
+  tellFailures(failures);
+  emit saved();
+  return isSaved;
+}
+
+bool ProjectKeeper::saveAll() {
+  QStringList failures;
+  bool areSaved = true;
+  for (HostModule* module : modulesOf(*ide_)) {
+    if (isUnsaved(*module)) areSaved = saveOne(*module, failures) && areSaved;
+  }
+  for (int i = 1; i <= ide_->VBProjects().Count(); ++i) {
+    HostProject& project = ide_->VBProjects().Item(i);
+    if (project.isChanged()) areSaved = saveOne(project, failures) && areSaved;
+  }
+  tellFailures(failures);
+  emit saved();
+  return areSaved;
+}
+
+bool ProjectKeeper::saveOne(HostModule& module, QStringList& failures) {
+  if (!module.isChanged() && !ide_->changedOnDisk(module)) return true;
+  const auto onConflict = howToWrite(module, module.path());
+  if (!onConflict) return false;
+  const auto failure = ide_->save(module, *onConflict);
+  if (failure) failures += toQt(*failure);
+  return !failure;
+}
+
+bool ProjectKeeper::saveOne(HostProject& project, QStringList& failures) {
+  const auto onConflict = howToWrite(project, project.FileName());
+  if (!onConflict) return false;
+  const auto failure = ide_->saveProject(project, *onConflict);
+  if (failure) failures += toQt(*failure);
+  return !failure;
+}
+
+/// Asks before something is overwritten that isn't known here. Nothing if it is to be left alone.
+template <typename Saved>
+std::optional<OnConflict> ProjectKeeper::howToWrite(const Saved& saved, const std::string& path) {
+  if (!ide_->changedOnDisk(saved)) return OnConflict::fail;
+  enum { write, cancel };
+  Question question{"Another program has changed this file. Overwrite its changes?",
+                    toQt(path),
+                    {"&Overwrite", "Cancel"},
+                    cancel,
+                    cancel};
+  if (ide_->isGone(saved)) {
+    question.text = "This file is gone from the disk. Write it anew?";
+    question.answers[write] = "&Write Anew";
+    question.proposed = write;
+  }
+  if (prompts_.ask(question) == write) return OnConflict::overwrite;
+  return std::nullopt;
+}
+
+void ProjectKeeper::tellFailures(const QStringList& failures) {
+  if (failures.isEmpty()) return;
+  prompts_.ask({"Not everything could be saved. The changes are still in the editor.",
+                inLines(failures),
+                {"OK"}});
+}
+
+}  // namespace tamrikon

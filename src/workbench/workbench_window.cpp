@@ -1,0 +1,225 @@
+#include "workbench/workbench_window.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTextBlock>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "workbench/program_name.h"
+#include "workbench/qt_text.h"
+
+namespace tamrikon {
+namespace {
+
+constexpr auto kGeometryKey = "Window/Geometry";
+constexpr auto kStateKey = "Window/State";
+constexpr int kStateVersion = 1;
+
+/// The path of a project among what is dragged, or empty.
+QString projectIn(const QMimeData& data) {
+  for (const QUrl& url : data.urls()) {
+    if (url.isLocalFile() && HostIde::isProjectFile(fromQt(url.toLocalFile()))) {
+      return url.toLocalFile();
+    }
+  }
+  return {};
+}
+
+QDockWidget* makeDock(QMainWindow& window, const char* name, const QString& title, QWidget& content,
+                      Qt::DockWidgetArea area) {
+  auto* dock = new QDockWidget(title, &window);
+  dock->setObjectName(name);
+  dock->setWidget(&content);
+  window.addDockWidget(area, dock);
+  return dock;
+}
+
+}  // namespace
+
+WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options)
+    : ownPrompts_(std::make_unique<BoxPrompts>(*this)),
+      prompts_(options.prompts != nullptr ? *options.prompts : *ownPrompts_),
+      settings_(options.settingsFile.isEmpty() ? QSettings("Tamrikon", "Tamrikon").fileName()
+                                               : options.settingsFile,
+                options.settingsFile.isEmpty() ? QSettings::NativeFormat : QSettings::IniFormat),
+      recent_(settings_),
+      keeper_(prompts_, options.files != nullptr ? *options.files : nativeFileSystem()),
+      diskChanges_(keeper_, prompts_),
+      actions_(*this),
+      tabs_(*new CodeTabs(this)),
+      findBar_(*new FindBar(this)),
+      explorer_(*new ProjectExplorer(this)),
+      messages_(*new MessageList(this)),
+      screen_(*this, tabs_),
+      recentMenu_(*actions_.recent, recent_, prompts_),
+      codeCommands_(actions_, tabs_, findBar_, prompts_, settings_) {
+  setObjectName("workbench");
+  setAcceptDrops(true);
+  layOut();
+  nameBars();
+  connectCommands();
+  connectParts();
+  restoreLayout();
+  showState();
+}
+
+WorkbenchWindow::~WorkbenchWindow() {
+  if (ide() != nullptr) projectClosing(*ide());
+}
+
+void WorkbenchWindow::layOut() {
+  hint_ = new QLabel;
+  hint_->setObjectName("hint");
+  hint_->setAlignment(Qt::AlignCenter);
+  hint_->setForegroundRole(QPalette::PlaceholderText);
+  middle_ = new QStackedWidget;
+  middle_->addWidget(hint_);
+  middle_->addWidget(&tabs_);
+  auto* centre = new QWidget(this);
+  auto* layout = new QVBoxLayout(centre);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(middle_, 1);
+  layout->addWidget(&findBar_);
+  setCentralWidget(centre);
+
+  explorerDock_ =
+      makeDock(*this, "explorerDock", "Project Explorer", explorer_, Qt::LeftDockWidgetArea);
+  messagesDock_ = makeDock(*this, "messagesDock", "Messages", messages_, Qt::BottomDockWidgetArea);
+  messagesDock_->hide();
+  setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+
+  caret_ = new QLabel;
+  caret_->setObjectName("caretPlace");
+  statusBar()->addPermanentWidget(caret_);
+}
+
+void WorkbenchWindow::nameBars() {
+  screen_.commandBars().add("Menu Bar", *menuBar());
+  screen_.commandBars().add("Standard", *actions_.standard);
+  screen_.commandBars().add("Add-Ins", *actions_.addIns);
+  screen_.commandBars().add("Code Window", *actions_.codeWindow);
+}
+
+bool WorkbenchWindow::openProject(const QString& path) {
+  if (!keeper_.open(path)) return false;
+  recent_.add(keeper_.path());
+  return true;
+}
+
+void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
+  ide.setScreen(&screen_);
+  explorer_.show(&ide);
+  explorer_.setFocus();
+  QList<Message> messages;
+  for (const QString& warning : warnings) messages += Message{warning, nullptr, {}};
+  messages_.show(messages);
+  if (!warnings.isEmpty()) messagesDock_->show();
+  showState();
+  if (onProjectOpened) onProjectOpened(ide);
+  for (int i = 1; i <= ide.VBProjects().Count(); ++i) {
+    screen_.events().projects().projectAdded(ide.VBProjects().Item(i));
+  }
+}
+
+void WorkbenchWindow::projectClosing(HostIde& ide) {
+  if (onProjectClosed) onProjectClosed(ide);
+  screen_.clear();
+  explorer_.show(nullptr);
+  messages_.show({});
+  ide.setScreen(nullptr);
+}
+
+void WorkbenchWindow::reopenProject() {
+  QStringList paths;
+  for (const CodeWindow* window : tabs_.windows()) paths += toQt(window->module().path());
+  const QString front =
+      tabs_.current() == nullptr ? QString() : toQt(tabs_.current()->module().path());
+  if (!openProject(keeper_.path())) return;
+  const auto show = [&](const QString& path) {
+    for (HostModule* module : modulesOf(*ide())) {
+      if (toQt(module->path()) == path) showCode(*module);
+    }
+  };
+  for (const QString& path : paths) show(path);
+  show(front);
+}
+
+void WorkbenchWindow::frontChanged() {
+  if (ide() != nullptr && tabs_.current() != nullptr) {
+    const HostModule& module = tabs_.current()->module();
+    explorer_.select(module);
+    ide()->activate(module.component().project());
+  }
+  showState();
+}
+
+void WorkbenchWindow::showState() {
+  const CodeWindow* front = tabs_.current();
+  const bool isOpen = ide() != nullptr;
+  middle_->setCurrentIndex(front == nullptr ? 0 : 1);
+  hint_->setText(isOpen ? "Choose a module in the Project Explorer (Ctrl+R)."
+                        : "Open a project (Ctrl+O), or drop a .vbp or .vbg file here.");
+  actions_.saveAll->setEnabled(isOpen);
+  actions_.closeProject->setEnabled(isOpen);
+  actions_.findInProject->setEnabled(isOpen);
+  QString title = kWorkbenchName;
+  if (front != nullptr) {
+    title = front->title() + (front->module().isChanged() ? "* - " : " - ") + title;
+  } else if (isOpen) {
+    title = toQt(ide()->ActiveVBProject().Name()) + " - " + title;
+  }
+  setWindowTitle(title);
+}
+
+void WorkbenchWindow::showCaret() {
+  const CodeWindow* front = tabs_.current();
+  if (front == nullptr) return caret_->clear();
+  const QTextCursor cursor = front->editor().textCursor();
+  const QString place = QString("Ln %1, Col %2")
+                            .arg(cursor.blockNumber() + 1)
+                            .arg(columnAt(cursor.block().text(), cursor.positionInBlock()));
+  caret_->setText(front->editor().overwriteMode() ? "OVR  " + place : place);
+}
+
+void WorkbenchWindow::restoreLayout() {
+  resize(1180, 760);
+  resizeDocks({explorerDock_}, {290}, Qt::Horizontal);
+  resizeDocks({messagesDock_}, {140}, Qt::Vertical);
+  restoreGeometry(settings_.value(kGeometryKey).toByteArray());
+  restoreState(settings_.value(kStateKey).toByteArray(), kStateVersion);
+}
+
+void WorkbenchWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+    // Not within the event, as it may ask.
+    QTimer::singleShot(0, &diskChanges_, &DiskChanges::check);
+  }
+}
+
+void WorkbenchWindow::closeEvent(QCloseEvent* event) {
+  settings_.setValue(kGeometryKey, saveGeometry());
+  settings_.setValue(kStateKey, saveState(kStateVersion));
+  event->setAccepted(keeper_.close());
+}
+
+void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!projectIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void WorkbenchWindow::dropEvent(QDropEvent* event) {
+  const QString path = projectIn(*event->mimeData());
+  if (path.isEmpty()) return;
+  event->acceptProposedAction();
+  // Not within the event, as the other program waits for its end.
+  QTimer::singleShot(0, this, [this, path] { openProject(path); });
+}
+
+}  // namespace tamrikon

@@ -1,0 +1,269 @@
+#include <QDockWidget>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QTimer>
+#include <QUrl>
+
+#include "base/text.h"
+#include "workbench_fixture.h"
+
+namespace tamrikon::test {
+namespace {
+
+class FilesTest : public WorkbenchTest {
+ protected:
+  /// Types a comment line at the start of a module.
+  void edit(const std::string& name) { QTest::keyClicks(&show(name), "' "); }
+  bool isEdited(const std::string& name) const {
+    return module(name).Lines(1, 1).starts_with("' ");
+  }
+
+  /// Waits until all that happened on disk has been noticed, and asked.
+  void look() {
+    window_->diskChanges().check();
+    QTest::qWait(400);
+  }
+};
+
+TEST_F(FilesTest, OpensByMenuDropAndRecentList) {
+  put("Desk.vbp", replaceAll(bytes("Desk.vbp"), "Desk\\frmItem.frm", "Desk\\frmGone.frm"));
+  prompts_.project = path("Inventory.vbg");
+  trigger("open");
+  ASSERT_NE(window_->ide(), nullptr);
+  const auto& tree = *window_->findChild<ProjectExplorer*>();
+  EXPECT_EQ(tree.topLevelItem(0)->text(0), "Stock (Stock.vbp)");
+  EXPECT_TRUE(tree.topLevelItem(1)->font(0).bold());  // the start-up project
+  QStringList folders;
+  for (int i = 0; i < tree.topLevelItem(1)->childCount(); ++i) {
+    folders += tree.topLevelItem(1)->child(i)->text(0);
+  }
+  EXPECT_EQ(folders, (QStringList{"Forms", "Modules", "User Controls"}));
+  const QTreeWidgetItem* missing = tree.topLevelItem(1)->child(0)->child(1);
+  EXPECT_EQ(missing->text(0), "frmGone (frmGone.frm)");
+  EXPECT_TRUE(missing->toolTip(0).contains(path("Desk/frmGone.frm")));
+  const auto& messages = *window_->findChild<MessageList*>();
+  ASSERT_EQ(messages.count(), 1);
+  EXPECT_TRUE(messages.item(0)->text().endsWith("Desk/frmGone.frm"));
+  EXPECT_TRUE(messages.isVisible());
+
+  QMimeData dragged;
+  dragged.setUrls({QUrl::fromLocalFile(path("Stock.vbp"))});
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QWidget* viewport = show("Warehouse").viewport();  // also over text, which isn't dropped there
+  QApplication::sendEvent(viewport, &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(viewport, &drop);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window_->ide()->VBProjects().Count() == 1; }));
+  EXPECT_EQ(messages.count(), 0);
+
+  const auto recent = [&] { return window_->findChild<QMenu*>("recentMenu"); };
+  const auto paths = [&] {
+    emit recent()->aboutToShow();
+    QStringList texts;
+    for (const QAction* action : recent()->actions()) texts += action->text().mid(3);
+    return texts;
+  };
+  EXPECT_EQ(paths(), (QStringList{path("Stock.vbp"), path("Inventory.vbg")}));
+  for (int i = 0; i < 12; ++i) {
+    const std::string name = "P" + std::to_string(i) + ".vbp";
+    put(name, bytes("Stock.vbp"));
+    open(name);
+  }
+  start();
+  EXPECT_EQ(paths().size(), 10);
+  std::filesystem::remove(folder_ / "Inventory/P11.vbp");
+  prompts_.answers = {"OK"};
+  recent()->actions()[0]->trigger();
+  EXPECT_TRUE(prompts_.asked.last().contains("P11.vbp"));
+  EXPECT_EQ(paths().first(), path("P10.vbp"));
+  recent()->actions()[0]->trigger();
+  EXPECT_EQ(window_->ide()->ActiveVBProject().FileName(), fromQt(path("P10.vbp")));
+}
+
+TEST_F(FilesTest, KeepsTheOldProjectIfTheNewOneCannotBeOpened) {
+  open();
+  edit("Warehouse");
+  prompts_.answers = {"Don't Save", "OK"};
+  EXPECT_FALSE(window_->openProject(path("Nowhere.vbp")));
+  EXPECT_TRUE(prompts_.asked.last().contains("Nowhere.vbp: there is no such file"));
+  prompts_.answers = {"OK"};
+  EXPECT_FALSE(window_->openProject(path("Desk/DeskMain.bas")));
+  EXPECT_TRUE(isEdited("Warehouse"));
+  EXPECT_EQ(tabs().count(), 1);
+  prompts_.answers = {"Don't Save"};
+  EXPECT_TRUE(window_->close());
+}
+
+TEST_F(FilesTest, ClosingAsksAboutChanges) {
+  open();
+  edit("Warehouse");
+  edit("DeskMain");
+  prompts_.answers = {"Cancel"};
+  EXPECT_FALSE(window_->close());
+  EXPECT_TRUE(prompts_.asked.last().contains(path("Stock/Warehouse.cls") + '\n' +
+                                             path("Desk/DeskMain.bas")));
+  prompts_.answers = {"Cancel", "Don't Save"};
+  trigger("closeWindow");
+  EXPECT_EQ(tabs().count(), 2);
+  trigger("closeWindow");
+  EXPECT_EQ(tabs().count(), 1);
+  EXPECT_TRUE(isEdited("DeskMain"));  // it stays with the project
+  prompts_.answers = {"Save"};
+  trigger("closeWindow");
+  EXPECT_TRUE(bytes("Stock/Warehouse.cls").find("\r\n' '**\r\n") != std::string::npos);
+  const std::string before = bytes("Desk/DeskMain.bas");
+  prompts_.answers = {"Don't Save"};
+  trigger("closeProject");
+  EXPECT_EQ(window_->ide(), nullptr);
+  EXPECT_EQ(bytes("Desk/DeskMain.bas"), before);
+  EXPECT_TRUE(window_->close());
+}
+
+/// A disk on which nothing can be written.
+class FullDisk final : public FileSystem {
+ public:
+  FileError read(const std::string& path, std::string& bytes) override {
+    return files_.read(path, bytes);
+  }
+  FileError write(const std::string&, std::string_view) override { return FileError::diskFull; }
+  FileError append(const std::string&, std::string_view) override { return FileError::diskFull; }
+  FileError replaceAtomically(const std::string&, std::string_view) override {
+    return FileError::diskFull;
+  }
+  FileError remove(const std::string&) override { return FileError::diskFull; }
+  FileError createFolder(const std::string&) override { return FileError::diskFull; }
+  FileError createFolders(const std::string&) override { return FileError::diskFull; }
+  bool isFile(const std::string& path) override { return files_.isFile(path); }
+  bool isFolder(const std::string& path) override { return files_.isFolder(path); }
+  std::vector<std::string> list(const std::string& folder) override { return files_.list(folder); }
+  std::string absolute(const std::string& path) override { return files_.absolute(path); }
+
+ private:
+  FileSystem& files_ = nativeFileSystem();
+};
+
+TEST_F(FilesTest, FailedSavesAreToldAndLoseNothing) {
+  FullDisk disk;
+  files_ = &disk;
+  start();
+  open();
+  edit("Warehouse");
+  prompts_.answers = {"Save", "OK"};
+  EXPECT_FALSE(window_->close());
+  EXPECT_TRUE(prompts_.asked.last().contains("Warehouse.cls: no space on the device"));
+  EXPECT_TRUE(isEdited("Warehouse"));
+  EXPECT_EQ(tabs().tabText(0), "Warehouse*");
+  window_.reset();
+}
+
+TEST_F(FilesTest, FilesChangedOnDiskAreReadAgainOrKept) {
+  open();
+  CodeEditor& editor = show("StockText");
+  put("Stock/StockText.bas", bytes("Stock/StockText.bas") + "' theirs\r\n");
+  put("Stock/StockErrors.bas", bytes("Stock/StockErrors.bas") + "' theirs\r\n");
+  prompts_.answers = {"Reload"};
+  EXPECT_TRUE(QTest::qWaitFor([&] { return prompts_.answers.empty(); }));  // noticed by itself
+  EXPECT_TRUE(prompts_.asked.last().contains(path("Stock/StockErrors.bas")));
+  EXPECT_TRUE(editor.toPlainText().endsWith("\n' theirs"));
+  expectSame(editor, module("StockText"));
+  EXPECT_FALSE(module("StockText").isChanged());
+
+  const qsizetype asked = prompts_.asked.size();
+  prompts_.answers = {"Keep"};
+  put("Stock/StockText.bas", bytes("Stock/StockText.bas") + "' more\r\n");
+  look();
+  put("Stock/StockText.bas", bytes("Stock/StockText.bas"));  // touched, and the same still
+  look();
+  EXPECT_EQ(prompts_.asked.size(), asked + 1);
+  EXPECT_FALSE(editor.toPlainText().endsWith("\n' more"));
+}
+
+TEST_F(FilesTest, OwnChangesWinUnlessTheUserSaysOtherwise) {
+  open();
+  edit("StockText");
+  const std::string before = bytes("Stock/StockText.bas");
+  put("Stock/StockText.bas", before + "' theirs\r\n");
+  prompts_.answers = {"Keep My Changes"};
+  look();
+  prompts_.answers = {"Cancel"};
+  trigger("save");
+  EXPECT_EQ(bytes("Stock/StockText.bas"), before + "' theirs\r\n");
+  prompts_.answers = {"Overwrite"};
+  trigger("save");
+  EXPECT_EQ(bytes("Stock/StockText.bas").size(), before.size() + 2);
+
+  edit("StockText");
+  put("Stock/StockText.bas", before);
+  prompts_.answers = {"Discard Them and Reload"};
+  look();
+  EXPECT_FALSE(isEdited("StockText"));
+}
+
+TEST_F(FilesTest, FilesThatAreGoneCanBeWrittenAnew) {
+  open();
+  show("StockText");
+  const std::string before = bytes("Stock/StockText.bas");
+  std::filesystem::remove(folder_ / "Inventory/Stock/StockText.bas");
+  prompts_.answers = {"OK"};
+  look();
+  EXPECT_TRUE(prompts_.asked.last().contains("StockText.bas"));
+  prompts_.answers = {"Save", "Cancel"};  // its text is nowhere else
+  EXPECT_FALSE(window_->close());
+  prompts_.answers = {"Write Anew"};
+  trigger("save");
+  EXPECT_EQ(bytes("Stock/StockText.bas"), before);
+  look();
+  EXPECT_TRUE(window_->close());
+}
+
+TEST_F(FilesTest, ChangedProjectIsOpenedAgain) {
+  open();
+  show("Warehouse");
+  show("frmDesk");
+  edit("Warehouse");
+  put("Stock.vbp",
+      replaceAll(bytes("Stock.vbp"), "Module=StockErrors; Stock\\StockErrors.bas\r\n", ""));
+  prompts_.answers = {"Keep"};
+  look();
+  put("Inventory.vbg", bytes("Inventory.vbg") + "\r\n");
+  prompts_.answers = {"Open Again", "Save"};
+  look();
+  EXPECT_THROW(module("StockErrors"), IdeError);
+  EXPECT_EQ(tabs().count(), 2);
+  EXPECT_EQ(tabs().current()->module().Name(), "Warehouse");
+  EXPECT_TRUE(isEdited("Warehouse"));
+}
+
+TEST_F(FilesTest, BoxesAskWithTheButtonsOfTheQuestion) {
+  BoxPrompts prompts(*window_);
+  QStringList seen;
+  const auto press = [&](int key) {
+    QTimer::singleShot(0, window_.get(), [&seen, key] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      seen += box->text() + '/' + box->informativeText();
+      QTest::keyClick(box, static_cast<Qt::Key>(key));
+    });
+  };
+  const Question question{"Sure?", "<b>", {"&Yes", "&Perhaps", "&No"}, 1, 2};
+  press(Qt::Key_Return);
+  EXPECT_EQ(prompts.ask(question), 1);
+  press(Qt::Key_Escape);
+  EXPECT_EQ(prompts.ask(question), 2);
+  EXPECT_EQ(seen, (QStringList{"Sure?/<b>", "Sure?/<b>"}));
+}
+
+TEST_F(FilesTest, LayoutIsRemembered) {
+  window_->findChild<QDockWidget*>("messagesDock")->show();
+  window_->resize(900, 600);
+  window_->close();
+  start();
+  EXPECT_EQ(window_->size(), QSize(900, 600));
+  EXPECT_TRUE(window_->findChild<QDockWidget*>("messagesDock")->isVisible());
+}
+
+}  // namespace
+}  // namespace tamrikon::test

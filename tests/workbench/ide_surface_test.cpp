@@ -1,0 +1,172 @@
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <vector>
+
+#include "workbench_fixture.h"
+
+namespace tamrikon::test {
+namespace {
+
+class IdeSurfaceTest : public WorkbenchTest {
+ protected:
+  void SetUp() override {
+    WorkbenchTest::SetUp();
+    open();
+  }
+  VBE& vbe() const { return *window_->ide(); }
+};
+
+TEST_F(IdeSurfaceTest, ItemsOfAddInsAreRealOnes) {
+  const struct {
+    const char* bar;
+    const char* widget;
+    int number;
+  } bars[] = {{"Menu Bar", "menuBar", 1},
+              {"Standard", "standardToolBar", 2},
+              {"Add-Ins", "addInsMenu", 3},
+              {"Code Window", "codeWindowMenu", 4}};
+  for (const auto& entry : bars) {
+    CommandBar* bar = vbe().CommandBars().Item(entry.bar);
+    ASSERT_NE(bar, nullptr) << entry.bar;
+    EXPECT_EQ(vbe().CommandBars().Item(entry.number), bar);
+    auto* widget = window_->findChild<QWidget*>(entry.widget);
+    CommandBarControls& controls = bar->Controls();
+    const int before = controls.Count();
+    CommandBarControl& last = controls.Add(ControlType::button);
+    CommandBarControl& first = controls.Add(ControlType::button, 1);
+    first.setCaption("&First");
+    first.setToolTipText("What it does");
+    first.PasteFace({2, 1, {0xFFFF0000, 0x00000000}});
+    EXPECT_EQ(controls.Count(), before + 2);
+    EXPECT_EQ(&controls.Item(1), &first);
+    EXPECT_EQ(&controls.Item(before + 2), &last);
+    QAction* action = widget->actions().front();
+    EXPECT_EQ(action->text(), "&First");
+    EXPECT_EQ(action->toolTip(), "What it does");
+    const QImage face = action->icon().pixmap(QSize(8, 4)).toImage();
+    EXPECT_EQ(face.size(), QSize(8, 4));
+    EXPECT_EQ(face.pixelColor(3, 3), QColor(Qt::red));
+    EXPECT_EQ(face.pixelColor(4, 0).alpha(), 0);
+
+    int clicks = 0;
+    auto events = vbe().Events().CommandBarEvents(&first);
+    events->Click = [&] {
+      ++clicks;
+      first.Delete();  // as a last wish
+    };
+    action->trigger();
+    EXPECT_EQ(clicks, 1);
+    last.Delete();
+    EXPECT_EQ(controls.Count(), before);
+    EXPECT_THROW(first.setCaption("x"), IdeError);
+    EXPECT_NE(vbe().Events().CommandBarEvents(&first), nullptr);
+  }
+  EXPECT_EQ(vbe().CommandBars().Item("standard"), nullptr);
+  EXPECT_EQ(vbe().CommandBars().Item(5), nullptr);
+  EXPECT_THROW(vbe().Events().CommandBarEvents(nullptr), IdeError);
+  EXPECT_THROW(vbe().CommandBars().Item(3)->Controls().Add(ControlType::button, 9), IdeError);
+}
+
+TEST_F(IdeSurfaceTest, HandlersMayDropTheirSource) {
+  CommandBarControl& item =
+      vbe().CommandBars().Item("Add-Ins")->Controls().Add(ControlType::button);
+  int clicks = 0;
+  auto events = vbe().Events().CommandBarEvents(&item);
+  events->Click = [&] {
+    ++clicks;
+    events.reset();
+  };
+  auto* menu = window_->findChild<QMenu*>("addInsMenu");
+  EXPECT_TRUE(menu->menuAction()->isEnabled());
+  menu->actions().front()->trigger();
+  menu->actions().front()->trigger();
+  EXPECT_EQ(clicks, 1);
+  item.Delete();
+  EXPECT_FALSE(menu->menuAction()->isEnabled());
+}
+
+TEST_F(IdeSurfaceTest, PanesAreTheCodeWindows) {
+  EXPECT_EQ(vbe().ActiveCodePane(), nullptr);
+  EXPECT_EQ(vbe().ActiveWindow(), nullptr);
+  EXPECT_EQ(vbe().MainWindow().HWnd(), window_->winId());
+  CodePane& text = module("StockText").CodePane();
+  CodePane& warehouse = module("Warehouse").CodePane();
+  EXPECT_EQ(vbe().Windows().Count(), 2);
+  EXPECT_EQ(vbe().ActiveCodePane(), &text);
+  vbe().setActiveCodePane(warehouse);
+  EXPECT_EQ(vbe().ActiveCodePane(), &warehouse);
+  EXPECT_EQ(vbe().ActiveWindow(), &warehouse.Window());
+  EXPECT_EQ(&vbe().Windows().Item(2), &warehouse.Window());
+  EXPECT_EQ(&warehouse.CodeModule(), &module("Warehouse"));
+
+  module("Warehouse").InsertLines(1, "' \u00C4\U0001F600x");
+  warehouse.SetSelection({1, 3, 1, 5});
+  const CodeEditor& editor = tabs().current()->editor();
+  EXPECT_EQ(fromQt(editor.textCursor().selectedText()), "\u00C4\U0001F600");
+  EXPECT_EQ(warehouse.GetSelection().endColumn, 5);
+  warehouse.setTopLine(12);
+  EXPECT_EQ(editor.topLine(), 12);
+
+  // No question is asked: the module keeps the edit, and the pane what it showed.
+  warehouse.Window().Close();
+  EXPECT_EQ(vbe().Windows().Count(), 1);
+  EXPECT_EQ(vbe().ActiveCodePane(), &text);
+  EXPECT_EQ(&module("Warehouse").CodePane(), &warehouse);
+  warehouse.Window().SetFocus();
+  EXPECT_EQ(warehouse.GetSelection().startColumn, 3);
+  EXPECT_EQ(tabs().current()->editor().topLine(), 12);
+  EXPECT_TRUE(module("Warehouse").isChanged());
+
+  CodePane& gauge = module("StockGauge").CodePane();
+  gauge.SetSelection({50, 1, 50, 1});
+  gauge.setTopLine(40);  // while nobody has seen it yet
+  vbe().setActiveCodePane(gauge);
+  QApplication::processEvents();
+  EXPECT_EQ(tabs().current()->editor().topLine(), 40);
+  EXPECT_EQ(vbe().ActiveVBProject().Name(), "Desk");
+}
+
+TEST_F(IdeSurfaceTest, EventsTellOfProjects) {
+  std::vector<std::string> told;
+  auto events = vbe().Events().VBProjectsEvents();
+  events->ItemAdded = [&](VBProject& project) { told.push_back("added " + project.Name()); };
+  events->ItemActivated = [&](VBProject& project) { told.push_back("active " + project.Name()); };
+  auto dropped = vbe().Events().VBProjectsEvents();
+  dropped->ItemActivated = [&](VBProject&) { dropped.reset(); };
+  window_->onProjectClosed = [&](HostIde& ide) {
+    told.push_back("closed " + std::to_string(ide.VBProjects().Count()));
+  };
+  window_->onProjectOpened = [&](HostIde& ide) {
+    told.push_back("opened " + ide.ActiveVBProject().Name());
+  };
+  show("Warehouse");
+  show("frmDesk");
+  tabs().setCurrentIndex(0);
+  emit window_->findChild<ProjectExplorer*>()->activationWanted(
+      window_->ide()->VBProjects().Item(2));
+  open("Stock.vbp");
+  EXPECT_EQ(told,
+            (std::vector<std::string>{"active Stock", "active Desk", "active Stock", "active Desk",
+                                      "closed 2", "opened Stock", "added Stock"}));
+  EXPECT_EQ(dropped, nullptr);
+  window_.reset();
+  events.reset();  // a source may outlive the window
+}
+
+TEST_F(IdeSurfaceTest, PopUpMenuOpensByKeyAndMouse) {
+  auto* menu = window_->findChild<QMenu*>("codeWindowMenu");
+  CodeEditor& editor = show("Warehouse");
+  for (const auto reason : {QContextMenuEvent::Keyboard, QContextMenuEvent::Mouse}) {
+    const QPoint place(60, 100);
+    QContextMenuEvent event(reason, place, editor.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(editor.viewport(), &event);
+    EXPECT_TRUE(menu->isVisible());
+    menu->hide();
+  }
+  EXPECT_GT(editor.caretLine(), 1);  // a click moves it, so that the commands are about that place
+}
+
+}  // namespace
+}  // namespace tamrikon::test
