@@ -1,0 +1,63 @@
+#include "editor/comment_fields.h"
+
+#include <memory>
+
+#include "comments/comment_parser.h"
+
+namespace tamrikon {
+namespace {
+
+/// A parser that ignores no indents. It reads nothing else of the settings but the user tags.
+class IndentKeepingParser {
+ public:
+  IndentKeepingParser(const CommentLines& lines, const ProjectSettings& settings) {
+    reading_.userName = settings.userName;
+    reading_.indentMode = 0;
+    parser_.setComment(std::make_shared<CommentLines>(lines));
+  }
+  IndentKeepingParser(const IndentKeepingParser&) = delete;
+  IndentKeepingParser& operator=(const IndentKeepingParser&) = delete;
+
+  const CommentParser* operator->() const { return &parser_; }
+
+ private:
+  ProjectSettings reading_;
+  CommentParser parser_{reading_};
+};
+
+}  // namespace
+
+CommentFields parseIntoFields(const CommentLines& commentLines, const ProjectSettings& settings) {
+  const IndentKeepingParser parser(commentLines, settings);
+  const auto text = [&](const std::string& value) { return convertFieldText(value, settings); };
+  CommentFields fields;
+  std::string description = parser->getDescription();
+  if (description.ends_with('\r')) description.pop_back();
+  fields.description = text(description);
+  fields.remarks = text(parser->getRemarks());
+  fields.version = text(parser->getVersion());
+  fields.author = text(parser->getAuthor());
+  fields.revision = text(parser->getRevision());
+  for (std::size_t i = 0; i < fields.user.size(); ++i)
+    fields.user[i] = text(parser->getUser(i + 1));
+  fields.sameAs = text(parser->getSame());
+  fields.returns = text(parser->getReturn());
+  fields.includeSource = text(parser->getIncludeSource());
+  fields.seeList = formatLinkList(parser->getSeeList());
+  fields.exampleList = formatLinkList(parser->getExampleList());
+  fields.parameters = convertListItems(parser->getParamList(), 1, settings);
+  const auto settingsLists = parser->getSettingsList();
+  for (std::size_t i = 0; i < settingsLists.size(); ++i) {
+    fields.settingsLists[i] = convertListItems(settingsLists[i], 3, settings);
+  }
+  return fields;
+}
+
+GeneratedFields parseGeneratedFields(const CommentLines& generatedLines,
+                                     const ProjectSettings& settings) {
+  const IndentKeepingParser parser(generatedLines, settings);
+  return {convertListItems(parser->getParamList(), 1, settings),
+          convertFieldText(parser->getReturn(), settings)};
+}
+
+}  // namespace tamrikon
