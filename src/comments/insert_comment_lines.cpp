@@ -22,12 +22,21 @@ bool cutLine(std::string_view& text, std::string_view& line) {
 }  // namespace
 
 void insertCommentLines(CodeModule& module, int codeLocation, const CommentLines& lines) {
-  std::string indent;
-  if (codeLocation <= module.CountOfLines()) {
-    indent = module.Lines(codeLocation, 1);
-    indent.resize(indent.size() - trimLeading(indent).size());
-  }
-  std::string text = indent + "'**";
+  const std::string indent = indentOfLine(module, codeLocation);
+  module.InsertLines(codeLocation, commentText(indent, lines));
+  showCommentLines(module, codeLocation, indent);
+}
+
+std::string indentOfLine(const CodeModule& module, int line) {
+  if (line > module.CountOfLines()) return {};
+  std::string indent = module.Lines(line, 1);
+  indent.resize(indent.size() - trimLeading(indent).size());
+  return indent;
+}
+
+std::string commentText(std::string_view indent, const CommentLines& lines) {
+  std::string text(indent);
+  text += "'**";
   for (const std::string& item : lines) {
     // A description can hold line breaks: without a quote of their own, its lines would be code.
     std::string_view rest = item;
@@ -43,11 +52,13 @@ void insertCommentLines(CodeModule& module, int codeLocation, const CommentLines
   }
   // The declaration below must not become a continuation of the comment.
   if (isContinued(text)) text += ' ';
+  return text;
+}
 
-  module.InsertLines(codeLocation, text);
-  module.CodePane().setTopLine(codeLocation);
+void showCommentLines(const CodeModule& module, int line, std::string_view indent) {
+  module.CodePane().setTopLine(line);
   const int column = static_cast<int>(indent.size()) + 2;
-  module.CodePane().SetSelection({codeLocation + 1, column, codeLocation + 1, column});
+  module.CodePane().SetSelection({line + 1, column, line + 1, column});
 }
 
 }  // namespace tamrikon

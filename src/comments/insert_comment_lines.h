@@ -1,6 +1,9 @@
 // Writes a comment into the source.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "comments/comment_lines.h"
 #include "ide/ide.h"
 
@@ -11,5 +14,14 @@ namespace tamrikon {
 /// them. A comment that is there already stays. Throws IdeError; when moving the caret fails, the
 /// comment stands.
 void insertCommentLines(CodeModule& module, int codeLocation, const CommentLines& lines);
+
+/// The leading blanks of a source line; none for a line that isn't there.
+std::string indentOfLine(const CodeModule& module, int line);
+
+/// What insertCommentLines() writes: lines divided by CR, with none behind the last.
+std::string commentText(std::string_view indent, const CommentLines& lines);
+
+/// Shows the comment that begins on `line`, with the caret behind the first quote below it.
+void showCommentLines(const CodeModule& module, int line, std::string_view indent);
 
 }  // namespace tamrikon

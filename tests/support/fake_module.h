@@ -25,7 +25,7 @@ struct FakePane final : CodePane {
   bool fails = false;
 };
 
-struct FakeModule final : CodeModule {
+struct FakeModule : CodeModule {
   explicit FakeModule(std::vector<std::string> moduleLines = {}) : lines(std::move(moduleLines)) {}
 
   std::string Name() const override { return "Module1"; }

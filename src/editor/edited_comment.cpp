@@ -1,0 +1,73 @@
+#include "editor/edited_comment.h"
+
+#include <utility>
+
+#include "comments/comment_finder.h"
+#include "editor/replace_comment.h"
+#include "model/wrapper_comments.h"
+#include "model/wrappers.h"
+
+namespace tamrikon {
+namespace {
+
+/// The wrapper of the same member over another snapshot of its module.
+WrapperRef wrapperOver(ModuleSource& source, const Wrapper& wrapper) {
+  if (wrapper.kind() == WrapperKind::module) return std::make_shared<Smodule>(source);
+  Member& member = static_cast<const MemberWrapper&>(wrapper).member();
+  switch (wrapper.kind()) {
+    case WrapperKind::method: return std::make_shared<Smethod>(source, member);
+    case WrapperKind::event: return std::make_shared<Sevent>(source, member);
+    case WrapperKind::propGet: return std::make_shared<SpropGet>(source, member);
+    case WrapperKind::propLet: return std::make_shared<SpropLet>(source, member);
+    case WrapperKind::propSet: return std::make_shared<SpropSet>(source, member);
+    case WrapperKind::variable: return std::make_shared<Svariable>(source, member);
+    case WrapperKind::constant: return std::make_shared<Sconstant>(source, member);
+    case WrapperKind::module: break;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+EditedComment::EditedComment(CodeModule& module, int line, const ProjectSettings& settings)
+    : source_(std::make_unique<ModuleSource>(module)), member_(getWrapperAtLine(*source_, line)) {
+  generatedLines_ = member_->generateComment(settings);
+  CommentList raw;
+  if (isModule()) {
+    raw = WrapperComments::getModuleComment(*source_);
+    member_->hadComment = !raw->empty();
+  } else {
+    // Looking at a comment must leave the member's help id alone.
+    const ProjectSettings withoutContextId;
+    raw = WrapperComments(withoutContextId).getComment(*member_);
+  }
+  hadComment_ = member_->hadComment;
+  commentLines_ = hadComment_ ? *stripCommentQuotes(std::move(*raw)) : generatedLines_;
+}
+
+void EditedComment::replace(CommentLines lines, const EditGrouping& group) {
+  refresh();
+  const int codeLocation = member_->CodeLocation();
+  std::optional<LineRange> old;
+  if (hadComment_) {
+    old = isModule() ? getModuleCommentRange(source_->lines())
+                     : getCommentRange(source_->lines(), codeLocation);
+  }
+  const auto edit = [&] { replaceComment(member_->cmo(), old, codeLocation, lines); };
+  if (group) {
+    group(member_->cmo(), edit);
+  } else {
+    edit();
+  }
+  hadComment_ = true;
+  commentLines_ = std::move(lines);
+  tryStep([this] { refresh(); });
+}
+
+void EditedComment::refresh() {
+  auto source = std::make_unique<ModuleSource>(member_->cmo());
+  member_ = wrapperOver(*source, *member_);
+  source_ = std::move(source);
+}
+
+}  // namespace tamrikon
