@@ -1,0 +1,285 @@
+#include "editor/edit_comment.h"
+
+#include "editor/demo_project.h"
+#include "editor/edit_comment_options.h"
+
+namespace tamrikon {
+namespace {
+
+using test::User;
+using Items = std::vector<std::string>;
+
+class EditCommentTest : public test::DemoProject {};
+
+TEST_F(EditCommentTest, OpensOnWhatTheCaretIsIn) {
+  struct Case {
+    const char *at, *name, *description;
+    bool hasParameters;
+    int parameters;
+  };
+  session_.settings.userName[4] = "todo";
+  for (const Case& c : {
+           Case{"Static a", "Add", "Adds an item.", true, 2},
+           Case{"Implements", "Store", "The store.", false, 0},
+           Case{"mShelf", "mShelf", "", false, 0},
+           Case{"Filled", "Filled", "", true, 1},
+           Case{"Property Let", "Count", "", true, 1},
+           Case{"Sub Clear", "Clear", "", true, 0},
+       }) {
+    SCOPED_TRACE(c.at);
+    edit(c.at, [&](User& user, EditComment& editor) {
+      EXPECT_EQ(editor.caption(), std::string(c.name) + " - Tamrikon Comment Editor");
+      EXPECT_EQ(editor.basicPage.DescriptionText.text(), c.description);
+      EXPECT_EQ(editor.userPage.users[4].label.caption(), "todo");
+      user.selectTab(editor.tbsOptions, "Group2");
+      ParametersPage& page = editor.parametersPage;
+      EXPECT_EQ(page.ParamList.count(), c.parameters);
+      EXPECT_EQ(user.canReach(page.ReturnsText), c.hasParameters);
+      EXPECT_EQ(user.canReach(page.ParamUpdateBtn), c.hasParameters);
+      EXPECT_EQ(user.canReach(page.ParamText), c.parameters > 0);
+      user.clickCloseBox();
+    });
+  }
+}
+
+TEST_F(EditCommentTest, StaysAwayFromASelectionAndWhereNothingIs) {
+  openCommentEditor(session_, *ide_);  // no window is open
+  EXPECT_TRUE(toolkit_.boxes.empty());
+  goTo("Sub Clear");
+  module("Store").CodePane().SetSelection({3, 1, 3, 2});
+  openCommentEditor(session_, *ide_);
+  ASSERT_EQ(toolkit_.boxes.size(), 1u);
+}
+
+TEST_F(EditCommentTest, WritesTheFieldsBack) {
+  const std::string before = source();
+  session_.settings.comContextID = true;
+  int groups = 0;
+  const EditGrouping group = [&](CodeModule& cmo, const std::function<void()>& change) {
+    EXPECT_EQ(&cmo, &module("Store"));
+    ++groups;
+    change();
+  };
+  const auto change = [](User& user, EditComment& editor) {
+    user.type(editor.basicPage.RemarksText, "One\nTwo");
+    user.selectTab(editor.tbsOptions, "Group2");
+    user.select(editor.parametersPage.ParamList, "item");
+    user.type(editor.parametersPage.ParamText, "What to add.");
+    user.type(editor.parametersPage.ReturnsText, "True.");
+    user.selectTab(editor.tbsOptions, "Group6");
+    user.type(editor.miscPage.AuthorText, "Ann");
+    user.check(editor.miscPage.IncludeSourceCode, true);
+    user.selectTab(editor.tbsOptions, "Group5");
+    user.type(editor.userPage.users[1].text, "x");
+    user.press(KeyEvent{Key::tab, true});  // the box still has the focus
+  };
+  edit("Static a", [&](User& user, EditComment& editor) {
+    change(user, editor);
+    EXPECT_TRUE(editor.sourcePage.SourceView.text().starts_with(
+        "'**\r\n'Adds an item.\r\n'@rem          One\r\n'Two\r\n"));
+    user.press(Key::escape);
+  });
+  EXPECT_EQ(source(), before);
+  EXPECT_TRUE(ide_->saveAll().empty());
+  EXPECT_EQ(replaceAll(folder_.get("Store.cls"), "\r", ""), before + "\n");
+  EXPECT_FALSE(folder_.has("Demo.tamrik"));
+
+  const std::string written =
+      "  '**\n  'Adds an item.\n  '@rem          One\n  'Two\n"
+      "  '@param        key Required. Integer. The key.\n  '@param        item What to add.\n"
+      "  '@set          key A 1 first\n  '@return       True.\n  '@author       Ann\n"
+      "  '@includesource yes\n  '@user2        x\n  '@see          Shelf the place\n"
+      "  Public Function Add(";
+  std::string after;
+  edit(
+      "Static a",
+      [&](User& user, EditComment& editor) {
+        change(user, editor);
+        user.click(editor.cmdApply);
+        after = source();
+        user.click(editor.cmdApply);
+        EXPECT_EQ(source(), after);
+        user.click(editor.cmdOK);
+      },
+      group);
+  EXPECT_EQ(source(), after);
+  EXPECT_EQ(after.find(written), before.find("  '**"));
+  EXPECT_EQ(after.substr(after.find("Public Function")),
+            before.substr(before.find("Public Function")));
+  EXPECT_EQ(groups, 3);
+  EXPECT_TRUE(folder_.has("Demo.tamrik"));
+}
+
+TEST_F(EditCommentTest, WritesACommentWhereThereWasNone) {
+  for (const auto& [at, above] :
+       {std::pair("Sub Clear", "End Property\n'**\n'Empties it.\nPublic Sub"),
+        {"mShelf", "IKeep\n'**\n'Empties it.\nPrivate m"},
+        {"Implements", "'**\n'Empties it.\nImplements"}}) {
+    edit(at, [](User& user, EditComment& editor) {
+      user.type(editor.basicPage.DescriptionText, "Empties it.");
+      user.click(editor.cmdOK);
+    });
+    EXPECT_NE(source().find(above), std::string::npos) << at;
+  }
+}
+
+TEST_F(EditCommentTest, AnEmptyCommentIsWrittenOnce) {
+  edit("Implements", [](User& user, EditComment& editor) {
+    user.type(editor.basicPage.DescriptionText, "");
+    user.click(editor.cmdApply);
+    user.click(editor.cmdApply);
+    user.click(editor.cmdOK);
+  });
+  EXPECT_TRUE(source().starts_with("'**\nImplements"));
+}
+
+TEST_F(EditCommentTest, AFailureLeavesSourceAndSettingsFile) {
+  const std::string before = source();
+  const EditGrouping failing = [](CodeModule&, const std::function<void()>&) {
+    throw IdeError("no");
+  };
+  edit(
+      "Static a",
+      [](User& user, EditComment& editor) {
+        user.type(editor.basicPage.DescriptionText, "x");
+        user.click(editor.cmdOK);
+      },
+      failing);
+  EXPECT_EQ(source(), before);
+  EXPECT_FALSE(folder_.has("Demo.tamrik"));
+}
+
+TEST_F(EditCommentTest, UpdatesParametersAtAClickOrWhenItOpens) {
+  const auto check = [](EditComment& editor) {
+    ParametersPage& page = editor.parametersPage;
+    EXPECT_EQ(page.ParamList.items(), (Items{"key", "item", "n", "s"}));
+    EXPECT_EQ(page.ParamText.text(), "Required. Long. The key.");
+    EXPECT_EQ(page.ReturnsText.text(), "Boolean.");
+    EXPECT_EQ(page.settingsGrid.SetGrid.rowCount(), 1);
+  };
+  edit("Static a", [&](User& user, EditComment& editor) {
+    EXPECT_EQ(editor.parametersPage.ParamList.count(), 2);
+    user.selectTab(editor.tbsOptions, "Group2");
+    user.click(editor.parametersPage.ParamUpdateBtn);
+    check(editor);
+    user.check(editor.parametersPage.updateOnStartCheck, true);
+    user.click(editor.cmdCancel);
+  });
+  EXPECT_EQ(session_.settings.autoUpdateParams, 1);
+  edit("Static a", [&](User& user, EditComment& editor) {
+    check(editor);
+    user.click(editor.cmdCancel);
+  });
+}
+
+TEST_F(EditCommentTest, EditsSettingsInTheGrid) {
+  edit("Static a", [](User& user, EditComment& editor) {
+    user.selectTab(editor.tbsOptions, "Group2");
+    user.click(editor.parametersPage.ParamUpdateBtn);
+    ParametersPage& page = editor.parametersPage;
+    SettingsGrid& settings = page.settingsGrid;
+    Grid& grid = settings.SetGrid;
+
+    user.clickCell(grid, 0, 0);
+    EXPECT_EQ(settings.Text1.text(), "A");
+    user.type(settings.Text1, "lost");
+    user.press(Key::escape);
+    EXPECT_EQ(user.focused(), &grid);
+    EXPECT_EQ(grid.cell(0, 0), "A");
+    user.clickCell(grid, 0, 0);
+    user.type(settings.Text1, "B");
+    user.press(Key::enter);
+    EXPECT_EQ(grid.openedBox(), nullptr);
+    EXPECT_TRUE(editor.isShown());
+    user.click(settings.AddSetBtn);
+    EXPECT_EQ(grid.currentRow(), 1);
+    user.clickCell(grid, 1, 1);
+    user.type(settings.Text1, "2");
+    user.press(Key::up);
+    EXPECT_EQ(grid.currentRow(), 0);
+    user.clickCell(grid, 0, 2);
+    EXPECT_EQ(grid.boxLines(), 4);
+    user.type(settings.Text2, "one\ntwo");
+    user.press(Key::down);  // a key of the box's own
+    EXPECT_EQ(grid.openedBox(), &settings.Text2);
+    user.clickCell(grid, 1, 0);
+    user.type(settings.Text1, "C");
+    user.select(page.ParamList, "item");  // from within the box
+    EXPECT_EQ(grid.rowCount(), 0);
+    EXPECT_FALSE(user.canReach(settings.RemoveSetBtn));
+    for (const char* name : {"item", "n"}) {
+      user.select(page.ParamList, name);
+      user.click(settings.AddSetBtn);
+    }
+    user.select(page.ParamList, "s");  // three others have settings
+    EXPECT_FALSE(user.canReach(grid));
+    EXPECT_FALSE(user.canReach(settings.AddSetBtn));
+    user.select(page.ParamList, "item");
+    user.click(settings.RemoveSetBtn);
+    EXPECT_FALSE(user.canReach(settings.RemoveSetBtn));
+    user.select(page.ParamList, "s");
+    EXPECT_TRUE(user.canReach(settings.AddSetBtn));
+    user.select(page.ParamList, "n");
+    user.clickCell(grid, 0, 0);
+    user.type(settings.Text1, "D");
+    user.press(Key::down);  // the last row stays the current one
+    EXPECT_EQ(grid.currentRow(), 0);
+    user.press(Key::del);
+    EXPECT_EQ(grid.cell(0, 0), "");
+    user.click(settings.RemoveSetBtn);
+    user.click(editor.cmdOK);
+  });
+  EXPECT_NE(
+      source().find("'@set          key B 1 one\n  'two\n  '@set          key C 2 \n  '@return"),
+      std::string::npos)
+      << source();
+}
+
+TEST_F(EditCommentTest, OptionsChangeWhatIsWritten) {
+  struct Case {
+    int stored;
+    bool isOn;
+    const char* shown;
+    const char* typed;
+    bool wraps;
+    int kept;
+  };
+  session_.settings.wordWrapLength = 0;
+  for (const Case& c :
+       {Case{0, true, "10", "72", false, -72}, Case{-72, false, "72", "", true, 72},
+        Case{900, true, "500", "5", true, 10}, Case{40, true, "40", "99999999999", true, 500}}) {
+    session_.settings.wordWrapLength = static_cast<std::int16_t>(c.stored);
+    EditCommentOptions options(toolkit_, session_.settings);
+    onDialog<EditCommentOptions>("EditCommentOptions", [&](User& user, EditCommentOptions& dialog) {
+      EXPECT_EQ(dialog.Check1.isChecked(), c.isOn);
+      EXPECT_EQ(user.canReach(dialog.UpDown1), c.isOn);
+      EXPECT_EQ(dialog.Text1.text(), c.shown);
+      if (*c.typed != '\0') user.type(dialog.Text1, c.typed);
+      user.check(dialog.Check1, c.wraps);
+      user.check(dialog.Check2, true);
+      user.press(Key::enter);
+    });
+    options.showModal();
+    EXPECT_EQ(session_.settings.wordWrapLength, c.kept);
+    EXPECT_EQ(session_.settings.autoInsertEOL, 1);
+  }
+
+  edit("Static a", [this](User& user, EditComment& editor) {
+    user.type(editor.basicPage.RemarksText, "One\ntwo three");
+    user.selectTab(editor.tbsOptions, "Group4");
+    onDialog<EditCommentOptions>("EditCommentOptions", [](User& u, EditCommentOptions& dialog) {
+      u.type(dialog.Text1, "wide");
+      u.click(dialog.OKButton);
+      EXPECT_TRUE(dialog.isShown());
+      u.type(dialog.Text1, "30");
+      u.click(dialog.OKButton);
+    });
+    user.click(editor.sourcePage.Command1);
+    EXPECT_NE(editor.sourcePage.SourceView.text().find("'@rem          One$EOL$\r\n'two three\r\n"),
+              std::string::npos);
+    user.click(editor.cmdCancel);
+  });
+}
+
+}  // namespace
+}  // namespace tamrikon

@@ -1,0 +1,215 @@
+#include <gtest/gtest.h>
+
+#include "editor/demo_project.h"
+#include "editor/interest_links.h"
+#include "editor/reference_select_dlg.h"
+#include "editor/source_code_parser.h"
+#include "model/wrappers.h"
+
+namespace tamrikon {
+namespace {
+
+using test::User;
+using Items = std::vector<std::string>;
+
+class ReferencesTest : public test::DemoProject {
+ protected:
+  /// Opens the editor on the member that holds `text`, at its references, and cancels it at last.
+  void editReferences(const std::string& text,
+                      const std::function<void(User&, ReferencesPage&)>& script) {
+    edit(text, [&](User& user, EditComment& editor) {
+      user.selectTab(editor.tbsOptions, "Group3");
+      script(user, editor.referencesPage);
+      user.press(Key::escape);
+    });
+  }
+};
+
+TEST_F(ReferencesTest, ListsFollowTheirButtons) {
+  editReferences("Static a", [](User& user, ReferencesPage& page) {
+    LinkList& see = page.seeAlso;
+    EXPECT_EQ(see.list.selectedText(), "Shelf [the place]");
+    EXPECT_EQ(see.link.text(), "");
+    user.type(see.link, "  ");
+    user.type(see.label, "red");
+    user.click(see.add);  // there is no link
+    EXPECT_EQ(see.list.count(), 1);
+    user.type(see.link, ".Clear");
+    user.click(see.add);
+    user.type(see.label, "");
+    user.click(see.add);
+    EXPECT_EQ(see.list.items(), (Items{"Shelf [the place]", ".Clear [red]", ".Clear"}));
+    user.select(see.list, "Shelf [the place]");
+    EXPECT_EQ(see.link.text() + "|" + see.label.text(), "Shelf|the place");
+    user.click(see.remove);
+    EXPECT_EQ(see.list.selectedText(), ".Clear [red]");
+    user.click(see.remove);
+    user.click(see.remove);
+    EXPECT_FALSE(user.canReach(see.remove));
+    EXPECT_FALSE(user.canReach(page.examples.remove));
+  });
+}
+
+TEST_F(ReferencesTest, ExamplesAreMadeAndOpened) {
+  std::filesystem::create_directory(folder_ / "out");
+  std::filesystem::create_directory(folder_ / "out2");
+  editReferences("Static a", [this](User& user, ReferencesPage& page) {
+    toolkit_.files = {std::nullopt, folder_ / "out/a.txt", folder_ / "out2/b.txt"};
+    for (int i = 0; i < 3; ++i) user.click(page.Command3);
+    EXPECT_EQ(toolkit_.fileChoices[0].title, "Create New Example File");
+    EXPECT_EQ(toolkit_.fileChoices[0].folder, folder_ / "out");
+    EXPECT_EQ(toolkit_.fileChoices[0].fileName, "Store_Add_example.txt");
+    EXPECT_EQ(folder_.get("out/a.txt"), "Example for Add.");
+    const std::string outside = "\"" + folder_ / "out2/b.txt";
+    EXPECT_EQ(page.examples.list.items(), (Items{"\"a.txt", outside}));
+    user.select(page.examples.list, "\"a.txt");
+    user.click(page.Command2);
+    user.select(page.examples.list, outside);
+    toolkit_.canOpen = false;
+    user.click(page.Command2);
+    EXPECT_EQ(toolkit_.opened, (Items{folder_ / "out/a.txt", folder_ / "out2/b.txt"}));
+    ASSERT_EQ(toolkit_.boxes.size(), 1u);
+    EXPECT_EQ(toolkit_.boxes[0].title, "Error while opening example.");
+    EXPECT_EQ(toolkit_.boxes[0].text, "Cannot show the \"" + folder_ / "out2/b.txt" + "\" file");
+  });
+}
+
+TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
+  editReferences("Static a", [this](User& user, ReferencesPage& page) {
+    user.type(page.seeAlso.label, "gone");
+    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg", [](User& u, ReferenceSelectDlg& picker) {
+      EXPECT_EQ(picker.MembersList.items(),
+                (Items{" [Module itself]", "mShelf", "mOther", "mOne", "Filled", "Add",
+                       "Count [PropertyLet]", "Count [PropertyGet]", "Clear"}));
+      u.select(picker.MembersList, "Count [PropertyGet]");
+      u.click(picker.cmdOK);
+    });
+    user.click(page.seeAlso.select);
+    EXPECT_EQ(page.seeAlso.list.selectedText(), ".Count'get");
+
+    user.type(page.examples.label, "kept");
+    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg", [this](User& u, ReferenceSelectDlg& picker) {
+      EXPECT_FALSE(u.canReach(picker.Option1));
+      EXPECT_FALSE(u.canReach(picker.cmdOK));
+      toolkit_.files = {"/far/x.txt"};
+      u.click(picker.SelectFileBtn);
+      EXPECT_EQ(toolkit_.fileChoices.back().fileName, "Store_Add_example.txt");
+      u.check(picker.AbsolutePathCheck, true);
+      u.press(Key::enter);
+    });
+    user.click(page.examples.select);
+    EXPECT_EQ(page.examples.list.items(), (Items{"\"/far/x.txt [kept]"}));
+
+    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg", [](User& u, ReferenceSelectDlg& picker) {
+      EXPECT_FALSE(u.canReach(picker.Option2));
+      u.choose(picker.ModuleCombo, "Shelf");
+      EXPECT_FALSE(u.canReach(picker.cmdOK));
+      u.doubleClick(picker.MembersList, "Go");
+    });
+    user.click(page.SelectSameBtn);
+    EXPECT_EQ(page.SameText.text(), "Shelf.Go");
+    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg",
+                                 [](User& u, ReferenceSelectDlg&) { u.clickCloseBox(); });
+    user.click(page.SelectSameBtn);
+    EXPECT_EQ(page.SameText.text(), "Shelf.Go");
+  });
+}
+
+TEST_F(ReferencesTest, ThePickerShowsThePresentLinkAndGivesItBack) {
+  session_.settings.comModules = {};
+  for (const char* name : {"Store", "Shelf"}) {
+    const VBComponents& components = ide_->ActiveVBProject().VBComponents();
+    CodeModule* cmo = components.Item(name == std::string("Store") ? 1 : 2).CodeModule();
+    session_.settings.comModules.add(cmo, name);
+  }
+  ModuleSource source(module("Store"));
+  const WrapperRef member = getWrapperAtLine(source, lineOf("Sub Clear"));
+  struct Case {
+    const char *link, *module, *entry, *picked;
+  };
+  for (const Case& c : {
+           Case{"", "Store", " [Module itself]", "Store"},
+           Case{"Shelf", "Shelf", " [Module itself]", "Shelf"},
+           Case{"Shelf.Go", "Shelf", "Go", "Shelf.Go"},
+           Case{"shelf.go", "Shelf", "Go", "Shelf.Go"},
+           Case{".", "Store", "Clear", ".Clear"},
+           Case{"Store.Add", "Store", "Add", ".Add"},
+           Case{".Count'get", "Store", "Count [PropertyGet]", ".Count'get"},
+           Case{".Count'let", "Store", "Count [PropertyLet]", ".Count'let"},
+           Case{".Count", "Store", "Count [PropertyLet]", ".Count'let"},
+           Case{".Count'set", "Store", "", ""},
+           Case{"IKeep.Keep", "", "", ""},
+           Case{"Shelf.None", "Shelf", "", ""},
+           Case{"\"x.txt", "", "", "\"x.txt"},
+           Case{"\"/a/x.txt", "", "", "\"/a/x.txt"},
+           Case{"\"/a/", "", "", "\"/a/"},
+       }) {
+    SCOPED_TRACE(c.link);
+    ReferenceSelectDlg picker(session_, *member, c.link);
+    picker.initBoth();
+    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg", [&](User& user, ReferenceSelectDlg& dialog) {
+      const bool isFile = c.link[0] == '"';
+      EXPECT_EQ(dialog.Option2.isSelected(), isFile);
+      if (!isFile) {
+        EXPECT_EQ(dialog.ModuleCombo.text(), c.module);
+        EXPECT_EQ(dialog.MembersList.selectedText(), c.entry);
+        user.focus(dialog.ModuleCombo);
+        user.focus(dialog.MembersList);
+      }
+      EXPECT_EQ(user.canReach(dialog.cmdOK), *c.picked != '\0');
+      user.click(*c.picked != '\0' ? dialog.cmdOK : dialog.cmdCancel);
+    });
+    picker.showModal();
+    EXPECT_EQ(picker.link, c.picked);
+  }
+}
+
+TEST_F(ReferencesTest, ProposesClassesOfTheProject) {
+  ModuleSource source(module("Store"));
+  const auto proposals = [&](const std::string& at) {
+    return findProposals(*getWrapperAtLine(source, lineOf(at)), *ide_);
+  };
+  EXPECT_EQ(proposals("Implements"),
+            (Items{"IKeep [implemented]", "Shelf [implements]", "Shelf [used]", "IKeep [used]"}));
+  EXPECT_EQ(proposals("Static a"), (Items{"Shelf [used]", "Store [used]"}));
+  EXPECT_EQ(proposals("Event"), Items{"Shelf [used]"});
+  EXPECT_EQ(proposals("mOne"), Items{"Shelf [used]"});
+  EXPECT_EQ(proposals("Sub Clear"), Items{});
+
+  const SourceCodeParser parser;
+  EXPECT_EQ(parser.getUsedObjects(*getWrapperAtLine(source, lineOf("Static a"))),
+            (Items{"Long", "Variant", "Long", "Shelf", "Boolean", "Long", "Variant", "Long = 3",
+                   "Shelf) As Boolean", "Tools", "Store", "String"}));
+  EXPECT_EQ(parser.getImplements(module("Shelf")), Items{"store\r"});
+  EXPECT_EQ(SourceCodeParser::joinContinuedLines("a _|  b _|c|d|e _", "|"),
+            (Items{"a   b c", "", "", "d", "e "}));
+}
+
+TEST_F(ReferencesTest, ChosenProposalsBecomeLinks) {
+  editReferences("Implements", [this](User& user, ReferencesPage& page) {
+    user.type(page.seeAlso.link, "Shelfware");  // an item that only begins with a class's name
+    user.click(page.seeAlso.add);
+    onDialog<InterestLinks>("InterestLinks", [](User& u, InterestLinks& proposals) {
+      EXPECT_EQ(proposals.List1.count(), 4);
+      u.press(Key::escape);
+    });
+    user.click(page.findInterestBtn);
+    EXPECT_EQ(page.seeAlso.list.count(), 1);
+    for (int i = 0; i < 2; ++i) {
+      onDialog<InterestLinks>("InterestLinks", [&](User& u, InterestLinks& proposals) {
+        u.check(proposals.List1, "IKeep [implemented]", i == 1);
+        u.click(proposals.OKButton);
+      });
+      user.click(page.findInterestBtn);
+    }
+    EXPECT_EQ(page.seeAlso.list.items(), (Items{"Shelfware", "IKeep"}));
+    user.click(page.seeAlso.remove);
+    onDialog<InterestLinks>("InterestLinks",
+                            [&](User& u, InterestLinks& p) { u.click(p.OKButton); });
+    user.click(page.findInterestBtn);
+    EXPECT_EQ(page.seeAlso.list.selectedText(), "IKeep [IKeep [implemented]]");
+  });
+}
+
+}  // namespace
+}  // namespace tamrikon
