@@ -23,8 +23,9 @@ std::vector<std::string> memberEntries(const CodeModule& module) {
       add(name);
       continue;
     }
-    for (const auto& [kind, ending] : kProcedures) {
-      if (tryStep([&] { module.ProcBodyLine(name, kind); })) add(name + std::string(ending));
+    for (const auto& procedure : kProcedures) {
+      const bool isThere = tryStep([&] { module.ProcBodyLine(name, procedure.first); });
+      if (isThere) add(name + std::string(procedure.second));
     }
   }
   return entries;

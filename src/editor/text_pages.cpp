@@ -75,7 +75,7 @@ SourcePage::SourcePage(Dialog& dialog) : dialog_(dialog) {
 }
 
 Layout SourcePage::layout() {
-  return column({item(SourceView).sized(80, 18).growing(), row({space(), item(Command1)})});
+  return column({item(SourceView).sized(84, 18).growing(), row({space(), item(Command1)})});
 }
 
 }  // namespace tamrikon

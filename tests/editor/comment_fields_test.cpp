@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "editor/compose_comment.h"
+#include "editor/lines.h"
 #include "editor/parameter_update.h"
 #include "editor/setting_tables.h"
 
@@ -47,46 +48,18 @@ TEST(FieldText, ShowsLinksAndTakesThemApart) {
 }
 
 TEST(ComposeComment, GivesEveryTagItsPlace) {
-  const Lines mixed{"@same M.Other",
-                    "@version  2",
-                    "@user1\tx",
-                    "@see Car  the red one",
-                    "@return Long.",
-                    "  more",
-                    "@includesource 1",
-                    "@param key The key.",
-                    "@set key A 1 x",
-                    "@example \"f",
-                    "@author Ann",
-                    "@set key B \"a b\"",
-                    "@revision 3",
-                    "@rem",
-                    "first",
-                    "@a20LetterTagName12 y",
-                    "@set late C",
-                    "@param n",
-                    "@todo later"};
+  const Lines mixed = test::lines(
+      "@same M.Other|@version  2|@user1\tx|@see Car  the red one|@return Long.|  more|"
+      "@includesource 1|@param key The key.|@set key A 1 x|@example \"f|@set key B \"a b\"|"
+      "@author Ann|@revision 3|@rem|first|@a20LetterTagName12 y|@set late C|@param n|@todo later");
   ProjectSettings settings = withEOL(0);
   settings.userName[1] = "a20LetterTagName12";
-  const Lines normal{"@rem          ",
-                     "first",
-                     "@param        key The key.",
-                     "@param        n @todo later",
-                     "@set          key A 1 x",
-                     "@set          key B \"a b\" ",
-                     "@set          late C  ",
-                     "@return       Long.",
-                     "  more",
-                     "@author       Ann",
-                     "@version      2",
-                     "@revision     3",
-                     "@includesource yes",
-                     "@user1        \tx",
-                     "@a20LetterTagName12 y",
-                     "@see          Car the red one",
-                     "@example      \"f ",
-                     "@same         M.Other"};
-  EXPECT_EQ(composeComment(parseIntoFields(mixed, settings), settings), normal);
+  EXPECT_EQ(join(composeComment(parseIntoFields(mixed, settings), settings), "|"),
+            "@rem          |first|@param        key The key.|@param        n @todo later|"
+            "@set          key A 1 x|@set          key B \"a b\" |@set          late C  |"
+            "@return       Long.|  more|@author       Ann|@version      2|@revision     3|"
+            "@includesource yes|@user1        \tx|@a20LetterTagName12 y|"
+            "@see          Car the red one|@example      \"f |@same         M.Other");
   EXPECT_EQ(CollectionToCommentString({"a", ""}), "'**\r\n'a\r\n'");
 
   CommentFields fields;

@@ -135,16 +135,11 @@ TEST_F(EditCommentTest, AnEmptyCommentIsWrittenOnce) {
 
 TEST_F(EditCommentTest, AFailureLeavesSourceAndSettingsFile) {
   const std::string before = source();
-  const EditGrouping failing = [](CodeModule&, const std::function<void()>&) {
-    throw IdeError("no");
+  const auto change = [](User& user, EditComment& editor) {
+    user.type(editor.basicPage.DescriptionText, "x");
+    user.click(editor.cmdOK);
   };
-  edit(
-      "Static a",
-      [](User& user, EditComment& editor) {
-        user.type(editor.basicPage.DescriptionText, "x");
-        user.click(editor.cmdOK);
-      },
-      failing);
+  edit("Static a", change, [](CodeModule&, const auto&) { throw IdeError("no"); });
   EXPECT_EQ(source(), before);
   EXPECT_FALSE(folder_.has("Demo.tamrik"));
 }
