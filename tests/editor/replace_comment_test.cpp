@@ -2,12 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "editor/lines.h"
 #include "support/fake_module.h"
 
 namespace tamrikon {
 namespace {
-
-using Lines = std::vector<std::string>;
 
 /// Fails at its call number `failing`, and with `goesOn` at all later ones.
 struct FailingModule final : test::FakeModule {
@@ -45,52 +44,33 @@ struct FailingModule final : test::FakeModule {
 
 TEST(ReplaceComment, WritesOverTheOldOne) {
   struct Case {
-    const char* name;
-    Lines before;
-    std::optional<LineRange> old;
+    const char* before;
+    LineRange old;
     int codeLocation;
-    Lines after;
+    const char* after;
     int caret;
   };
   for (const Case& c : {
-           Case{"none", {"a", "  X"}, {}, 2, {"a", "  '**", "  'new", "  X"}, 3},
-           Case{"a member's",
-                {"'**", "'o", "'o", "  X"},
-                LineRange{1, 3},
-                4,
-                {"  '**", "  'new", "  X"},
-                2},
-           Case{"blank lines below",
-                {"'**", "'o", "", "", "X"},
-                LineRange{1, 2},
-                5,
-                {"", "", "'**", "'new", "X"},
-                4},
-           Case{"a module's",
-                {"  '**", "  'o", " X"},
-                LineRange{1, 2},
-                1,
-                {" '**", " 'new", " X"},
-                2},
-           Case{"a module's below blank lines",
-                {"", "'**", "'o", "X"},
-                LineRange{2, 3},
-                1,
-                {"'**", "'new", "", "X"},
-                2},
-           Case{"all of the module", {"'**", "'o"}, LineRange{1, 2}, 1, {"'**", "'new"}, 2},
+           Case{"a|  X", {}, 2, "a|  '**|  'new|  X", 3},
+           Case{"'**|'o|'o|  X", {1, 3}, 4, "  '**|  'new|  X", 2},
+           Case{"'**|'o|||X", {1, 2}, 5, "||'**|'new|X", 4},
+           Case{"  '**|  'o| X", {1, 2}, 1, " '**| 'new| X", 2},  // of a module, as all below
+           Case{"|'**|'o|X", {2, 3}, 1, "'**|'new||X", 2},
+           Case{"'**|'o", {1, 2}, 1, "'**|'new", 2},
        }) {
-    FailingModule module(c.before);
-    replaceComment(module, c.old, c.codeLocation, {"new"});
-    EXPECT_EQ(module.lines, c.after) << c.name;
-    EXPECT_EQ(module.pane.selection.startLine, c.caret) << c.name;
+    FailingModule module(test::lines(c.before));
+    std::optional<LineRange> old;
+    if (c.old.first > 0) old = c.old;
+    replaceComment(module, old, c.codeLocation, {"new"});
+    EXPECT_EQ(module.lines, test::lines(c.after)) << c.before;
+    EXPECT_EQ(module.pane.selection.startLine, c.caret) << c.before;
   }
 }
 
 TEST(ReplaceComment, LosesNothingWhereACallFails) {
-  const Lines before{"a", "'**", "'old", "X"};
-  const Lines after{"a", "'**", "'new", "X"};
-  const Lines both{"a", "'**", "'old", "'**", "'new", "X"};
+  const CommentLines before = test::lines("a|'**|'old|X");
+  const CommentLines after = test::lines("a|'**|'new|X");
+  const CommentLines both = test::lines("a|'**|'old|'**|'new|X");
   for (const bool goesOn : {false, true}) {
     int failures = 0;
     for (int failing = 1;; ++failing) {

@@ -15,6 +15,7 @@
 #include "editor/lines.h"
 #include "host/host_ide.h"
 #include "model/wrappers.h"
+#include "settings/settings_file.h"
 
 namespace tamrikon {
 namespace {
@@ -204,17 +205,6 @@ TEST(RoundTrip, ChangesThatTheFormatMakes) {
   }
 }
 
-std::vector<CodeModule*> modulesOf(const HostIde& ide) {
-  std::vector<CodeModule*> modules;
-  for (int p = 1; p <= ide.VBProjects().Count(); ++p) {
-    const VBComponents& components = ide.VBProjects().Item(p).VBComponents();
-    for (int c = 1; c <= components.Count(); ++c) {
-      if (components.Item(c).CodeModule()) modules.push_back(components.Item(c).CodeModule());
-    }
-  }
-  return modules;
-}
-
 /// Where the declarations of commented members are, the lowest of a module first.
 std::vector<int> commentedLines(CodeModule& module) {
   ModuleSource source(module);
@@ -250,7 +240,12 @@ TEST(RoundTrip, TheExamplesAreWrittenBackTwice) {
     ProjectSettings settings = layoutOf(wrap, eol);
     settings.userName[0] = "errors";
     int comments = 0;
-    for (CodeModule* module : modulesOf(*ide)) {
+    KeyedList<CodeModule*> modules;
+    for (int p = 1; p <= ide->VBProjects().Count(); ++p) {
+      ide->activate(ide->VBProjects().Item(p));
+      for (CodeModule* m : SettingsFile::codeModules(*ide)) modules.add(m, m->Name());
+    }
+    for (CodeModule* module : modules) {
       SCOPED_TRACE(module->Name() + ' ' + std::to_string(wrap) + std::to_string(eol));
       std::vector<std::string> sources{module->Lines(1, module->CountOfLines())};
       for (int pass = 0; pass < 2; ++pass) {

@@ -1,0 +1,1 @@
+Public Const Max = 3
