@@ -10,28 +10,22 @@
 namespace tamrikon {
 namespace {
 
+using test::layoutOf;
 using Lines = CommentLines;
-
-ProjectSettings withEOL(int autoInsertEOL) {
-  ProjectSettings settings;
-  settings.autoInsertEOL = static_cast<std::int16_t>(autoInsertEOL);
-  settings.wordWrapLength = -80;
-  return settings;
-}
 
 TEST(FieldText, JoinsLinesOnlyWhereTheEndsAreMarked) {
   const std::string text = "a\r$EOL$b$EOL$\rc\r";
-  EXPECT_EQ(convertFieldText(text, withEOL(0)), "a\r\n$EOL$b$EOL$\r\nc\r\n");
-  EXPECT_EQ(convertFieldText(text, withEOL(1)), "a \r\nb\r\nc ");
-  EXPECT_EQ(convertFieldText(text, withEOL(2)), "a \r\nb\r\nc ");
+  EXPECT_EQ(convertFieldText(text, layoutOf(-80, 0)), "a\r\n$EOL$b$EOL$\r\nc\r\n");
+  EXPECT_EQ(convertFieldText(text, layoutOf(-80, 1)), "a \r\nb\r\nc ");
+  EXPECT_EQ(convertFieldText(text, layoutOf(-80, 2)), "a \r\nb\r\nc ");
   const FieldList items{"key\rone\rtwo\r"};
-  EXPECT_EQ(convertListItems(items, 1, withEOL(0)), FieldList{"key\r\none\r\ntwo"});
-  EXPECT_EQ(convertListItems(items, 1, withEOL(1)), FieldList{"key\r\none two"});
-  EXPECT_EQ(convertListItems(items, 1, withEOL(2)), FieldList{"key one two"});
+  EXPECT_EQ(convertListItems(items, 1, layoutOf(-80, 0)), FieldList{"key\r\none\r\ntwo"});
+  EXPECT_EQ(convertListItems(items, 1, layoutOf(-80, 1)), FieldList{"key\r\none two"});
+  EXPECT_EQ(convertListItems(items, 1, layoutOf(-80, 2)), FieldList{"key one two"});
   Lines lines;
-  addCommentLines("a\r\nb", lines, withEOL(1));
-  addCommentLines("", lines, withEOL(1));
-  addCommentLines("a\r\nb", lines, withEOL(2));
+  addCommentLines("a\r\nb", lines, layoutOf(-80, 1));
+  addCommentLines("", lines, layoutOf(-80, 1));
+  addCommentLines("a\r\nb", lines, layoutOf(-80, 2));
   EXPECT_EQ(lines, (Lines{"a$EOL$", "b", "a", "b"}));
 }
 
@@ -52,8 +46,7 @@ TEST(ComposeComment, GivesEveryTagItsPlace) {
       "@same M.Other|@version  2|@user1\tx|@see Car  the red one|@return Long.|  more|"
       "@includesource 1|@param key The key.|@set key A 1 x|@example \"f|@set key B \"a b\"|"
       "@author Ann|@revision 3|@rem|first|@a20LetterTagName12 y|@set late C|@param n|@todo later");
-  ProjectSettings settings = withEOL(0);
-  settings.userName[1] = "a20LetterTagName12";
+  ProjectSettings settings = layoutOf(-80, 0);
   settings.indentMode = 1;  // doesn't matter
   EXPECT_EQ(join(composeComment(parseIntoFields(mixed, settings), settings), "|"),
             "@rem          |first|@param        key The key.|@param        n @todo later|"

@@ -20,7 +20,6 @@ TEST_F(EditCommentTest, OpensOnWhatTheCaretIsIn) {
   for (const Case& c : {
            Case{"Static a", "Add", "Adds an item.", true, 2},
            Case{"Implements", "Store", "The store.", false, 0},
-           Case{"mShelf", "mShelf", "", false, 0},
            Case{"Filled", "Filled", "", true, 1},
            Case{"Property Let", "Count", "", true, 1},
            Case{"Sub Clear", "Clear", "", true, 0},
@@ -172,14 +171,11 @@ TEST_F(EditCommentTest, EditsSettingsInTheGrid) {
     EXPECT_EQ(grid.cell(0, 0), "A");
     type(0, 0, "B", Key::enter);
     EXPECT_EQ(grid.openedBox(), nullptr);
-    EXPECT_TRUE(editor.isShown());
     user.click(settings.AddSetBtn);
     EXPECT_EQ(grid.currentRow(), 1);
     type(1, 1, "2", Key::up);
-    EXPECT_EQ(grid.currentRow(), 0);
     type(0, 2, "one\ntwo", Key::down);  // a key of that box's own
     EXPECT_EQ(grid.openedBox(), &settings.Text2);
-    EXPECT_EQ(grid.boxLines(), 4);
     type(1, 0, "C", Key::other);
     user.select(page.ParamList, "item");  // from within the box
     EXPECT_EQ(grid.rowCount(), 0);

@@ -103,9 +103,6 @@ TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
     });
     user.click(page.SelectSameBtn);
     EXPECT_EQ(page.SameText.text(), "Shelf.Go");
-    onDialog<ReferenceSelectDlg>([](User& u, ReferenceSelectDlg&) { u.clickCloseBox(); });
-    user.click(page.SelectSameBtn);
-    EXPECT_EQ(page.SameText.text(), "Shelf.Go");
   });
 }
 
@@ -121,12 +118,10 @@ TEST_F(ReferencesTest, ThePickerShowsThePresentLinkAndGivesItBack) {
   for (const Case& c : {
            Case{"", "Store", " [Module itself]", "Store"},
            Case{"Shelf", "Shelf", " [Module itself]", "Shelf"},
-           Case{"Shelf.Go", "Shelf", "Go", "Shelf.Go"},
            Case{"shelf.go", "Shelf", "Go", "Shelf.Go"},
            Case{".", "Store", "Clear", ".Clear"},
            Case{"Store.Add", "Store", "Add", ".Add"},
            Case{".Count'get", "Store", "Count [PropertyGet]", ".Count'get"},
-           Case{".Count'let", "Store", "Count [PropertyLet]", ".Count'let"},
            Case{".Count", "Store", "Count [PropertyLet]", ".Count'let"},
            Case{".Count'set", "Store", "", ""},
            Case{"IKeep.Keep", "", "", ""},
@@ -148,7 +143,8 @@ TEST_F(ReferencesTest, ThePickerShowsThePresentLinkAndGivesItBack) {
         user.focus(dialog.MembersList);
       }
       EXPECT_EQ(user.canReach(dialog.cmdOK), *c.picked != '\0');
-      user.click(*c.picked != '\0' ? dialog.cmdOK : dialog.cmdCancel);
+      if (*c.picked == '\0') return user.clickCloseBox();
+      user.click(dialog.cmdOK);
     });
     picker.showModal();
     EXPECT_EQ(picker.link, c.picked);

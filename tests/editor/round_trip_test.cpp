@@ -20,15 +20,8 @@
 namespace tamrikon {
 namespace {
 
+using test::layoutOf;
 using Lines = CommentLines;
-
-ProjectSettings layoutOf(int wordWrapLength, int autoInsertEOL) {
-  ProjectSettings settings;
-  settings.wordWrapLength = static_cast<std::int16_t>(wordWrapLength);
-  settings.autoInsertEOL = static_cast<std::int16_t>(autoInsertEOL);
-  settings.userName[1] = "a20LetterTagName12";
-  return settings;
-}
 
 CommentList bodyOf(Lines written) {
   for (std::string& line : written) line.insert(0, "'");
