@@ -1,7 +1,11 @@
 # Whether the workbench is built: only where Qt is, as all else does without.
 set(TAMRIKON_HAS_WORKBENCH OFF)
 if(TAMRIKON_WORKBENCH)
-  find_package(Qt6 6.2 COMPONENTS Widgets Test QUIET)
+  set(qt_components Widgets)
+  if(TAMRIKON_TESTS)
+    list(APPEND qt_components Test)
+  endif()
+  find_package(Qt6 6.2 COMPONENTS ${qt_components} QUIET)
   set(TAMRIKON_HAS_WORKBENCH ${Qt6_FOUND})
 endif()
 if(NOT TAMRIKON_HAS_WORKBENCH)

@@ -77,14 +77,13 @@ void DialogWindow::paintEvent(QPaintEvent* event) {
 }
 
 void DialogWindow::activateSoon(int milliseconds) {
-  if (!isActivating_) QTimer::singleShot(milliseconds, this, [this] { activate(); });
+  if (!isActivated_) QTimer::singleShot(milliseconds, this, [this] { activate(); });
 }
 
 void DialogWindow::activate() {
-  if (std::exchange(isActivating_, true)) return;
+  if (!dialog_.isShown() || std::exchange(isActivated_, true)) return;
   gate_.open();
   gate_.run([this] { dialog_.onActivate(); });
-  isActivated_ = true;
   if (gate_.focused() == nullptr) gate_.focusChanged();
 }
 
@@ -106,20 +105,11 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
       const QObject* target = focusWidget() != nullptr ? focusWidget() : this;
       return watched == target && keys_.press(static_cast<const QKeyEvent&>(*event));
     }
-    case QEvent::FocusIn: {
-      // The window comes to the front for the first time: that is no move of the user's.
-      const auto reason = static_cast<const QFocusEvent&>(*event).reason();
-      if (isActivated_ || reason != Qt::ActiveWindowFocusReason) gate_.focusChanged();
+    case QEvent::FocusIn: gate_.focusChanged(); return false;
+    case QEvent::FocusOut:
+      // Another control tells of its own, and another window leaves the focus where it is.
+      if (focusWidget() == nullptr) gate_.focusChanged();
       return false;
-    }
-    case QEvent::FocusOut: {
-      // Another window isn't another control; another control tells of its own.
-      const auto reason = static_cast<const QFocusEvent&>(*event).reason();
-      const bool isElsewhere =
-          reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
-      if (!isElsewhere && QApplication::focusWidget() == nullptr) gate_.focusChanged();
-      return false;
-    }
     default: return QDialog::eventFilter(watched, event);
   }
 }

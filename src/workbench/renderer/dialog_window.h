@@ -50,7 +50,6 @@ class DialogWindow final : public QDialog, private DialogPeer {
   CaptionMarks marks_;
   PeerSet peers_;
   DialogKeys keys_;
-  bool isActivating_ = false;
   bool isActivated_ = false;
 };
 

@@ -30,14 +30,17 @@ Qt::Alignment alignmentIn(const Layout& row, const Layout& part) {
 template <typename Made>
 void addTo(QBoxLayout& box, const Made& made, int stretch, Qt::Alignment alignment) {
   if (made.widget) box.addWidget(made.widget, stretch, alignment);
-  if (made.layout) box.addLayout(made.layout, stretch);
+  if (made.layout) {
+    made.layout->setAlignment(alignment);
+    box.addLayout(made.layout, stretch);
+  }
 }
 
 template <typename Made>
 void addTo(QGridLayout& grid, const Made& made, int row, int column, int columns,
            Qt::Alignment alignment) {
   if (made.widget) grid.addWidget(made.widget, row, column, 1, columns, alignment);
-  if (made.layout) grid.addLayout(made.layout, row, column, 1, columns);
+  if (made.layout) grid.addLayout(made.layout, row, column, 1, columns, alignment);
 }
 
 /// Lets the columns grow that are to, and if there are none, and nothing in them takes the width,
@@ -51,17 +54,20 @@ void stretchColumns(QGridLayout& grid, const std::vector<bool>& growing, bool is
   if (!any && !isWidthTaken) grid.setColumnStretch(static_cast<int>(growing.size()), 1);
 }
 
+int spacingOf(const QWidget& window, QStyle::PixelMetric metric, Qt::Orientation orientation) {
+  const int spacing = window.style()->pixelMetric(metric, nullptr, &window);
+  if (spacing >= 0) return spacing;
+  // The style has different ones for different widgets: that of the most common ones.
+  return window.style()->layoutSpacing(QSizePolicy::LineEdit, QSizePolicy::LineEdit, orientation,
+                                       nullptr, &window);
+}
+
 }  // namespace
 
-LayoutBuilder::LayoutBuilder(PeerFactory& factory, const QWidget& window) : factory_(factory) {
-  const QStyle& style = *window.style();
-  int spacing = style.pixelMetric(QStyle::PM_LayoutVerticalSpacing, nullptr, &window);
-  if (spacing < 0) {
-    spacing = style.layoutSpacing(QSizePolicy::LineEdit, QSizePolicy::LineEdit, Qt::Vertical,
-                                  nullptr, &window);
-  }
-  labelSpacing_ = (spacing + 1) / 2;
-}
+LayoutBuilder::LayoutBuilder(PeerFactory& factory, const QWidget& window)
+    : factory_(factory),
+      across_(spacingOf(window, QStyle::PM_LayoutHorizontalSpacing, Qt::Horizontal)),
+      down_(spacingOf(window, QStyle::PM_LayoutVerticalSpacing, Qt::Vertical)) {}
 
 void LayoutBuilder::fill(QWidget& page, const Layout& part) {
   page.setLayout(part.kind == Kind::column ? makeColumn(part, &page)
@@ -96,6 +102,7 @@ QLayout* LayoutBuilder::makeRow(const Layout& row, QWidget* parent) {
   const auto isLabelled = [](const Layout& part) { return part.kind == Kind::labelled; };
   if (anyOf(row.children, isLabelled)) return makeLabelledRow(row, parent);
   auto* box = new QHBoxLayout;
+  box->setSpacing(isSpinPair(row) ? 0 : across_);
   for (const Layout& part : row.children) {
     if (isSpace(part)) {
       box->addStretch(1);
@@ -103,11 +110,7 @@ QLayout* LayoutBuilder::makeRow(const Layout& row, QWidget* parent) {
       addTo(*box, make(part, parent), growsAcross(part) ? 1 : 0, alignmentIn(row, part));
     }
   }
-  if (isSpinPair(row)) {
-    box->setSpacing(0);
-  } else if (!anyOf(row.children, takesWidth)) {
-    box->addStretch(1);
-  }
+  if (!isSpinPair(row) && !anyOf(row.children, takesWidth)) box->addStretch(1);
   nameBoxes(row);
   factory_.equalizeButtons(row);
   return box;
@@ -116,7 +119,8 @@ QLayout* LayoutBuilder::makeRow(const Layout& row, QWidget* parent) {
 QLayout* LayoutBuilder::makeLabelledRow(const Layout& row, QWidget* parent) {
   // The labels have a line of their own, so that what has none stands beside the boxes.
   auto* grid = new QGridLayout;
-  grid->setVerticalSpacing(labelSpacing_);
+  grid->setHorizontalSpacing(across_);
+  grid->setVerticalSpacing(labelSpacing());
   grid->setRowStretch(1, 1);
   std::vector<bool> growing;
   for (const Layout& part : row.children) {
@@ -138,6 +142,7 @@ QLayout* LayoutBuilder::makeLabelledRow(const Layout& row, QWidget* parent) {
 
 QBoxLayout* LayoutBuilder::makeColumn(const Layout& column, QWidget* parent) {
   auto* box = new QVBoxLayout;
+  box->setSpacing(down_);
   const std::vector<Layout>& parts = column.children;
   const bool isShared = anyOf(parts, growsDown) || anyOf(parts, isSpace);
   const bool isTaken = isShared || anyOf(parts, isTall);
@@ -162,6 +167,8 @@ QBoxLayout* LayoutBuilder::makeColumn(const Layout& column, QWidget* parent) {
 
 QLayout* LayoutBuilder::makeTable(const Layout& table, QWidget* parent) {
   auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(across_);
+  grid->setVerticalSpacing(down_);
   std::size_t columns = 1;
   for (const Layout& line : table.children) {
     if (line.kind == Kind::row) columns = std::max(columns, line.children.size());
@@ -196,7 +203,7 @@ QLayout* LayoutBuilder::makeTable(const Layout& table, QWidget* parent) {
 
 QLayout* LayoutBuilder::makeLabelled(const Layout& part, QWidget* parent) {
   auto* box = new QVBoxLayout;
-  box->setSpacing(labelSpacing_);
+  box->setSpacing(labelSpacing());
   const Layout& child = part.children.front();
   addTo(*box, make(item(*part.control), parent), 0, {});
   addTo(*box, make(child, parent), isTall(child) ? 1 : 0,
@@ -206,14 +213,16 @@ QLayout* LayoutBuilder::makeLabelled(const Layout& part, QWidget* parent) {
 }
 
 QWidget* LayoutBuilder::makeFrame(const Layout& part, QWidget* parent) {
-  QWidget& frame = factory_.makeFrame(static_cast<Frame&>(*part.control), parent).widget();
-  fill(frame, part.children.front());
-  return &frame;
+  FramePeer& frame = factory_.makeFrame(static_cast<Frame&>(*part.control), parent);
+  frame.askForRoom(part.characters, part.lines);
+  fill(frame.widget(), part.children.front());
+  return &frame.widget();
 }
 
 QWidget* LayoutBuilder::makeTabs(const Layout& part, QWidget* parent) {
   auto& strip = static_cast<TabStrip&>(*part.control);
   TabStripPeer& tabs = factory_.makeTabs(strip, parent);
+  tabs.askForRoom(part.characters, part.lines);
   const std::size_t count = std::min(strip.tabs().size(), part.children.size());
   for (std::size_t i = 0; i < count; ++i) {
     QWidget* page = tabs.addPage();

@@ -34,11 +34,15 @@ class LayoutBuilder {
   QWidget* makeFrame(const Layout& part, QWidget* parent);
   QWidget* makeTabs(const Layout& part, QWidget* parent);
 
+  /// Between a label and the box below it.
+  int labelSpacing() const { return (down_ + 1) / 2; }
+
   /// Labels in the row name the boxes that they stand before.
   void nameBoxes(const Layout& row);
 
   PeerFactory& factory_;
-  int labelSpacing_;  // between a label and its box
+  int across_;  // spacing between what stands side by side
+  int down_;
 };
 
 }  // namespace tamrikon

@@ -47,6 +47,7 @@ bool growsAcross(const Layout& part) {
 }
 
 bool keepsWidth(const Layout& part) {
+  if (isSpinPair(part)) return keepsWidth(part.children.front());
   if (part.grows || part.kind != Kind::control) return false;
   return part.characters > 0 && part.characters <= kNumber && isAny<TextBox, ComboBox>(part) &&
          !isTall(part);

@@ -15,6 +15,8 @@ namespace {
 
 constexpr int kCharacters = 24;  // of a list that asks for nothing
 constexpr int kLines = 6;
+constexpr int kNarrowest = 8;  // characters of a drop-down list
+constexpr int kWidest = 48;
 
 QSize listRoom(const QListWidget& list, int characters, int lines) {
   return roomInside(list, characters > 0 ? characters : kCharacters, lines > 0 ? lines : kLines,
@@ -85,6 +87,27 @@ void ListView::mousePressEvent(QMouseEvent* event) {
   const bool again = event->button() == Qt::LeftButton && pressed && pressed->isSelected();
   Sized::mousePressEvent(event);
   if (again && onPressedAgain) onPressedAgain();
+}
+
+DropDown::DropDown(QWidget* parent) : QComboBox(parent) {
+  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+  setInsertPolicy(NoInsert);
+}
+
+void DropDown::setRoom(int characters) {
+  characters_ = characters;
+  updateGeometry();
+}
+
+QSize DropDown::sizeHint() const {
+  int text = widthOf(*this, characters_);
+  if (characters_ == 0) {
+    for (int i = 0; i < count(); ++i) {
+      text = std::max(text, fontMetrics().horizontalAdvance(itemText(i)));
+    }
+    text = std::clamp(text, widthOf(*this, kNarrowest), widthOf(*this, kWidest));
+  }
+  return QComboBox::sizeHint() + QSize(text + widthOf(*this, 1), 0);  // Qt's is that of no text
 }
 
 ListBoxPeer::ListBoxPeer(PeerContext context, ListBox& list, QWidget* parent)
@@ -164,10 +187,9 @@ void CheckListPeer::update() {
 }
 
 ComboBoxPeer::ComboBoxPeer(PeerContext context, ComboBox& box, QWidget* parent)
-    : Peer(context, box, *new QComboBox(parent)),
+    : Peer(context, box, *new DropDown(parent)),
       box_(box),
-      widget_(static_cast<QComboBox*>(&widget())) {
-  widget_->setInsertPolicy(QComboBox::NoInsert);
+      widget_(static_cast<DropDown*>(&widget())) {
   // At once, as the Tab key stops where the line edit was made.
   if (box.isEditable()) becomeEditable();
   connect(widget_, &QComboBox::activated, this,
@@ -175,9 +197,9 @@ ComboBoxPeer::ComboBoxPeer(PeerContext context, ComboBox& box, QWidget* parent)
 }
 
 void ComboBoxPeer::askForRoom(int characters, int) {
-  widget_->setSizeAdjustPolicy(characters > 0 ? QComboBox::AdjustToMinimumContentsLengthWithIcon
-                                              : QComboBox::AdjustToContents);
-  widget_->setMinimumContentsLength(characters);
+  widget_->setRoom(characters);
+  widget_->setSizePolicy(characters > 0 ? QSizePolicy::Preferred : QSizePolicy::Expanding,
+                         QSizePolicy::Fixed);
 }
 
 void ComboBoxPeer::becomeEditable() {
@@ -199,6 +221,7 @@ void ComboBoxPeer::update() {
     shown_ = box_.items();
     widget_->clear();
     for (const std::string& item : shown_) widget_->addItem(toQt(item));
+    widget_->updateGeometry();
     differs = true;
   }
   if (widget_->isEditable()) {

@@ -28,6 +28,20 @@ class ListView final : public Sized<QListWidget> {
   void mousePressEvent(QMouseEvent* event) override;
 };
 
+/// A drop-down list as wide as its items, or as it is asked for. Qt's own way of that resizes it
+/// past its layout.
+class DropDown final : public QComboBox {
+ public:
+  explicit DropDown(QWidget* parent);
+
+  void setRoom(int characters);
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ private:
+  int characters_ = 0;
+};
+
 class ListBoxPeer final : public Peer {
  public:
   using ControlType = ListBox;
@@ -83,7 +97,7 @@ class ComboBoxPeer final : public Peer {
   void becomeEditable();
 
   ComboBox& box_;
-  QComboBox* widget_;
+  DropDown* widget_;
   std::vector<std::string> shown_;
 };
 

@@ -116,6 +116,7 @@ void LabelPeer::update() {
 
 StatusBarPeer::StatusBarPeer(PeerContext context, StatusBar& bar, QWidget* parent)
     : Peer(context, bar, *new QWidget(parent)), bar_(bar) {
+  widget().setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   auto* row = new QHBoxLayout(&widget());
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(row->spacing() / 2);

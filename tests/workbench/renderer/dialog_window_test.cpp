@@ -96,6 +96,21 @@ TEST_F(DialogWindowTest, QuittingWhileTheDialogWorksClosesIt) {
   EXPECT_FALSE(dialog.isShown());
 }
 
+TEST_F(DialogWindowTest, ApplicationThatQuitsAsksTheDialog) {
+  int asked = 0;
+  dialog.queryClose = [&] { return ++asked == 2; };
+  QTimer::singleShot(0, qApp, [&] {
+    show([&] {
+      QCoreApplication::quit();
+      EXPECT_TRUE(dialog.isShown());
+      QCoreApplication::quit();
+      EXPECT_FALSE(dialog.isShown());
+    });
+  });
+  QCoreApplication::exec();
+  EXPECT_EQ(asked, 2);
+}
+
 TEST_F(DialogWindowTest, WhatAHandlerThrowsComesOutWhenTheDialogHasGone) {
   dialog.Nothing.onClick = [] { throw std::runtime_error("thrown"); };
   try {
