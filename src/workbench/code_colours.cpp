@@ -28,7 +28,7 @@ CodeColours codeColours(const QPalette& palette) {
   colours.string = choose(0xA0261C, 0xE79A86);
   colours.number = choose(0x0B6A78, 0x7FD1DE);
   colours.directive = choose(0x7A2E9E, 0xC79BE8);
-  colours.currentLine = mixed(base, palette.color(QPalette::Highlight), dark ? 0.22 : 0.09);
+  colours.currentLine = mixed(base, palette.color(QPalette::Highlight), dark ? 0.16 : 0.09);
   colours.lineNumber = mixed(base, text, 0.58);
   colours.margin = mixed(base, text, 0.05);
   return colours;

@@ -77,6 +77,7 @@ CodeWindow& WorkbenchWindow::showCode(HostModule& module) {
 void WorkbenchWindow::closeCode(CodeWindow& window) {
   HostModule& module = window.module();
   if (keeper_.isUnsaved(module)) {
+    tabs_.bringToFront(window);
     enum { save, leave, cancel };
     const Question question{
         "Save the changes to " + toQt(module.Name()) + '?',

@@ -1,10 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <QPalette>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
+#include "workbench/code_colours.h"
 #include "workbench/qt_text.h"
 #include "workbench/text_search.h"
 #include "workbench/vb_tokens.h"
@@ -104,6 +108,38 @@ TEST(TextSearchTest, FindsWholeWordsAndCases) {
   EXPECT_EQ(all({"item", false, true}), (Places{0, 11, 28}));
   EXPECT_EQ(all({".i", false, true}), Places{});
   EXPECT_EQ(all({"", false, false}), Places{});
+}
+
+/// How well one colour stands out from another, from 1 to 21.
+double contrast(const QColor& one, const QColor& other) {
+  const auto luminance = [](const QColor& colour) {
+    const auto linear = [](double part) {
+      return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+  };
+  const double a = luminance(one);
+  const double b = luminance(other);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+TEST(CodeColoursTest, AreLegibleOnLightAndDark) {
+  for (const QColor base :
+       {QColor(0xFFFFFF), QColor(0xF4F0E6), QColor(0x1E1E1E), QColor(0x2B303B)}) {
+    QPalette palette(base);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::Text, base.lightness() < 128 ? 0xDDDDDD : 0x111111);
+    palette.setColor(QPalette::Highlight, 0x2A82DA);
+    const CodeColours colours = codeColours(palette);
+    for (const QColor& behind : {base, colours.currentLine}) {
+      for (const QColor& text : {colours.keyword, colours.comment, colours.tag, colours.string,
+                                 colours.number, colours.directive}) {
+        EXPECT_GE(contrast(text, behind), 4.5) << fromQt(text.name() + " on " + behind.name());
+      }
+    }
+    EXPECT_GE(contrast(colours.lineNumber, colours.margin), 3) << fromQt(base.name());
+  }
 }
 
 }  // namespace

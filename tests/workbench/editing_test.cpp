@@ -8,6 +8,7 @@
 #include <random>
 
 #include "base/text.h"
+#include "host/edit_group.h"
 #include "workbench_fixture.h"
 
 namespace tamrikon::test {
@@ -197,7 +198,17 @@ TEST_F(EditingTest, AnyRunOfEditsKeepsEditorAndModuleTheSame) {
   for (int i = 0; i < 600; ++i) {
     const int first = line();
     editor.setSelection({first, 1 + upTo(30), upTo(3) == 0 ? line() : first, 1 + upTo(30)});
-    switch (upTo(11)) {
+    switch (upTo(12)) {
+      case 12: {  // in one edit at two places, as when a text is dragged
+        QTextCursor cursor = editor.textCursor();
+        QTextCursor other(editor.document()->findBlockByNumber(line() - 1));
+        cursor.beginEditBlock();
+        const QString moved = cursor.selectedText();
+        cursor.removeSelectedText();
+        other.insertText(moved + "d");
+        cursor.endEditBlock();
+        break;
+      }
       case 0: editor.insertSource("a\n\nb\u00E9"); break;
       case 1: editor.insertSource("\n"); break;
       case 2: QTest::keyClick(&editor, Qt::Key_Backspace); break;
@@ -219,6 +230,70 @@ TEST_F(EditingTest, AnyRunOfEditsKeepsEditorAndModuleTheSame) {
   while (module.undo()) continue;
   EXPECT_EQ(module.Lines(1, module.CountOfLines()), before);
   expectSame(editor, module);
+}
+
+TEST_F(EditingTest, EditsInAGroupAreUndoneTogether) {
+  CodeEditor& editor = show("StockText");
+  HostModule& text = module("StockText");
+  {
+    const EditGroup oneStep(text);
+    text.InsertLines(1, "' one");
+    text.InsertLines(5, "' two");
+  }
+  QApplication::processEvents();
+  const auto& undo = *window_->findChild<QAction*>("undo");
+  EXPECT_TRUE(undo.isEnabled());
+  trigger("undo");
+  EXPECT_FALSE(undo.isEnabled());
+  EXPECT_FALSE(text.isChanged());
+  expectSame(editor, text);
+}
+
+TEST_F(EditingTest, ALineMovedByDraggingLeavesThoseBetweenAlone) {
+  const std::string before = bytes("Stock/StockItems.cls");
+  CodeEditor& editor = show("StockItems");
+  QTextCursor from(editor.document()->firstBlock().next());
+  from.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor);
+  const QString line = from.selectedText().chopped(1);
+  QTextCursor to(editor.document());
+  to.movePosition(QTextCursor::End);
+  to.beginEditBlock();
+  from.removeSelectedText();
+  to.insertText('\n' + line);
+  to.endEditBlock();
+  trigger("save");
+  std::string expected = before;
+  const std::size_t at = expected.find(fromQt(line) + "\r\n");
+  expected.erase(at, static_cast<std::size_t>(line.size()) + 2);
+  EXPECT_EQ(bytes("Stock/StockItems.cls"), expected + fromQt(line) + "\r\n");
+}
+
+TEST_F(EditingTest, AMarginPressSelectsTheLine) {
+  CodeEditor& editor = show("Warehouse");
+  auto* margin = editor.findChild<QWidget*>("lineNumbers");
+  const int height = editor.fontMetrics().lineSpacing();
+  QTest::mouseClick(margin, Qt::LeftButton, Qt::NoModifier, QPoint(5, height * 2 + height));
+  const Selection selected = editor.selection();
+  EXPECT_EQ(selected.endLine, selected.startLine + 1);
+  EXPECT_EQ(selected.startColumn + selected.endColumn, 2);
+  const int narrow = margin->width();
+  module("Warehouse").InsertLines(1, std::string(2000, '\r'));
+  EXPECT_GT(margin->width(), narrow);  // for the fourth digit
+}
+
+TEST_F(EditingTest, ColoursFollowThePalette) {
+  CodeEditor& editor = show("Warehouse");
+  const auto keyword = [&] {
+    QApplication::processEvents();
+    const QTextBlock block = editor.document()->find("Option Explicit").block();
+    return block.layout()->formats().value(0).format.foreground().color();
+  };
+  const QColor onLight = keyword();
+  QPalette dark = editor.palette();
+  dark.setColor(QPalette::Base, Qt::black);
+  dark.setColor(QPalette::Text, Qt::white);
+  editor.setPalette(dark);
+  EXPECT_GT(keyword().lightness(), onLight.lightness());
 }
 
 TEST_F(EditingTest, LongModulesStayFluent) {

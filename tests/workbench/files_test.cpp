@@ -159,6 +159,53 @@ TEST_F(FilesTest, FailedSavesAreToldAndLoseNothing) {
   window_.reset();
 }
 
+TEST_F(FilesTest, ACharacterThatTheFileCannotHoldStopsItsSaveAlone) {
+  open();
+  edit("StockText");
+  QTest::keyClicks(&show("Warehouse"), "' ");
+  show("Warehouse").insertSource(QString::fromUtf8("\u4E2D"));
+  prompts_.answers = {"OK"};
+  trigger("saveAll");
+  EXPECT_TRUE(
+      prompts_.asked.last().contains("Warehouse.cls, line 15: code page 1252 lacks U+4E2D"));
+  EXPECT_TRUE(module("Warehouse").isChanged());
+  EXPECT_FALSE(module("StockText").isChanged());
+  trigger("undo");
+  trigger("undo");
+  EXPECT_TRUE(window_->close());
+}
+
+TEST_F(FilesTest, SaveAllGoesOnPastAFileThatIsLeftAlone) {
+  open();
+  edit("StockText");
+  edit("Warehouse");
+  window_->ide()->VBProjects().Item(1).setHelpFile("help.chm");
+  const std::string theirs = bytes("Stock/Warehouse.cls") + "' theirs\r\n";
+  put("Stock/Warehouse.cls", theirs);
+  prompts_.answers = {"Cancel"};
+  trigger("saveAll");
+  EXPECT_EQ(bytes("Stock/Warehouse.cls"), theirs);
+  EXPECT_FALSE(module("StockText").isChanged());
+  EXPECT_NE(bytes("Stock.vbp").find("HelpFile=\"help.chm\""), std::string::npos);
+  prompts_.answers = {"Save", "Overwrite"};
+  EXPECT_TRUE(window_->close());
+  EXPECT_EQ(bytes("Stock/Warehouse.cls").find("theirs"), std::string::npos);
+}
+
+TEST_F(FilesTest, NothingIsAskedAboveAnotherDialog) {
+  open();
+  put("Stock/StockText.bas", "' theirs\r\n");
+  QMessageBox dialog(window_.get());
+  dialog.open();
+  ASSERT_EQ(QApplication::activeModalWidget(), &dialog);
+  look();
+  EXPECT_TRUE(prompts_.asked.isEmpty());
+  prompts_.answers = {"Reload"};
+  dialog.close();
+  look();
+  EXPECT_EQ(module("StockText").CountOfLines(), 1);
+}
+
 TEST_F(FilesTest, FilesChangedOnDiskAreReadAgainOrKept) {
   open();
   CodeEditor& editor = show("StockText");
@@ -235,6 +282,76 @@ TEST_F(FilesTest, ChangedProjectIsOpenedAgain) {
   EXPECT_EQ(tabs().count(), 2);
   EXPECT_EQ(tabs().current()->module().Name(), "Warehouse");
   EXPECT_TRUE(isEdited("Warehouse"));
+}
+
+TEST_F(FilesTest, RenamedModulesShowTheirNewNames) {
+  open();
+  put("Stock/StockText.bas",
+      replaceAll(bytes("Stock/StockText.bas"), "\"StockText\"", "\"Words\""));
+  prompts_.answers = {"Reload"};
+  look();
+  const auto& tree = *window_->findChild<ProjectExplorer*>();
+  EXPECT_EQ(tree.findItems("Words (StockText.bas)", Qt::MatchExactly | Qt::MatchRecursive).size(),
+            1);
+}
+
+TEST_F(FilesTest, ExplorerWorksWithKeysAlone) {
+  open();
+  auto& tree = *window_->findChild<ProjectExplorer*>();
+  const auto select = [&](const QString& caption) {
+    tree.setCurrentItem(tree.findItems(caption, Qt::MatchExactly | Qt::MatchRecursive).value(0));
+  };
+  const auto press = [](QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(&widget, key, modifiers);
+  };
+  EXPECT_TRUE(tree.hasFocus());
+  select("frmDesk (frmDesk.frm)");
+  press(tree, Qt::Key_Return);
+  EXPECT_EQ(tabs().current()->module().Name(), "frmDesk");
+  EXPECT_TRUE(tabs().current()->editor().hasFocus());
+  EXPECT_EQ(window_->windowTitle(), "Desk - frmDesk (Code) - Tamrikon Workbench");
+  press(tabs().current()->editor(), Qt::Key_R, Qt::ControlModifier);
+  EXPECT_TRUE(tree.hasFocus());
+  select("Movement (Movement.cls)");
+  press(tree, Qt::Key_F7);
+  press(tabs().current()->editor(), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(tabs().current()->module().Name(), "frmDesk");
+  EXPECT_TRUE(tabs().current()->editor().hasFocus());
+  EXPECT_EQ(tree.currentItem()->text(0), "frmDesk (frmDesk.frm)");
+
+  select("Stock (Stock.vbp)");
+  press(tree, Qt::Key_Return);
+  EXPECT_FALSE(tree.currentItem()->isExpanded());
+  QTimer::singleShot(0, window_.get(), [] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    QTest::keyClick(menu, Qt::Key_A);
+  });
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
+  QApplication::sendEvent(tree.viewport(), &event);
+  EXPECT_EQ(window_->ide()->ActiveVBProject().Name(), "Stock");
+  EXPECT_TRUE(tree.topLevelItem(0)->font(0).bold());
+  EXPECT_FALSE(tree.topLevelItem(1)->font(0).bold());
+}
+
+TEST_F(FilesTest, CloseAllStopsWhenTheUserCancels) {
+  open();
+  edit("Warehouse");
+  edit("StockText");
+  show("StockErrors");
+  prompts_.answers = {"Don't Save", "Cancel"};
+  trigger("closeAllWindows");
+  EXPECT_EQ(tabs().count(), 2);
+  auto* windows = window_->findChild<QMenu*>("windowMenu");
+  emit windows->aboutToShow();
+  QStringList listed;
+  for (const QAction* action : windows->actions()) {
+    if (action->isCheckable()) listed += action->text() + (action->isChecked() ? " *" : "");
+  }
+  EXPECT_EQ(listed,
+            (QStringList{"&1 Stock - StockText (Code) *", "&2 Stock - StockErrors (Code)"}));
+  prompts_.answers = {"Don't Save"};
+  trigger("closeProject");
 }
 
 TEST_F(FilesTest, BoxesAskWithTheButtonsOfTheQuestion) {

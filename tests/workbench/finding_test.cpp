@@ -1,4 +1,6 @@
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -96,6 +98,9 @@ TEST_F(FindingTest, ListsMatchesOfTheProject) {
   QTest::keyClick(&list, Qt::Key_Return);
   EXPECT_EQ(&tabs().current()->module(), module_);
   EXPECT_EQ(found(), "2:1+4");
+  list.setFocus();
+  QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "StockErrors (2): none");
 }
 
 TEST_F(FindingTest, ProcedureBoxFollowsTheCaretAndLeads) {
@@ -115,7 +120,8 @@ TEST_F(FindingTest, ProcedureBoxFollowsTheCaretAndLeads) {
     emit box.activated(index);
   };
   // An edit moves the procedures: a choice that comes before the list has followed leads right too.
-  item.InsertLines(item.ProcStartLine("AddBreak", ProcKind::procedure), "Sub More()\r\nEnd Sub\r\n");
+  item.InsertLines(item.ProcStartLine("AddBreak", ProcKind::procedure),
+                   "Sub More()\r\nEnd Sub\r\n");
   choose("Price [Get]");
   EXPECT_EQ(editor.caretLine(), item.ProcBodyLine("Price", ProcKind::get));
   item.InsertLines(item.CountOfLines() + 1, "Sub Added()\r\nEnd Sub");
