@@ -5,8 +5,6 @@
 #include <QFontDatabase>
 #include <algorithm>
 
-#include "workbench/qt_text.h"
-
 namespace tamrikon {
 namespace {
 

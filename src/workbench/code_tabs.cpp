@@ -7,7 +7,7 @@
 #include "base/paths.h"
 #include "host/host_component.h"
 #include "host/host_project.h"
-#include "workbench/qt_text.h"
+#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 

@@ -7,7 +7,7 @@
 #include <QScopedValueRollback>
 
 #include "workbench/lists_in_words.h"
-#include "workbench/qt_text.h"
+#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 namespace {

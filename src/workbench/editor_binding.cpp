@@ -4,7 +4,7 @@
 #include <QTextBlock>
 #include <algorithm>
 
-#include "workbench/qt_text.h"
+#include "workbench/block_text.h"
 
 namespace tamrikon {
 namespace {

@@ -37,6 +37,7 @@ FindBar::FindBar(QWidget* parent)
   matchCase_->setObjectName("matchCase");
   wholeWord_->setObjectName("wholeWord");
   status_->setObjectName("findStatus");
+  status_->setTextFormat(Qt::PlainText);
 
   const auto button = [this](const char* name, const QString& text, const QString& toolTip,
                              auto action) {

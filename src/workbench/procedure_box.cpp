@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "workbench/qt_text.h"
+#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 namespace {

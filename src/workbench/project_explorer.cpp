@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/paths.h"
-#include "workbench/qt_text.h"
+#include "workbench/renderer/qt_text.h"
 #include "workbench/workbench_icons.h"
 
 namespace tamrikon {
@@ -48,7 +48,7 @@ class ComponentItem final : public QTreeWidgetItem {
 };
 
 QString captionOf(const HostComponent& component) {
-  const QString file = toQt(lastName(component.path()));
+  const QString file = toQt(std::string(lastName(component.path())));
   if (!hasCode(component.Type())) return file;
   return toQt(component.name()) + " (" + file + ')';
 }
@@ -81,7 +81,7 @@ void ProjectExplorer::show(HostIde* ide) {
 void ProjectExplorer::addProject(HostProject& project) {
   auto* projectItem = new ProjectItem(project);
   addTopLevelItem(projectItem);
-  const QString file = toQt(lastName(project.FileName()));
+  const QString file = toQt(std::string(lastName(project.FileName())));
   projectItem->setText(0, toQt(project.Name()) + " (" + file + ')');
   projectItem->setToolTip(0, toQt(project.FileName()));
   projectItem->setIcon(0, workbenchIcon(WorkbenchIcon::project));

@@ -3,7 +3,7 @@
 #include <set>
 
 #include "workbench/lists_in_words.h"
-#include "workbench/qt_text.h"
+#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 

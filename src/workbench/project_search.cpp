@@ -1,6 +1,7 @@
 #include "workbench/project_search.h"
 
-#include "workbench/qt_text.h"
+#include "workbench/block_text.h"
+#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 

@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <vector>
@@ -19,6 +20,9 @@ int BoxPrompts::ask(const Question& question) {
   box.setTextFormat(Qt::PlainText);
   box.setText(question.text);
   box.setInformativeText(question.details);
+  if (auto* details = box.findChild<QLabel*>("qt_msgbox_informativelabel")) {
+    details->setTextFormat(Qt::PlainText);
+  }
   std::vector<QPushButton*> buttons;
   for (int i = 0; i < question.answers.size(); ++i) {
     // The desktop has its own order for these.

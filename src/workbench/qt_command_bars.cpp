@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "ide/ide.h"
-#include "workbench/qt_text.h"
+#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 namespace {

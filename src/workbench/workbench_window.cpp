@@ -11,8 +11,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "workbench/block_text.h"
 #include "workbench/program_name.h"
-#include "workbench/qt_text.h"
+#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 namespace {

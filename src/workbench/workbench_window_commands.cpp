@@ -6,7 +6,7 @@
 #include "platform/open_document.h"
 #include "workbench/program_name.h"
 #include "workbench/project_search.h"
-#include "workbench/qt_text.h"
+#include "workbench/renderer/qt_text.h"
 #include "workbench/workbench_window.h"
 
 namespace tamrikon {

@@ -12,7 +12,8 @@
 #include <string>
 
 #include "support/temp_folder.h"
-#include "workbench/qt_text.h"
+#include "workbench/block_text.h"
+#include "workbench/renderer/qt_text.h"
 #include "workbench/workbench_window.h"
 
 namespace tamrikon::test {

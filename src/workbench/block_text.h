@@ -1,4 +1,4 @@
-// Texts between the program, whose are UTF-8, and Qt, whose are UTF-16.
+// Lines of source as the blocks of a document, which hold UTF-16, and their columns.
 #pragma once
 
 #include <QString>
@@ -7,11 +7,6 @@
 #include <string_view>
 
 namespace tamrikon {
-
-QString toQt(std::string_view text);
-
-/// A surrogate that stands alone becomes U+FFFD.
-std::string fromQt(QStringView text);
 
 /// A line of source as one block of a document can hold it, and back. The few characters at which
 /// a document would divide the line stand as surrogates of their own, which no source can hold.

@@ -1,4 +1,4 @@
-#include "workbench/qt_text.h"
+#include "workbench/block_text.h"
 
 #include <algorithm>
 #include <array>
@@ -19,31 +19,14 @@ bool isPairAt(QStringView text, qsizetype position) {
          text[position + 1].isLowSurrogate();
 }
 
-/// `standsFor` gives the character of a surrogate that stands alone.
-template <typename StandsFor>
-std::string encode(QStringView text, StandsFor standsFor) {
-  std::string result;
-  result.reserve(static_cast<std::size_t>(text.size()));
-  for (qsizetype i = 0; i < text.size(); ++i) {
-    const QChar unit = text[i];
-    if (isPairAt(text, i)) {
-      appendCodePoint(result, QChar::surrogateToUcs4(unit, text[++i]));
-    } else {
-      appendCodePoint(result, unit.isSurrogate() ? standsFor(unit.unicode()) : unit.unicode());
-    }
-  }
-  return result;
+/// The character that a unit stands for which is no half of a pair.
+char32_t characterOf(char16_t unit) {
+  const auto index = static_cast<std::size_t>(unit - kFirstStandIn);
+  if (unit >= kFirstStandIn && index < kDividers.size()) return kDividers[index];
+  return QChar::isSurrogate(unit) ? char32_t{QChar::ReplacementCharacter} : unit;
 }
 
 }  // namespace
-
-QString toQt(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-std::string fromQt(QStringView text) {
-  return encode(text, [](char16_t) { return char32_t{0xFFFD}; });
-}
 
 QString toBlock(std::string_view line) {
   if (isAscii(line) && line.find_first_of("\r\n") == std::string_view::npos) {
@@ -65,10 +48,17 @@ QString toBlock(std::string_view line) {
 }
 
 std::string fromBlock(QStringView block) {
-  return encode(block, [](char16_t unit) -> char32_t {
-    const auto index = static_cast<std::size_t>(unit - kFirstStandIn);
-    return unit >= kFirstStandIn && index < kDividers.size() ? kDividers[index] : 0xFFFD;
-  });
+  std::string line;
+  line.reserve(static_cast<std::size_t>(block.size()));
+  for (qsizetype i = 0; i < block.size(); ++i) {
+    const QChar unit = block[i];
+    if (isPairAt(block, i)) {
+      appendCodePoint(line, QChar::surrogateToUcs4(unit, block[++i]));
+    } else {
+      appendCodePoint(line, characterOf(unit.unicode()));
+    }
+  }
+  return line;
 }
 
 QStringList toBlocks(std::string_view text) {
