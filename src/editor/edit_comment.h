@@ -42,7 +42,7 @@ class EditComment final : public Dialog {
   BasicPage basicPage{*this, fields_, boxes_};
   ParametersPage parametersPage;
   ReferencesPage referencesPage;
-  MiscPage miscPage{*this, fields_, boxes_};
+  AuthorPage miscPage{*this, fields_, boxes_};
   UserPage userPage{*this, fields_, boxes_};
   SourcePage sourcePage{*this};
   CommandButton cmdOK{*this, "cmdOK", "OK"};

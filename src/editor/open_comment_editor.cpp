@@ -12,8 +12,9 @@ void openCommentEditor(Session& session, VBE& VBInstance, const EditGrouping& gr
     hasSelection = pane != nullptr && !isEmpty(pane->GetSelection());
   });
   if (hasSelection) {
-    session.toolkit.messageBox({"Tamrikon Comment Editor",
-                                "Please remove the selection before opening the comment editor.",
+    session.toolkit.messageBox({"Comment editor",
+                                "Cannot run comment editor when source code selection is made. "
+                                "Please cancel your text selection.",
                                 MessageButtons::ok, MessageIcon::exclamation});
     return;
   }

@@ -26,7 +26,7 @@ Layout BasicPage::layout() {
                  labelledText(RemarksLabel, RemarksText, 8)});
 }
 
-MiscPage::MiscPage(Dialog& dialog, CommentFields& fields, FieldBoxes& boxes)
+AuthorPage::AuthorPage(Dialog& dialog, CommentFields& fields, FieldBoxes& boxes)
     : dialog_(dialog), fields_(fields) {
   for (TextBox* box : {&AuthorText, &VersionText, &RevisionText}) box->setMultiLine(true);
   boxes.add(AuthorText, fields.author);
@@ -37,11 +37,11 @@ MiscPage::MiscPage(Dialog& dialog, CommentFields& fields, FieldBoxes& boxes)
   };
 }
 
-void MiscPage::show() {
+void AuthorPage::show() {
   IncludeSourceCode.setChecked(!fields_.includeSource.empty());
 }
 
-Layout MiscPage::layout() {
+Layout AuthorPage::layout() {
   return column({labelledText(AuthorLabel, AuthorText, 3),
                  labelledText(VersionLabel, VersionText, 3),
                  labelledText(RevisionLabel, RevisionText, 3), item(IncludeSourceCode)});

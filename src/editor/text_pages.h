@@ -26,11 +26,11 @@ class BasicPage {
   TextBox RemarksText{dialog_, "RemarksText"};
 };
 
-class MiscPage {
+class AuthorPage {
   Dialog& dialog_;
 
  public:
-  MiscPage(Dialog& dialog, CommentFields& fields, FieldBoxes& boxes);
+  AuthorPage(Dialog& dialog, CommentFields& fields, FieldBoxes& boxes);
   Layout layout();
   void show();
 
