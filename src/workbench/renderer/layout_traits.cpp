@@ -38,7 +38,8 @@ bool isTall(const Layout& part) {
 }
 
 bool growsDown(const Layout& part) {
-  if (part.grows && (part.kind != Kind::control || isTall(part))) return true;
+  // Growing frames without a list in them share the width of their row.
+  if (part.grows && isTall(part)) return true;
   return anyChild(part, growsDown);
 }
 
