@@ -95,9 +95,11 @@ void CodeCommands::connectWindows() {
     applyZoom();
   });
   connect(&tabs_, &CodeTabs::added, this, &CodeCommands::connectWindow);
-  // Twice, as nothing can be undone before a group of edits has come to its end.
-  connect(&tabs_, &CodeTabs::windowChanged, this, &CodeCommands::showState);
-  connect(&tabs_, &CodeTabs::windowChanged, this, &CodeCommands::showState, Qt::QueuedConnection);
+  connect(&tabs_, &CodeTabs::windowChanged, this, [this] {
+    showState();
+    // Once more, as nothing can be undone before a group of edits has come to its end.
+    QMetaObject::invokeMethod(this, &CodeCommands::showState, Qt::QueuedConnection);
+  });
   connect(&tabs_, &CodeTabs::frontChanged, this, [this] {
     findBar_.setWindow(tabs_.current());
     showState();

@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
+#include "platform/data_folder.h"
 #include "workbench/program_name.h"
+#include "workbench/tamrikon_add_in.h"
 #include "workbench/workbench_window.h"
 
 int main(int argc, char** argv) {
@@ -20,6 +22,7 @@ int main(int argc, char** argv) {
   parser.process(application);
 
   tamrikon::WorkbenchWindow window;
+  const tamrikon::TamrikonAddIn addIn(window, tamrikon::dataFolder());
   window.show();
   const QStringList projects = parser.positionalArguments();
   if (!projects.isEmpty()) window.openProject(projects.first());
