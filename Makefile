@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 DOCS := examples/Inventory/Documentation
 
-.PHONY: run test sanitize bench install format tidy clean
+.PHONY: run run-workbench test sanitize bench screenshots install format tidy clean
 
 # Builds the program and compiles the documentation of the example projects.
 run: release
@@ -12,6 +12,12 @@ run: release
 	@echo
 	@echo "The pages are in $(CURDIR)/$(DOCS). Open first:"
 	@echo "$(CURDIR)/$(DOCS)/Group+.contents.html"
+
+# Opens the example projects in the workbench.
+run-workbench:
+	@scripts/install_packages.sh workbench
+	@$(MAKE) --no-print-directory release
+	build/release/bin/tamrikon-workbench examples/Inventory/Inventory.vbg
 
 test:
 	@scripts/install_packages.sh build workbench test
@@ -29,6 +35,13 @@ sanitize:
 bench: release
 	@scripts/install_packages.sh bench
 	bench/compile_bench.sh build/release/bin/tamrikon
+
+# The pictures of the workbench in docs/screenshots, drawn without a screen.
+screenshots:
+	@scripts/install_packages.sh workbench
+	@$(MAKE) --no-print-directory release
+	cmake --build --preset release --target make_screenshots
+	build/release/bin/make_screenshots examples/Inventory docs/screenshots
 
 install: release
 	cmake --install build/release --prefix $(PREFIX)
