@@ -47,6 +47,8 @@ std::string commentText(std::string_view indent, const CommentLines& lines) {
       text += '\r';
       text += indent;
       text += '\'';
+      // As a marker, the line would hide what stands above it.
+      if (line.starts_with("**")) text += ' ';
       text += line;
     }
   }

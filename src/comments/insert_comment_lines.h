@@ -11,8 +11,8 @@ namespace tamrikon {
 
 /// Puts a marker line and `lines`, each behind a quote, directly above the physical line
 /// `codeLocation`, indented as that line is, and sets the caret behind the quote of the first of
-/// them. A comment that is there already stays. Throws IdeError; when moving the caret fails, the
-/// comment stands.
+/// them. A line that would make a second marker gets a blank behind its quote. A comment that is
+/// there already stays. Throws IdeError; when moving the caret fails, the comment stands.
 void insertCommentLines(CodeModule& module, int codeLocation, const CommentLines& lines);
 
 /// The leading blanks of a source line; none for a line that isn't there.

@@ -32,6 +32,7 @@ TEST(InsertCommentLines, KeepsTheSourceVisualBasic) {
                 {"a\r\n\rb", "c\nd"},
                 {" '**", " 'a", " '", " 'b", " 'c", " 'd", " X"}},
            Case{"continues", {"X"}, {"a _", "b _"}, {"'**", "'a _", "'b _ ", "X"}},
+           Case{"no second marker", {"X"}, {"** a", "**"}, {"'**", "' ** a", "' **", "X"}},
            Case{"a tab is no indent", {"\tX"}, {""}, {"'**", "'", "\tX"}},
            Case{"no lines", {"X"}, {}, {"'**", "X"}},
            Case{"empty module", {}, {""}, {"'**", "'"}},
