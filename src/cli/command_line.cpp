@@ -5,6 +5,7 @@
 
 #include "cli/commands.h"
 #include "cli/setting_overrides.h"
+#include "cli/source_places.h"
 #include "platform/code_page.h"
 
 namespace tamrikon {
@@ -50,6 +51,38 @@ void addCompile(CLI::App& app, CompileOptions& options) {
   command.add_flag("--open", options.opens, "Open the finished documentation");
 }
 
+void addComment(CLI::App& app, CommentOptions& options) {
+  CLI::App& command =
+      *app.add_subcommand("comment", "Insert skeleton comments into the sources of a project");
+  addProject(command, options);
+  command
+      .add_option("TARGETS", options.targets,
+                  "Module, Module.Member, Module.Member'get ('let, 'set) or Module:LINE")
+      ->type_name("TARGET")
+      ->check(faultOfCommentTarget);
+  command.add_flag("--missing", options.missing,
+                   "At all modules and members, or those of the modules that are given, that a "
+                   "compile documents and that have no comment");
+  command.add_flag("--dry-run", options.dryRun,
+                   "Print as a unified diff what would change, and change nothing");
+  command.callback([&options] {
+    const std::string fault = faultOfTargets(options);
+    if (!fault.empty()) throw CLI::ValidationError(fault);
+  });
+}
+
+void addExample(CLI::App& app, ExampleOptions& options) {
+  CLI::App& command = *app.add_subcommand(
+      "example", "Print lines of a project's source as a code example for comments");
+  addProject(command, options);
+  command
+      .add_option("RANGE", options.range,
+                  "MODULE:LINE, MODULE:LINE-LINE or MODULE:LINE.COL-LINE.COL")
+      ->type_name("MODULE:RANGE")
+      ->required()
+      ->check(faultOfSourceRange);
+}
+
 void addSettings(CLI::App& app, SettingsOptions& options) {
   CLI::App& command =
       *app.add_subcommand("settings", "Print the settings of a project, or change and save them");
@@ -78,9 +111,13 @@ int runTamrikon(const std::vector<std::string>& arguments, const Streams& stream
   app.set_version_flag("--version", "tamrikon " TAMRIKON_VERSION);
   app.require_subcommand(1);
   CompileOptions compile;
+  CommentOptions comment;
+  ExampleOptions example;
   SettingsOptions settings;
   int templatesCodePage = 0;
   addCompile(app, compile);
+  addComment(app, comment);
+  addExample(app, example);
   addSettings(app, settings);
   addCodePage(*app.add_subcommand("templates", "List the templates with their descriptions"),
               templatesCodePage);
@@ -97,6 +134,8 @@ int runTamrikon(const std::vector<std::string>& arguments, const Streams& stream
     return app.exit(outcome, streams.out, streams.err) == 0 ? kDone : kWrongUsage;
   }
   if (app.got_subcommand("compile")) return compileCommand(compile, streams);
+  if (app.got_subcommand("comment")) return commentCommand(comment, streams);
+  if (app.got_subcommand("example")) return exampleCommand(example, streams);
   if (app.got_subcommand("settings")) return settingsCommand(settings, streams);
   return templatesCommand(templatesCodePage, streams);
 }

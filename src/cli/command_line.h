@@ -16,6 +16,7 @@ struct Streams {
   std::ostream& out;
   std::ostream& err;
   bool errIsTerminal = false;  // whether a status line makes sense
+  bool outIsTerminal = false;  // whether people read what goes to `out`, and no other program
 
   /// Waits for the line that somebody answers to what is asked on `err`; nothing if that was ended
   /// by Ctrl+C or there is no more. Empty if there is nobody to ask.

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -11,6 +12,8 @@ int main(int argc, char** argv) {
   tamrikon::InterruptWatch interrupts;
   tamrikon::Streams streams(std::cout, std::cerr);
   streams.errIsTerminal = tamrikon::errorStreamIsTerminal();
+  std::error_code ignored;
+  streams.outIsTerminal = std::filesystem::is_character_file("/dev/stdout", ignored);
   if (tamrikon::canAskOnTerminal()) streams.readLine = tamrikon::readTerminalLine;
   streams.isInterrupted = [&] { return interrupts.take(); };
   return tamrikon::runTamrikon(std::vector<std::string>(argv + 1, argv + argc), streams);

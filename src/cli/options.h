@@ -28,4 +28,14 @@ struct SettingsOptions : ProjectOptions {
   std::vector<std::string> settings;  // KEY=VALUE; none: the settings are printed
 };
 
+struct CommentOptions : ProjectOptions {
+  std::vector<std::string> targets;  // with `missing` names of modules, none meaning all
+  bool missing = false;
+  bool dryRun = false;
+};
+
+struct ExampleOptions : ProjectOptions {
+  std::string range;  // MODULE:RANGE
+};
+
 }  // namespace tamrikon

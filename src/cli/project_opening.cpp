@@ -1,11 +1,9 @@
 #include "cli/project_opening.h"
 
-#include "platform/file_system.h"
-
 namespace tamrikon {
 
-std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& terminal) {
-  FileSystem& files = nativeFileSystem();
+std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& terminal,
+                                     FileSystem& files) {
   const CodePage* page = options.codePage == 0 ? nullptr : CodePage::find(options.codePage);
   std::string why;
   std::unique_ptr<HostIde> ide = HostIde::open(

@@ -7,11 +7,14 @@
 #include "cli/terminal.h"
 #include "compiler/session.h"
 #include "host/host_ide.h"
+#include "platform/file_system.h"
 
 namespace tamrikon {
 
 /// Null, with a line on the error stream, if the project can't be opened.
-std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& terminal);
+/// `files` must outlive the result.
+std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& terminal,
+                                     FileSystem& files = nativeFileSystem());
 
 /// Makes `project` the active one and reads its settings. A settings file that is there but can't
 /// be used is told on the error stream; the defaults hold then.

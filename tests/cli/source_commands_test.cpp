@@ -1,0 +1,134 @@
+// The commands `comment` and `example`, on a class whose hidden lines don't count.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "support/program_run.h"
+#include "support/temp_folder.h"
+
+namespace tamrikon {
+namespace {
+
+using test::ProgramRun;
+
+class SourceCommandsTest : public testing::Test {
+ protected:
+  /// The text of the class, with these texts above its lines 1, 2, 3, 5 and 8.
+  static std::string cart(const std::string& top = "", const std::string& count = "",
+                          const std::string& let = "", const std::string& get = "",
+                          const std::string& fill = "") {
+    return "VERSION 1.0 CLASS\r\nAttribute VB_Name = \"Cart\"\r\n" + top +
+           "' All rights reserved.\r\n" + count + "Public Count As Long, Rest As Long\r\n" +
+           "Attribute Count.VB_VarDescription = \"Many.\"\r\n" + let +
+           "Public Property Let Total(ByVal Value As Long)\r\nEnd Property\r\n" + get +
+           "  Public Property Get Total() _\r\n    As Long\r\n  End Property\r\n" + fill +
+           "Private Sub Fill()\r\n  s = \"\xE9t\xE9\"\r\nEnd Sub\r\n";
+  }
+
+  ProgramRun run(const std::string& command, std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), {command, project_});
+    return ProgramRun(arguments, [](Streams& streams) { streams.outIsTerminal = true; });
+  }
+
+  test::TempFolder folder_;
+  std::string cartPath_ = folder_.put("Cart.cls", cart());
+  std::string tillPath_ = folder_.put("Till.bas", "x = \"\xE9\"\nSub Main()\nEnd Sub\n");
+  std::string project_ = folder_.put("Shop.vbp", "Class=Cart; Cart.cls\nModule=Till; Till.bas\n");
+};
+
+TEST_F(SourceCommandsTest, FindEachTargetInTheFilesAsTheyWere) {
+  const std::string top = "'**\r\n'\r\n'@see\r\n\r\n";
+  const std::string count = "'**\r\n'\r\n'@see\r\n";
+  const std::string fill = "'**\r\n'\r\n'@see          \r\n'@rem          \r\n";
+  const std::string let =
+      "'**\r\n'\r\n'@param        Value Long.\r\n'@see          \r\n'@rem          \r\n";
+  const std::string get =
+      "  '**\r\n  '\r\n  '@return       Long.\r\n  '@see          \r\n  '@rem          \r\n";
+  struct Case {
+    std::vector<std::string> targets;
+    std::string after, out;
+  };
+  for (const Case& c : {
+           Case{{"Cart"}, cart(top), "Cart\n1 comment inserted in 1 module.\n"},
+           Case{{"cart.COUNT'set", "cart.FILL"}, cart("", count, "", "", fill), "Cart.Count\nCar"},
+           Case{{"Cart.Total'GET"}, cart("", "", "", get), "Cart.Total'get\n"},
+           Case{{"Cart.Total", "Cart:10", "Cart:1", "Cart.Rest", "Cart:6"},
+                cart(top, count, let, get, fill),
+                "Cart.Total\nCart.Fill\nCart\nCart.Rest\nCart.Total\n5 comments inserted in 1 "},
+       }) {
+    folder_.put("Cart.cls", cart());
+    const ProgramRun result = run("comment", c.targets);
+    EXPECT_EQ(result.err, "");
+    EXPECT_TRUE(result.out.starts_with(c.out)) << result.out;
+    EXPECT_EQ(folder_.get("Cart.cls"), c.after) << c.targets.front();
+  }
+}
+
+TEST_F(SourceCommandsTest, ChangeNothingButPrintExamplesOrWhatIsWrong) {
+  struct Case {
+    const char* command;
+    std::vector<std::string> arguments;
+    int status;
+    std::string text;  // part of what is printed
+  };
+  for (const Case& c : {
+           Case{"comment", {"Cart.Fill", "Bag"}, 1, "'Bag': there is no module 'Bag'"},
+           Case{"comment", {"Cart.Gone", "Cart"}, 1, "'Cart.Gone': module Cart has no member"},
+           Case{"comment", {"Cart.Total'set"}, 1, "the property Total has no such"},
+           Case{"comment", {"Cart.Fill'get"}, 1, "Fill is no property"},
+           Case{"comment", {"Cart:11"}, 1, "'Cart:11': module Cart has no line 11"},
+           Case{"comment", {}, 2, "TARGET"},
+           Case{"comment", {"Cart:0"}, 2, "'Cart:0' is no target"},
+           Case{"comment", {"Cart.Total'put"}, 2, "'Cart.Total'put' is no target"},
+           Case{"comment", {"--missing", "Cart.Fill"}, 2, "'Cart.Fill' is no module"},
+           Case{"example", {"Cart:9"}, 0, "'$CODE$\n'  s = \"été\"\n'$END-CODE$\n"},
+           Case{"example", {"cart:10-9"}, 0, "\n'  s = \"été\"$EOL$\n'End Sub\n'$E"},
+           Case{"example", {"Cart:8.13-9.10"}, 0, "\n'Fill()$EOL$\n'  s = \"ét\n'$E"},
+           Case{"example", {"Cart:10-11"}, 1, "'Cart:10-11': module Cart has 10 lines"},
+           Case{"example", {"Bag:99999999999"}, 1, "there is no module 'Bag'"},
+           Case{"example", {"Cart:2.1-3"}, 2, "'Cart:2.1-3' is no"},
+           Case{"example", {"Cart:2-3-4"}, 2, "'Cart:2-3-4' is no"},
+       }) {
+    const ProgramRun result = run(c.command, c.arguments);
+    EXPECT_EQ(result.status, c.status) << c.text;
+    const std::string& printed = c.status == 0 ? result.out : result.err;
+    EXPECT_NE(printed.find(c.text), std::string::npos) << c.text << printed;
+    EXPECT_EQ(folder_.get("Cart.cls"), cart()) << c.text;
+  }
+}
+
+TEST_F(SourceCommandsTest, DryRunPrintsBytesForPatchAndTextForPeople) {
+  const std::filesystem::path home = std::filesystem::current_path();
+  std::filesystem::current_path(folder_.path());
+  const ProgramRun piped({"comment", "Shop.vbp", "Till.Main", "--dry-run"});
+  std::filesystem::current_path(home);
+  EXPECT_EQ(piped.out,
+            "--- Till.bas\n+++ Till.bas\n@@ -1,3 +1,7 @@\n x = \"\xE9\"\n+'**\n+'\n"
+            "+'@see          \n+'@rem          \n Sub Main()\n End Sub\n");
+  const ProgramRun shown = run("comment", {"Till.Main", "--dry-run"});
+  EXPECT_TRUE(shown.out.starts_with("--- " + tillPath_ + "\n")) << "not below the current folder";
+  EXPECT_NE(shown.out.find("\n x = \"é\"\n+'**\n"), std::string::npos) << shown.out;
+  EXPECT_EQ(folder_.get("Till.bas"), "x = \"\xE9\"\nSub Main()\nEnd Sub\n");
+}
+
+TEST_F(SourceCommandsTest, ReportWhatCannotBeSaved) {
+  folder_.put("Shop.tamrik", "#Tamrikon Project Settings#\naddUser1=1\nuser1Default=\xD1\x84\n");
+  const ProgramRun result = run("comment", {"Cart.Fill", "Till:1"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.out, "Till\n1 comment inserted in 1 module.\n") << "that was saved";
+  EXPECT_NE(result.err.find("cannot save " + cartPath_), std::string::npos) << result.err;
+  EXPECT_EQ(folder_.get("Cart.cls"), cart());
+}
+
+TEST_F(SourceCommandsTest, WorkOnTheProjectOfAGroupThatStartsUnlessTheyAreStopped) {
+  folder_.put("Other.vbp", "Module=Till; Till.bas\n");
+  project_ = folder_.put("All.vbg", "VBGROUP 5.0\nProject=Other.vbp\nStartupProject=Shop.vbp\n");
+  const ProgramRun stopped({"comment", project_, "--missing"},
+                           [](Streams& streams) { streams.isInterrupted = [] { return true; }; });
+  EXPECT_EQ(stopped.err, "tamrikon: stopped; nothing was changed\n");
+  EXPECT_EQ(run("comment", {"--missing"}).out,
+            "Cart\nCart.Count\nCart.Total\nTill.Main\n4 comments inserted in 2 modules.\n");
+}
+
+}  // namespace
+}  // namespace tamrikon
