@@ -83,57 +83,132 @@ bool isThere(QWidget&) {
   return true;
 }
 
-void photograph(const std::string& example, const QString& output) {
-  // Its name is seen in the pictures.
-  const std::filesystem::path folder = std::filesystem::temp_directory_path() / "Tamrikon";
-  const std::filesystem::path project = folder / "Inventory";
-  std::filesystem::remove_all(folder);
-  std::filesystem::create_directories(folder);
-  const auto copyAll = std::filesystem::copy_options::recursive;
-  std::filesystem::copy(example, project, copyAll);
-  std::filesystem::copy(dataFolder() + "/Templates", folder / "Templates", copyAll);
-  std::filesystem::create_directory(project / "Documentation");
+/// Presses a button of the dialog once its step has ended.
+void pressLater(QWidget& dialog, const char* button) {
+  QTimer::singleShot(0, &dialog, [&dialog, button] { press(dialog, button); });
+}
 
-  const Camera camera(output);
-  WorkbenchOptions options;
-  options.settingsFile = toQt((folder / "settings.ini").string());
-  WorkbenchWindow window(options);
-  TamrikonAddIn addIn(window, folder.string());
-  addIn.session().runsPrograms = false;
-  window.show();
-  window.openProject(toQt((project / "Inventory.vbg").string()));
-  for (const char* name : {"StockItem", "Warehouse"}) {
-    for (HostModule* module : modulesOf(*window.ide())) {
-      if (module->Name() == name) window.showCode(*module).editor().setSelection({26, 1, 26, 1});
+/// A copy of the example in a folder whose name is seen in the pictures.
+class Example {
+ public:
+  explicit Example(const std::string& source) {
+    const auto copyAll = std::filesystem::copy_options::recursive;
+    std::filesystem::remove_all(folder_);
+    std::filesystem::create_directories(folder_);
+    std::filesystem::copy(source, project_, copyAll);
+    std::filesystem::copy(dataFolder() + "/Templates", folder_ / "Templates", copyAll);
+    std::filesystem::create_directory(project_ / "Documentation");
+  }
+  ~Example() { std::filesystem::remove_all(folder_); }
+  Example(const Example&) = delete;
+  Example& operator=(const Example&) = delete;
+
+  const std::filesystem::path& folder() const { return folder_; }
+  const std::filesystem::path& project() const { return project_; }
+
+ private:
+  std::filesystem::path folder_ = std::filesystem::temp_directory_path() / "Tamrikon";
+  std::filesystem::path project_ = folder_ / "Inventory";
+};
+
+class Photographer {
+ public:
+  Photographer(const Example& example, const QString& output)
+      : example_(example),
+        camera_(output),
+        window_(optionsFor(example)),
+        addIn_(window_, example.folder().string()) {
+    addIn_.session().runsPrograms = false;
+    window_.show();
+    window_.openProject(toQt((example.project() / "Inventory.vbg").string()));
+  }
+
+  void takeWindow() {
+    showCode("StockItem", 1);
+    showCode("Warehouse", 26);
+    camera_.take(window_, "workbench");
+  }
+
+  void takeOptions() {
+    // The default template may not be there; the example is shown with the one of web pages.
+    ProjectSettings& settings = addIn_.session().settings;
+    settings.templatePath = settings.templateFolder + "/html.tmkt";
+    settings.outputPath = (example_.project() / "Documentation").string();
+    Steps steps;
+    steps.add("frmAddIn", isThere, [&](QWidget& dialog) {
+      takeTabs(dialog, "options-", {"compile", "comment", "output", "miscellaneous"});
+      pressLater(dialog, "Command1");
+    });
+    steps.add(
+        "ProgressDlg",
+        [](QWidget& dialog) { return dialog.findChild<QPushButton*>("OKButton")->isEnabled(); },
+        [&](QWidget& dialog) {
+          camera_.take(dialog, "compile");
+          pressLater(dialog, "OKButton");
+        });
+    steps.start();
+    addIn_.showOptions();
+  }
+
+  void takeEditor() {
+    showCode("Warehouse", 108);
+    Steps steps;
+    steps.add("EditComment", isThere, [&](QWidget& dialog) {
+      takeTabs(dialog, "editor-",
+               {"basic", "parameters", "references", "misc", "user-defined", "source"});
+      pressOnTab(dialog, 2, "SelectSeeBtn");
+    });
+    addPicture(steps, "ReferenceSelectDlg", "picker", "cmdCancel");
+    steps.add("EditComment", isThere,
+              [&](QWidget& dialog) { pressOnTab(dialog, 2, "findInterestBtn"); });
+    addPicture(steps, "InterestLinks", "proposals", "CancelButton");
+    steps.add("EditComment", isThere, [&](QWidget& dialog) { pressOnTab(dialog, 5, "Command1"); });
+    addPicture(steps, "EditCommentOptions", "editor-options", "CancelButton");
+    steps.add("EditComment", isThere, [&](QWidget& dialog) { pressLater(dialog, "cmdCancel"); });
+    steps.start();
+    addIn_.editComment();
+  }
+
+ private:
+  static WorkbenchOptions optionsFor(const Example& example) {
+    WorkbenchOptions options;
+    options.settingsFile = toQt((example.folder() / "settings.ini").string());
+    return options;
+  }
+
+  void showCode(const char* name, int line) {
+    for (HostModule* module : modulesOf(*window_.ide())) {
+      if (module->Name() == name) {
+        window_.showCode(*module).editor().setSelection({line, 1, line, 1});
+      }
     }
   }
-  camera.take(window, "workbench");
 
-  // The default template may not be there; the example is shown with the one of web pages.
-  ProjectSettings& settings = addIn.session().settings;
-  settings.templatePath = settings.templateFolder + "/html.tmkt";
-  settings.outputPath = (project / "Documentation").string();
-
-  Steps steps;
-  steps.add("frmAddIn", isThere, [&](QWidget& dialog) {
+  void takeTabs(QWidget& dialog, const QString& prefix, const std::vector<const char*>& names) {
     auto* tabs = dialog.findChild<QTabWidget*>("tbsOptions");
-    for (const char* name : {"compile", "comment", "output", "miscellaneous"}) {
-      camera.take(dialog, QString("options-") + name);
+    for (const char* name : names) {
+      camera_.take(dialog, prefix + name);
       tabs->setCurrentIndex((tabs->currentIndex() + 1) % tabs->count());
     }
-    QTimer::singleShot(0, &dialog, [&dialog] { press(dialog, "Command1"); });
-  });
-  steps.add(
-      "ProgressDlg",
-      [](QWidget& dialog) { return dialog.findChild<QPushButton*>("OKButton")->isEnabled(); },
-      [&](QWidget& dialog) {
-        camera.take(dialog, "compile");
-        QTimer::singleShot(0, &dialog, [&dialog] { press(dialog, "OKButton"); });
-      });
-  steps.start();
-  addIn.showOptions();
-  std::filesystem::remove_all(folder);
-}
+  }
+
+  static void pressOnTab(QWidget& dialog, int tab, const char* button) {
+    dialog.findChild<QTabWidget*>("tbsOptions")->setCurrentIndex(tab);
+    pressLater(dialog, button);
+  }
+
+  void addPicture(Steps& steps, const char* dialog, const char* name, const char* button) {
+    steps.add(dialog, isThere, [this, name, button](QWidget& shown) {
+      camera_.take(shown, name);
+      pressLater(shown, button);
+    });
+  }
+
+  const Example& example_;
+  Camera camera_;
+  WorkbenchWindow window_;
+  TamrikonAddIn addIn_;
+};
 
 }  // namespace
 }  // namespace tamrikon
@@ -145,5 +220,9 @@ int main(int argc, char** argv) {
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
-  tamrikon::photograph(argv[1], QString::fromLocal8Bit(argv[2]));
+  const tamrikon::Example example(argv[1]);
+  tamrikon::Photographer photographer(example, QString::fromLocal8Bit(argv[2]));
+  photographer.takeWindow();
+  photographer.takeOptions();
+  photographer.takeEditor();
 }

@@ -49,7 +49,7 @@ Layout CompilePage::layout() {
   Layout modules = column({
       item(Label1),
       item(Label2),
-      item(ListView1).sized(78, 8).growing(),
+      item(ListView1).sized(92, 8).growing(),
       row({item(Command2), item(Command3), space()}),
   });
   return column({framed(Frame1, std::move(boxes)), item(Check29),
