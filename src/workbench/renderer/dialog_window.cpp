@@ -1,8 +1,8 @@
 #include "workbench/renderer/dialog_window.h"
 
-#include <QApplication>
 #include <QCloseEvent>
-#include <QTimer>
+#include <QScreen>
+#include <algorithm>
 #include <utility>
 
 #include "workbench/renderer/layout_builder.h"
@@ -27,6 +27,8 @@ DialogWindow::DialogWindow(Dialog& dialog, QWidget* owner, std::function<void()>
       keys_(dialog, gate_, peers_) {
   setObjectName(toQt(dialog.name()));
   setWindowModality(Qt::ApplicationModal);
+  activateSoon_.setSingleShot(true);
+  connect(&activateSoon_, &QTimer::timeout, this, [this] { activate(); });
   captionChanged();
   const EventGate::Quiet building(gate_);
   PeerFactory factory({gate_, marks_}, peers_, *this);
@@ -66,18 +68,29 @@ void DialogWindow::focusFirst() {
   }
 }
 
+void DialogWindow::centre() {
+  const QWidget* owner = parentWidget();
+  if (owner == nullptr || !owner->window()->isVisible() || owner->window()->isMinimized()) return;
+  QRect place(QPoint(), size());
+  place.moveCenter(owner->window()->frameGeometry().center());
+  const QRect screen = owner->screen()->availableGeometry();
+  place.moveRight(std::min(place.right(), screen.right()));
+  place.moveBottom(std::min(place.bottom(), screen.bottom()));
+  place.moveLeft(std::max(place.left(), screen.left()));
+  place.moveTop(std::max(place.top(), screen.top()));
+  move(place.topLeft());
+}
+
 void DialogWindow::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) centre();  // Qt puts it somewhere near
   QDialog::showEvent(event);
-  activateSoon(kUnpainted);
+  if (!isActivated_) activateSoon_.start(kUnpainted);
 }
 
 void DialogWindow::paintEvent(QPaintEvent* event) {
   QDialog::paintEvent(event);
-  activateSoon(0);  // when all that the window holds has been painted, too
-}
-
-void DialogWindow::activateSoon(int milliseconds) {
-  if (!isActivated_) QTimer::singleShot(milliseconds, this, [this] { activate(); });
+  // When all that the window holds has been painted, too.
+  if (!isActivated_) activateSoon_.start(0);
 }
 
 void DialogWindow::activate() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 #include <exception>
 #include <functional>
 
@@ -40,9 +41,9 @@ class DialogWindow final : public QDialog, private DialogPeer {
   void captionChanged() override;
   void closed() override;
 
-  void activateSoon(int milliseconds);
   void activate();
   void focusFirst();
+  void centre();
 
   Dialog& dialog_;
   std::function<void()> onClosed_;
@@ -50,6 +51,7 @@ class DialogWindow final : public QDialog, private DialogPeer {
   CaptionMarks marks_;
   PeerSet peers_;
   DialogKeys keys_;
+  QTimer activateSoon_;
   bool isActivated_ = false;
 };
 

@@ -8,7 +8,10 @@
 namespace tamrikon {
 
 EventGate::EventGate(Dialog& dialog, std::function<Control*()> focusedWidgets)
-    : dialog_(dialog), focusedWidgets_(std::move(focusedWidgets)) {}
+    : dialog_(dialog), focusedWidgets_(std::move(focusedWidgets)) {
+  settleSoon_.setSingleShot(true);
+  connect(&settleSoon_, &QTimer::timeout, this, [this] { settleFocus(); });
+}
 
 void EventGate::run(const std::function<void()>& event) {
   if (!open_) return;
@@ -36,10 +39,7 @@ void EventGate::moveFocus(Control* control) {
 void EventGate::focusChanged() {
   if (!isQuiet()) return moveFocus(focusedWidgets_());
   unsettled_ = true;
-  if (running_ == 0) {
-    QMetaObject::invokeMethod(
-        this, [this] { settleFocus(); }, Qt::QueuedConnection);
-  }
+  if (running_ == 0) settleSoon_.start();
 }
 
 void EventGate::settleFocus() {

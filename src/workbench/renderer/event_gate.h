@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <exception>
 #include <functional>
 
@@ -61,6 +62,7 @@ class EventGate final : public QObject {
   int quiet_ = 0;
   int running_ = 0;
   bool unsettled_ = false;
+  QTimer settleSoon_;
   Control* focused_ = nullptr;
   std::exception_ptr failure_;
 };

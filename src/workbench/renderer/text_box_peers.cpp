@@ -126,6 +126,8 @@ LinesBoxPeer::LinesBoxPeer(PeerContext context, TextBox& box, QWidget* parent)
       widget_(static_cast<Sized<QPlainTextEdit>*>(&widget())) {
   widget_->setTabChangesFocus(true);
   if (box.hasFixedFont()) widget_->setLineWrapMode(QPlainTextEdit::NoWrap);
+  showSoon_.setSingleShot(true);
+  connect(&showSoon_, &QTimer::timeout, this, [this] { showAdded(); });
   connect(widget_, &QPlainTextEdit::textChanged, this, [this] {
     if (this->context().gate.isQuiet()) return;
     showAdded();
@@ -165,10 +167,7 @@ void LinesBoxPeer::selectAll() {
 void LinesBoxPeer::textAppended(const std::string& text) {
   if (!isNextAdded(text)) return changed();
   // Many messages in one go cost a small part of what they do one by one.
-  if (added_.isEmpty()) {
-    QMetaObject::invokeMethod(
-        this, [this] { showAdded(); }, Qt::QueuedConnection);
-  }
+  if (added_.isEmpty()) showSoon_.start();
   added_ += linesToQt(text);
 }
 

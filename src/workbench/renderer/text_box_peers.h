@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTimer>
 #include <memory>
 #include <string>
 
@@ -84,6 +85,7 @@ class LinesBoxPeer final : public TextBoxPeer {
 
   Sized<QPlainTextEdit>* widget_;
   QString added_;  // what was appended since events ran last
+  QTimer showSoon_;
 };
 
 /// The peer for the kind of box that it is now. A box that is shown doesn't change its kind.

@@ -1,7 +1,7 @@
 #include <QAbstractButton>
 #include <QTabBar>
 
-#include "workbench/renderer/renderer_fixture.h"
+#include "workbench/renderer/sample_dialog.h"
 
 namespace tamrikon {
 namespace {
@@ -31,12 +31,12 @@ TEST_F(FocusAndKeysTest, TabFollowsTheLayout) {
     dialog.told();
     std::string order;
     for (int i = 0; i < 9; ++i) {
-      user.press(Key::tab);
+      user.press(Qt::Key_Tab);
       const std::string told = dialog.told();
       order += told.substr(told.find('+'));
     }
     EXPECT_EQ(order, "+Checks +Folders +Combo +Typed +Cells +Nothing +Ok +Cancel +Tabs ");
-    user.press(KeyEvent{Key::tab, false, true});
+    user.press(Qt::Key_Backtab);
     EXPECT_EQ(dialog.told(), "key Tabs.key -Tabs +Cancel ");
   });
 }
@@ -88,11 +88,11 @@ TEST_F(FocusAndKeysTest, EnterPressesTheButtonInFocusOrTheDefaultOne) {
 
 TEST_F(FocusAndKeysTest, ControlTabTurnsPagesRoundTheEnds) {
   show([&] {
-    user.press(KeyEvent{Key::tab, true, false});
+    user.press(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(dialog.told(), "key Name.key -Name +Tabs Tabs=1 ");
-    user.press(KeyEvent{Key::tab, true, false});
+    user.press(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(dialog.told(), "key Tabs.key Tabs=0 ");
-    user.press(KeyEvent{Key::tab, true, true});
+    user.press(Qt::Key_Backtab, Qt::ControlModifier);
     EXPECT_EQ(dialog.told(), "key Tabs.key Tabs=1 ");
   });
 }

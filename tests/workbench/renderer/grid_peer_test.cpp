@@ -1,6 +1,6 @@
 #include <QTableWidget>
 
-#include "workbench/renderer/renderer_fixture.h"
+#include "workbench/renderer/sample_dialog.h"
 
 namespace tamrikon {
 namespace {

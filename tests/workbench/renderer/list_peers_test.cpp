@@ -5,7 +5,7 @@
 #include <QScrollBar>
 #include <QTreeWidget>
 
-#include "workbench/renderer/renderer_fixture.h"
+#include "workbench/renderer/sample_dialog.h"
 
 namespace tamrikon {
 namespace {
@@ -148,7 +148,7 @@ TEST_F(ListPeersTest, ArrowKeysInABoxStepItsSpin) {
   show([&] {
     user.focus(dialog.Width);
     dialog.told();
-    user.press(Key::up);
+    user.press(Qt::Key_Up);
     user.press(Key::down);
     EXPECT_EQ(dialog.told(), "key Width.key Spin=81 key Width.key Spin=80 ");
   });

@@ -1,7 +1,5 @@
 #include "workbench/renderer/sample_dialog.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QTimer>
 

@@ -1,14 +1,13 @@
 // A dialog with all kinds of controls, which writes down what they tell it.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
 #include <functional>
 #include <string>
 
-#include "toolkit/buttons.h"
-#include "toolkit/dialog.h"
-#include "toolkit/folder_tree.h"
-#include "toolkit/list_controls.h"
-#include "toolkit/value_controls.h"
+#include "workbench/renderer/window_user.h"
 
 namespace tamrikon::test {
 
@@ -61,6 +60,25 @@ class SampleDialog final : public Dialog {
 
   std::function<void()> script_;
   std::string log_;
+};
+
+/// A sample dialog in a real window.
+struct RendererTest : testing::Test {
+  QtToolkit toolkit;
+  SampleDialog dialog{toolkit};
+  WindowUser user;
+
+  /// The script begins with the first control in focus and nothing told.
+  void show(const std::function<void()>& script) {
+    dialog.show([&] {
+      dialog.told();
+      script();
+    });
+  }
+  void showLists(const std::function<void()>& script) {
+    dialog.Tabs.select("list");
+    show(script);
+  }
 };
 
 }  // namespace tamrikon::test

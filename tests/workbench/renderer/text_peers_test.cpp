@@ -1,9 +1,10 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 
-#include "workbench/renderer/renderer_fixture.h"
+#include "workbench/renderer/sample_dialog.h"
 
 namespace tamrikon {
 namespace {
@@ -48,11 +49,11 @@ TEST_F(TextPeersTest, LinesAreTypedAndLeftWithTab) {
     user.typeText("a");
     user.press(Key::enter);
     user.typeText("b");
-    user.press(KeyEvent{Key::enter, true, false});
-    user.press(KeyEvent{Key::enter, false, true});
+    user.press(Qt::Key_Return, Qt::ControlModifier);
+    user.press(Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(dialog.Lines.text(), "a\r\nb\r\n\r\n");
     dialog.told();
-    user.press(Key::tab);
+    user.press(Qt::Key_Tab);
     EXPECT_EQ(dialog.told(), "key Lines.key -Lines +Width ");
   });
 }
@@ -108,15 +109,6 @@ TEST_F(TextPeersTest, CaptionsShowTheirAmpersandsAndNameTheirBoxes) {
     EXPECT_TRUE(box.toolTip().contains("&lt;you&gt;")) << "no tags in a tool tip";
     dialog.NameLabel.setCaption("Who");
     EXPECT_EQ(box.accessibleName(), "Who");
-  });
-}
-
-TEST_F(TextPeersTest, PanelsOfAStatusBarCutLongTexts) {
-  show([&] {
-    dialog.Status.setPanel(1, std::string(1000, 'x'));
-    dialog.Status.setPanel(2, "Ready");
-    EXPECT_EQ(user.widget<QLabel>("Status.2").text(), "Ready");
-    EXPECT_TRUE(user.widget<QLabel>("Status.1").text().endsWith(QChar(0x2026)));
   });
 }
 

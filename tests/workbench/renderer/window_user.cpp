@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTableWidget>
 #include <QTimer>
@@ -37,21 +36,9 @@ void WindowUser::focus(Control& control) {
   QTest::mouseClick(&target, Qt::LeftButton, {}, {target.height() / 2, target.height() / 2});
 }
 
-void WindowUser::check(CheckBox& box, bool checked) {
-  if (box.isChecked() != checked) focus(box);
-}
-
-void WindowUser::choose(OptionButton& option) {
-  focus(option);
-}
-
 void WindowUser::type(TextBox& box, const std::string& text) {
   focus(box);
-  if (auto* lines = qobject_cast<QPlainTextEdit*>(&widget(box))) {
-    lines->selectAll();
-  } else {
-    widget<QLineEdit>(box).selectAll();
-  }
+  QMetaObject::invokeMethod(&widget(box), "selectAll");
   typeText(text);
 }
 
@@ -112,26 +99,17 @@ void WindowUser::select(FolderTree& tree, const std::string& path) {
   auto& view = widget<QTreeWidget>(tree);
   QTreeWidgetItem* item = view.topLevelItem(0);
   const QString below = QString::fromStdString(path.substr(tree.root().size()));
-  for (const QString& name : below.split('/', Qt::SkipEmptyParts)) {
+  for (const QString& name : below.split('/')) {
     view.expandItem(item);
-    QTreeWidgetItem* next = nullptr;
-    for (int i = 0; i < item->childCount(); ++i) {
-      if (item->child(i)->text(0) == name) next = item->child(i);
-    }
-    ASSERT_NE(next, nullptr) << path;
-    item = next;
+    item = view.findItems(name, Qt::MatchExactly | Qt::MatchRecursive).value(0);
   }
   clickItem(view, view.indexFromItem(item));
 }
 
-void WindowUser::press(KeyEvent event) {
+void WindowUser::press(Key key) {
   static const std::map<Key, Qt::Key> keys = {
-      {Key::escape, Qt::Key_Escape}, {Key::enter, Qt::Key_Return}, {Key::tab, Qt::Key_Tab},
-      {Key::up, Qt::Key_Up},         {Key::down, Qt::Key_Down},    {Key::f1, Qt::Key_F1}};
-  Qt::KeyboardModifiers modifiers;
-  if (event.control) modifiers |= Qt::ControlModifier;
-  if (event.shift) modifiers |= Qt::ShiftModifier;
-  press(keys.at(event.key), modifiers);
+      {Key::escape, Qt::Key_Escape}, {Key::enter, Qt::Key_Return}, {Key::down, Qt::Key_Down}};
+  press(keys.at(key));
 }
 
 void WindowUser::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {

@@ -35,9 +35,10 @@ class WindowUser {
   }
   static QWidget& window();
 
+  void focus(Control& control);
   void click(CommandButton& button) { focus(button); }
-  void check(CheckBox& box, bool checked);
-  void choose(OptionButton& option);
+  void check(CheckBox& box, bool) { focus(box); }
+  void choose(OptionButton& option) { focus(option); }
   void type(TextBox& box, const std::string& text);
   void selectTab(TabStrip& strip, const std::string& key);
   void select(ListBox& list, const std::string& text);
@@ -48,10 +49,7 @@ class WindowUser {
   void clickCell(Grid& grid, int row, int column);
   void step(SpinControl& spin, int steps);
   void select(FolderTree& tree, const std::string& path);
-  void press(KeyEvent event);
-  void press(Key key) { press(KeyEvent{key}); }
-  void focus(Control& control);
-  void clickCloseBox() { window().close(); }
+  void press(Key key);
 
   /// To whatever has the focus.
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
