@@ -24,7 +24,7 @@ EditorBinding::EditorBinding(CodeEditor& editor, HostModule& module)
   connect(&editor_, &CodeEditor::undoWanted, this, &EditorBinding::undo);
   connect(&editor_, &CodeEditor::redoWanted, this, &EditorBinding::redo);
   connect(&editor_, &QPlainTextEdit::cursorPositionChanged, this, [this] {
-    if (!editor_.isTyping()) module_.endTyping();
+    if (!editor_.isTyping() && !isUpdate_) module_.endTyping();
   });
   module_.observe(*this);
 }

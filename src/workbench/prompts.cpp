@@ -5,11 +5,17 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 #include <vector>
 
 #include "workbench/program_name.h"
 
 namespace tamrikon {
+namespace {
+
+constexpr int kWidest = 560;
+
+}  // namespace
 
 int BoxPrompts::ask(const Question& question) {
   const bool isMessage = question.answers.size() == 1;
@@ -22,6 +28,8 @@ int BoxPrompts::ask(const Question& question) {
   box.setInformativeText(question.details);
   if (auto* details = box.findChild<QLabel*>("qt_msgbox_informativelabel")) {
     details->setTextFormat(Qt::PlainText);
+    const QSize size = details->fontMetrics().size(0, question.details);
+    details->setMinimumWidth(std::min(size.width(), kWidest));  // paths are broken badly
   }
   std::vector<QPushButton*> buttons;
   for (int i = 0; i < question.answers.size(); ++i) {

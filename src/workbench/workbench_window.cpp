@@ -41,6 +41,12 @@ QDockWidget* makeDock(QMainWindow& window, const char* name, const QString& titl
   return dock;
 }
 
+/// A move, which may be what is proposed, would make the other program remove its file.
+void acceptCopy(QDropEvent& event) {
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+}
+
 }  // namespace
 
 WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options)
@@ -138,18 +144,27 @@ void WorkbenchWindow::projectClosing(HostIde& ide) {
 }
 
 void WorkbenchWindow::reopenProject() {
-  QStringList paths;
-  for (const CodeWindow* window : tabs_.windows()) paths += toQt(window->module().path());
-  const QString front =
-      tabs_.current() == nullptr ? QString() : toQt(tabs_.current()->module().path());
-  if (!openProject(keeper_.path())) return;
-  const auto show = [&](const QString& path) {
-    for (HostModule* module : modulesOf(*ide())) {
-      if (toQt(module->path()) == path) showCode(*module);
-    }
+  struct Place {
+    std::string path;
+    Selection selection;
+    int topLine;
   };
-  for (const QString& path : paths) show(path);
-  show(front);
+  std::vector<Place> places;  // the one in front is the last
+  const auto note = [&](const CodeWindow& window) {
+    const CodeEditor& editor = window.editor();
+    places.push_back({window.module().path(), editor.selection(), editor.topLine()});
+  };
+  for (const CodeWindow* window : tabs_.windows()) note(*window);
+  if (tabs_.current() != nullptr) note(*tabs_.current());
+  if (!openProject(keeper_.path())) return;
+  for (const Place& place : places) {
+    for (HostModule* module : modulesOf(*ide())) {
+      if (module->path() != place.path) continue;
+      CodeEditor& editor = showCode(*module).editor();
+      editor.setSelection(place.selection);
+      editor.setTopLine(place.topLine);
+    }
+  }
 }
 
 void WorkbenchWindow::frontChanged() {
@@ -212,13 +227,13 @@ void WorkbenchWindow::closeEvent(QCloseEvent* event) {
 }
 
 void WorkbenchWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!projectIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (!projectIn(*event->mimeData()).isEmpty()) acceptCopy(*event);
 }
 
 void WorkbenchWindow::dropEvent(QDropEvent* event) {
   const QString path = projectIn(*event->mimeData());
   if (path.isEmpty()) return;
-  event->acceptProposedAction();
+  acceptCopy(*event);
   // Not within the event, as the other program waits for its end.
   QTimer::singleShot(0, this, [this, path] { openProject(path); });
 }

@@ -50,12 +50,15 @@ TEST_F(FilesTest, OpensByMenuDropAndRecentList) {
 
   QMimeData dragged;
   dragged.setUrls({QUrl::fromLocalFile(path("Stock.vbp"))});
-  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton,
+                        Qt::NoModifier);
   QWidget* viewport = show("Warehouse").viewport();  // also over text, which isn't dropped there
   QApplication::sendEvent(viewport, &enter);
   EXPECT_TRUE(enter.isAccepted());
-  QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton,
+                  Qt::NoModifier);
   QApplication::sendEvent(viewport, &drop);
+  EXPECT_EQ(drop.dropAction(), Qt::CopyAction);  // a move would take the file away from its place
   EXPECT_TRUE(QTest::qWaitFor([&] { return window_->ide()->VBProjects().Count() == 1; }));
   EXPECT_EQ(messages.count(), 0);
 
@@ -268,9 +271,9 @@ TEST_F(FilesTest, FilesThatAreGoneCanBeWrittenAnew) {
 
 TEST_F(FilesTest, ChangedProjectIsOpenedAgain) {
   open();
-  show("Warehouse");
   show("frmDesk");
   edit("Warehouse");
+  show("Warehouse").setSelection({40, 2, 40, 4});
   put("Stock.vbp",
       replaceAll(bytes("Stock.vbp"), "Module=StockErrors; Stock\\StockErrors.bas\r\n", ""));
   prompts_.answers = {"Keep"};
@@ -282,6 +285,7 @@ TEST_F(FilesTest, ChangedProjectIsOpenedAgain) {
   EXPECT_EQ(tabs().count(), 2);
   EXPECT_EQ(tabs().current()->module().Name(), "Warehouse");
   EXPECT_TRUE(isEdited("Warehouse"));
+  EXPECT_EQ(tabs().current()->editor().selection().startLine, 40);
 }
 
 TEST_F(FilesTest, RenamedModulesShowTheirNewNames) {
