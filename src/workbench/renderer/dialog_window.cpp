@@ -123,6 +123,9 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
       // Another control tells of its own, and another window leaves the focus where it is.
       if (focusWidget() == nullptr) gate_.focusChanged();
       return false;
+    case QEvent::ChildAdded:  // such as the line edit of a box that becomes editable
+      static_cast<const QChildEvent&>(*event).child()->installEventFilter(this);
+      return false;
     default: return QDialog::eventFilter(watched, event);
   }
 }

@@ -117,6 +117,15 @@ TEST_F(ListPeersTest, TypedTextThatIsAnItemsIsNoChoice) {
   });
 }
 
+TEST_F(ListPeersTest, ListThatBecomesEditableTakesTextAndKeys) {
+  showLists([&] {
+    dialog.Combo.setEditable(true);
+    user.type(dialog.Combo, "x");
+    user.press(Key::enter);
+    EXPECT_EQ(dialog.told(), "-List +Combo Combo=x? key Combo.key -Combo +Ok Ok=click ");
+  });
+}
+
 TEST_F(ListPeersTest, FolderTreeReadsWhatIsOpened) {
   dialog.Folders.select("/docs/api");
   showLists([&] {
