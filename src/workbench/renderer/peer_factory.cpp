@@ -54,28 +54,30 @@ Peer* PeerFactory::makeIf(Control& control, QWidget* parent) {
 }
 
 template <typename... Peers>
-Peer* PeerFactory::makeAny(Control& control, QWidget* parent) {
+Peer& PeerFactory::makeAny(Control& control, QWidget* parent) {
   Peer* made = nullptr;
   static_cast<void>(((made = makeIf<Peers>(control, parent)) || ...));
-  return made;
+  if (made == nullptr) throw std::logic_error("no widget is known for " + control.name());
+  return *made;
+}
+
+Peer& PeerFactory::makePeer(Control& control, QWidget* parent) {
+  if (auto* box = dynamic_cast<TextBox*>(&control)) {
+    return peers_.add(makeTextBoxPeer(context_, *box, parent));
+  }
+  return makeAny<LabelPeer, CommandButtonPeer, CheckBoxPeer, OptionButtonPeer, ListBoxPeer,
+                 CheckListPeer, ComboBoxPeer, GridPeer, SpinControlPeer, ProgressIndicatorPeer,
+                 FolderTreePeer, StatusBarPeer>(control, parent);
 }
 
 Peer& PeerFactory::make(const Layout& part, QWidget* parent) {
   Control& control = *part.control;
-  Peer* peer = nullptr;
-  if (auto* box = dynamic_cast<TextBox*>(&control)) {
-    peer = &peers_.add(makeTextBoxPeer(context_, *box, parent));
-  } else {
-    peer = makeAny<LabelPeer, CommandButtonPeer, CheckBoxPeer, OptionButtonPeer, ListBoxPeer,
-                   CheckListPeer, ComboBoxPeer, GridPeer, SpinControlPeer, ProgressIndicatorPeer,
-                   FolderTreePeer, StatusBarPeer>(control, parent);
-  }
-  if (peer == nullptr) throw std::logic_error("no widget is known for " + control.name());
-  peer->askForRoom(part.characters, part.lines);
+  Peer& peer = makePeer(control, parent);
+  peer.askForRoom(part.characters, part.lines);
   if (wantsAccelerator(control)) context_.marks.add(control, page_);
-  joinGroup(control, *peer);
-  addBoxes(part, *peer);
-  return *peer;
+  joinGroup(control, peer);
+  addBoxes(part, peer);
+  return peer;
 }
 
 void PeerFactory::joinGroup(Control& control, Peer& peer) {

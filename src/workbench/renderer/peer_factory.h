@@ -41,7 +41,8 @@ class PeerFactory {
   template <typename P>
   Peer* makeIf(Control& control, QWidget* parent);
   template <typename... Peers>
-  Peer* makeAny(Control& control, QWidget* parent);
+  Peer& makeAny(Control& control, QWidget* parent);
+  Peer& makePeer(Control& control, QWidget* parent);
   void addBoxes(const Layout& part, Peer& grid);
   void joinGroup(Control& control, Peer& peer);
   void orderTabs();
