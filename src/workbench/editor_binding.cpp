@@ -14,6 +14,22 @@ QStringList blocksOf(const HostModule& module, int first, int count) {
   return toBlocks(module.Lines(first, count));
 }
 
+/// Takes away what is the same at both ends, but for one line: Qt may tell of a line more than the
+/// one that is being typed. How many lines it took from the start.
+int cutSame(QStringList& old, QStringList& now) {
+  const auto hasMore = [&] { return old.size() > 1 && now.size() > 1; };
+  while (hasMore() && old.back() == now.back()) {
+    old.removeLast();
+    now.removeLast();
+  }
+  int cut = 0;
+  for (; hasMore() && old.front() == now.front(); ++cut) {
+    old.removeFirst();
+    now.removeFirst();
+  }
+  return cut;
+}
+
 }  // namespace
 
 EditorBinding::EditorBinding(CodeEditor& editor, HostModule& module)
@@ -48,10 +64,14 @@ void EditorBinding::takeUserEdit(int position, int charsAdded) {
   const int grown = document.blockCount() - blocksBefore;
   const int count = std::min(static_cast<int>(lines.size()) - grown, moduleLines_);
   moduleLines_ = document.blockCount();
+  QStringList old = blocksOf(module_, first.blockNumber() + 1, count);
+  const int line = first.blockNumber() + 1 + cutSame(old, lines);
+  if (lines == old) return;
   const EditKind kind = editor_.isTyping() ? EditKind::typing : EditKind::step;
   {
     const QScopedValueRollback mark(isUserEdit_, true);
-    module_.replaceLines(first.blockNumber() + 1, count, fromBlock(lines.join('\n')), kind);
+    const int removed = static_cast<int>(old.size());
+    module_.replaceLines(line, removed, fromBlock(lines.join('\n')), kind);
   }
   emit edited();
 }

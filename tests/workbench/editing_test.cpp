@@ -2,6 +2,8 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QInputMethodEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -267,6 +269,32 @@ TEST_F(EditingTest, ALineMovedByDraggingLeavesThoseBetweenAlone) {
   const std::size_t at = expected.find(fromQt(line) + "\r\n");
   expected.erase(at, static_cast<std::size_t>(line.size()) + 2);
   EXPECT_EQ(bytes("Stock/StockItems.cls"), expected + fromQt(line) + "\r\n");
+}
+
+TEST_F(EditingTest, InputMethodsTypeAndOverwritingShows) {
+  CodeEditor& editor = show("StockErrors");
+  HostModule& module = this->module("StockErrors");
+  const auto compose = [&](const QString& shown, const QString& committed) {
+    QInputMethodEvent event(shown, {});
+    event.setCommitString(committed);
+    QApplication::sendEvent(&editor, &event);
+  };
+  module.replaceLines(1, 1, "abc");
+  editor.setSelection({1, 1, 1, 1});
+  compose(QString::fromUtf8("\u3042"), {});
+  EXPECT_EQ(module.Lines(1, 1), "abc");  // not before it is committed
+  compose({}, QString::fromUtf8("\u4E9C"));
+  compose({}, QString::fromUtf8("\u4E9C"));
+  EXPECT_EQ(module.Lines(1, 1), "\u4E9C\u4E9Cabc");
+  QTest::keyClick(&editor, Qt::Key_Insert);
+  EXPECT_EQ(window_->findChild<QLabel*>("caretPlace")->text(), "OVR  Ln 1, Col 3");
+  QTest::keyClicks(&editor, "x");
+  EXPECT_EQ(module.Lines(1, 1), "\u4E9C\u4E9Cxbc");
+  trigger("undo");
+  EXPECT_EQ(module.Lines(1, 1), "\u4E9C\u4E9Cabc");
+  trigger("undo");
+  EXPECT_EQ(module.Lines(1, 1), "abc");  // one run of typing
+  expectSame(editor, module);
 }
 
 TEST_F(EditingTest, AMarginPressSelectsTheLine) {

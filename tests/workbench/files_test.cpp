@@ -178,6 +178,21 @@ TEST_F(FilesTest, ACharacterThatTheFileCannotHoldStopsItsSaveAlone) {
   EXPECT_TRUE(window_->close());
 }
 
+TEST_F(FilesTest, WhatIsNotChangedIsNotWritten) {
+  open();
+  show("StockText");
+  const auto written = [&] {
+    return std::filesystem::last_write_time(folder_ / "Inventory/Stock/StockText.bas");
+  };
+  const auto before = written();
+  trigger("save");
+  trigger("saveAll");
+  QTest::keyClicks(&show("StockText"), "x");
+  trigger("undo");
+  trigger("save");
+  EXPECT_EQ(written(), before);
+}
+
 TEST_F(FilesTest, SaveAllGoesOnPastAFileThatIsLeftAlone) {
   open();
   edit("StockText");
@@ -220,6 +235,15 @@ TEST_F(FilesTest, FilesChangedOnDiskAreReadAgainOrKept) {
   EXPECT_TRUE(editor.toPlainText().endsWith("\n' theirs"));
   expectSame(editor, module("StockText"));
   EXPECT_FALSE(module("StockText").isChanged());
+
+  // Most programs put a new file in place of the old one, more than once.
+  for (const std::string name : {"StockText", "StockText", "StockErrors"}) {
+    put("new", bytes("Stock/" + name + ".bas") + "' again\r\n");
+    std::filesystem::rename(folder_ / "Inventory/new",
+                            folder_ / ("Inventory/Stock/" + name + ".bas"));
+    prompts_.answers = {"Reload"};
+    EXPECT_TRUE(QTest::qWaitFor([&] { return prompts_.answers.empty(); })) << name;
+  }
 
   const qsizetype asked = prompts_.asked.size();
   prompts_.answers = {"Keep"};
@@ -375,6 +399,26 @@ TEST_F(FilesTest, BoxesAskWithTheButtonsOfTheQuestion) {
   press(Qt::Key_Escape);
   EXPECT_EQ(prompts.ask(question), 2);
   EXPECT_EQ(seen, (QStringList{"Sure?/<b>", "Sure?/<b>"}));
+}
+
+TEST_F(FilesTest, DialogsThatAreCancelledChooseNothing) {
+  BoxPrompts prompts(*window_);
+  const auto cancel = [&] {
+    QTimer::singleShot(0, window_.get(), [] {
+      ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+      QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
+  };
+  cancel();
+  EXPECT_EQ(prompts.chooseProject(path("")), "");
+  cancel();
+  EXPECT_EQ(prompts.chooseLine(3, 9), 0);
+  QTimer::singleShot(0, window_.get(), [] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    QTest::keyClicks(dialog->focusWidget(), "7");
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+  });
+  EXPECT_EQ(prompts.chooseLine(3, 9), 7);
 }
 
 TEST_F(FilesTest, LayoutIsRemembered) {

@@ -84,6 +84,34 @@ TEST_F(FindingTest, ReplacesOneOrAllInOneStep) {
   EXPECT_EQ(module_->Lines(1, 3), "itemitem items\r\nnone\r\n\u00C4 ITEM item");
 }
 
+TEST_F(FindingTest, KeysOfTheBarFindAndReplace) {
+  editor_->setSelection({3, 3, 3, 7});
+  trigger("replace");
+  auto* text = window_->findChild<QLineEdit*>("findText");
+  auto* with = window_->findChild<QLineEdit*>("replaceText");
+  EXPECT_EQ(text->text(), "ITEM");  // what was selected
+  QTest::keyClick(text, Qt::Key_Return);
+  EXPECT_EQ(found(), "3:8+4");
+  QTest::keyClick(text, Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(found(), "3:3+4");
+  QTest::keyClick(text, Qt::Key_Tab);
+  EXPECT_TRUE(with->hasFocus());
+  QTest::keyClicks(with, "x");
+  QTest::keyClick(with, Qt::Key_Return);
+  EXPECT_EQ(module_->Lines(3, 1), "\u00C4 x item");
+  EXPECT_EQ(found(), "3:5+4");
+  editor_->setSelection({2, 1, 2, 3});  // something else: found first, and not replaced
+  click("replaceOne");
+  EXPECT_EQ(module_->Lines(2, 2), "none\r\n\u00C4 x item");
+  EXPECT_EQ(found(), "3:5+4");
+  type("findText", "");
+  EXPECT_FALSE(window_->findChild<QPushButton*>("replaceAll")->isEnabled());
+  trigger("undo");
+  trigger("undo");
+  trigger("closeProject");
+  trigger("findNext");  // there is nothing to look in
+}
+
 TEST_F(FindingTest, ListsMatchesOfTheProject) {
   editor_->setSelection({2, 1, 2, 5});
   trigger("findInProject");

@@ -155,6 +155,39 @@ TEST_F(IdeSurfaceTest, EventsTellOfProjects) {
   events.reset();  // a source may outlive the window
 }
 
+TEST_F(IdeSurfaceTest, ItemsOfTheProgramAreControlsToo) {
+  CommandBarControls& standard = vbe().CommandBars().Item("Standard")->Controls();
+  EXPECT_EQ(standard.Item(1).ToolTipText(), "Open Project (Ctrl+O)");
+  EXPECT_EQ(standard.Item(4).Caption(), "Cu&t");  // separators aren't counted
+  const int count = standard.Count();
+  standard.Item(2).Delete();
+  EXPECT_EQ(standard.Count(), count - 1);
+  QTest::keyClicks(&show("Warehouse"), "' ");
+  trigger("save");  // the command goes on living in the menu
+  EXPECT_FALSE(module("Warehouse").isChanged());
+  EXPECT_THROW(standard.Item(0), IdeError);
+  EXPECT_THROW(standard.Item(count), IdeError);
+  EXPECT_EQ(vbe().CommandBars().Item(1)->Controls().Item(1).Caption(), "&File");
+}
+
+TEST_F(IdeSurfaceTest, SelectionsOutsideTheTextAreMovedIntoIt) {
+  CodePane& pane = module("StockErrors").CodePane();
+  const int last = module("StockErrors").CountOfLines();
+  pane.SetSelection({0, -3, last + 5, 900});
+  const Selection selected = pane.GetSelection();
+  EXPECT_EQ(selected.startLine, 1);
+  EXPECT_EQ(selected.startColumn, 1);
+  EXPECT_EQ(selected.endLine, last);
+  pane.setTopLine(last + 100);
+  EXPECT_LE(tabs().current()->editor().topLine(), last);
+  EXPECT_THROW(vbe().Windows().Item(2), IdeError);
+  vbe().ActiveWindow()->Close();
+  EXPECT_EQ(vbe().ActiveWindow(), nullptr);
+  vbe().MainWindow().Close();
+  EXPECT_EQ(window_->ide(), nullptr);
+  EXPECT_FALSE(window_->isVisible());
+}
+
 TEST_F(IdeSurfaceTest, PopUpMenuOpensByKeyAndMouse) {
   auto* menu = window_->findChild<QMenu*>("codeWindowMenu");
   CodeEditor& editor = show("Warehouse");
