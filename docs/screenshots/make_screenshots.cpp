@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
 #include <cstdio>
@@ -12,6 +11,7 @@
 #include <vector>
 
 #include "platform/data_folder.h"
+#include "workbench/modal_steps.h"
 #include "workbench/renderer/qt_text.h"
 #include "workbench/tamrikon_add_in.h"
 #include "workbench/workbench_window.h"
@@ -22,44 +22,6 @@ namespace {
 void settle() {
   for (int n = 0; n < 20; ++n) QApplication::processEvents(QEventLoop::AllEvents, 10);
 }
-
-/// Runs the next step as soon as its dialog stands, then the following one.
-class Steps {
- public:
-  using Ready = std::function<bool(QWidget&)>;
-  using Step = std::function<void(QWidget&)>;
-
-  void add(QString dialog, Ready ready, Step step) {
-    steps_.push_back({std::move(dialog), std::move(ready), std::move(step)});
-  }
-
-  void start() {
-    QObject::connect(&timer_, &QTimer::timeout, [this] { look(); });
-    timer_.start(20);
-  }
-
- private:
-  struct Entry {
-    QString dialog;
-    Ready ready;
-    Step step;
-  };
-
-  void look() {
-    QWidget* const front = QApplication::activeModalWidget();
-    if (front == nullptr || next_ == steps_.size()) return;
-    const Entry& entry = steps_[next_];
-    if (front->objectName() != entry.dialog || !entry.ready(*front)) return;
-    ++next_;
-    timer_.stop();
-    entry.step(*front);
-    timer_.start(20);
-  }
-
-  QTimer timer_;
-  std::vector<Entry> steps_;
-  std::size_t next_ = 0;
-};
 
 class Camera {
  public:
@@ -74,19 +36,6 @@ class Camera {
  private:
   QString folder_;
 };
-
-void press(QWidget& dialog, const char* button) {
-  dialog.findChild<QPushButton*>(button)->click();
-}
-
-bool isThere(QWidget&) {
-  return true;
-}
-
-/// Presses a button of the dialog once its step has ended.
-void pressLater(QWidget& dialog, const char* button) {
-  QTimer::singleShot(0, &dialog, [&dialog, button] { press(dialog, button); });
-}
 
 /// A copy of the example in a folder whose name is seen in the pictures.
 class Example {
@@ -134,37 +83,33 @@ class Photographer {
     ProjectSettings& settings = addIn_.session().settings;
     settings.templatePath = settings.templateFolder + "/html.tmkt";
     settings.outputPath = (example_.project() / "Documentation").string();
-    Steps steps;
-    steps.add("frmAddIn", isThere, [&](QWidget& dialog) {
+    test::ModalSteps steps;
+    steps.add("frmAddIn", [&](QWidget& dialog) {
       takeTabs(dialog, "options-", {"compile", "comment", "output", "miscellaneous"});
-      pressLater(dialog, "Command1");
+      test::pressLater(dialog, "Command1");
     });
-    steps.add(
-        "ProgressDlg",
-        [](QWidget& dialog) { return dialog.findChild<QPushButton*>("OKButton")->isEnabled(); },
-        [&](QWidget& dialog) {
-          camera_.take(dialog, "compile");
-          pressLater(dialog, "OKButton");
-        });
+    steps.add("ProgressDlg", [&](QWidget& dialog) {
+      camera_.take(dialog, "compile");
+      test::pressLater(dialog, "OKButton");
+    });
     steps.start();
     addIn_.showOptions();
   }
 
   void takeEditor() {
     showCode("Warehouse", 108);
-    Steps steps;
-    steps.add("EditComment", isThere, [&](QWidget& dialog) {
+    test::ModalSteps steps;
+    steps.add("EditComment", [&](QWidget& dialog) {
       takeTabs(dialog, "editor-",
                {"basic", "parameters", "references", "misc", "user-defined", "source"});
       pressOnTab(dialog, 2, "SelectSeeBtn");
     });
     addPicture(steps, "ReferenceSelectDlg", "picker", "cmdCancel");
-    steps.add("EditComment", isThere,
-              [&](QWidget& dialog) { pressOnTab(dialog, 2, "findInterestBtn"); });
+    steps.add("EditComment", [&](QWidget& dialog) { pressOnTab(dialog, 2, "findInterestBtn"); });
     addPicture(steps, "InterestLinks", "proposals", "CancelButton");
-    steps.add("EditComment", isThere, [&](QWidget& dialog) { pressOnTab(dialog, 5, "Command1"); });
+    steps.add("EditComment", [&](QWidget& dialog) { pressOnTab(dialog, 5, "Command1"); });
     addPicture(steps, "EditCommentOptions", "editor-options", "CancelButton");
-    steps.add("EditComment", isThere, [&](QWidget& dialog) { pressLater(dialog, "cmdCancel"); });
+    steps.add("EditComment", [&](QWidget& dialog) { test::pressLater(dialog, "cmdCancel"); });
     steps.start();
     addIn_.editComment();
   }
@@ -194,13 +139,14 @@ class Photographer {
 
   static void pressOnTab(QWidget& dialog, int tab, const char* button) {
     dialog.findChild<QTabWidget*>("tbsOptions")->setCurrentIndex(tab);
-    pressLater(dialog, button);
+    test::pressLater(dialog, button);
   }
 
-  void addPicture(Steps& steps, const char* dialog, const char* name, const char* button) {
-    steps.add(dialog, isThere, [this, name, button](QWidget& shown) {
+  void addPicture(test::ModalSteps& steps, const char* dialog, const char* name,
+                  const char* button) {
+    steps.add(dialog, [this, name, button](QWidget& shown) {
       camera_.take(shown, name);
-      pressLater(shown, button);
+      test::pressLater(shown, button);
     });
   }
 

@@ -1,0 +1,146 @@
+// Tamrikon in the workbench, from its menu entries to what stands in files and sources.
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+
+#include "platform/data_folder.h"
+#include "workbench/modal_steps.h"
+#include "workbench/tamrikon_add_in.h"
+#include "workbench/workbench_fixture.h"
+
+namespace tamrikon::test {
+namespace {
+
+class AddInTest : public WorkbenchTest {
+ protected:
+  void SetUp() override {
+    WorkbenchTest::SetUp();
+    addIn_ = std::make_unique<TamrikonAddIn>(*window_, dataFolder());
+    addIn_->session().runsPrograms = false;
+  }
+  void TearDown() override { addIn_.reset(); }
+
+  /// Chooses an item of a menu while `steps` are done in the dialogs that it brings up.
+  void choose(const char* bar, const char* caption, ModalSteps& steps) {
+    CommandBarControls& items = window_->screen().commandBars().Item(bar)->Controls();
+    for (int number = 1; number <= items.Count(); ++number) {
+      auto& item = dynamic_cast<QtControl&>(items.Item(number));
+      if (item.Caption() != caption) continue;
+      steps.start();
+      item.action()->trigger();
+      EXPECT_TRUE(steps.isDone()) << "a dialog didn't come up";
+      return;
+    }
+    ADD_FAILURE() << "no item " << caption;
+  }
+
+  /// Types in place of all text of a box, as a user does.
+  static void type(QWidget& dialog, const char* box, const QString& text) {
+    auto* widget = dialog.findChild<QWidget*>(box);
+    widget->setFocus();
+    QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(widget, text);
+  }
+
+  static void pressEscape(QWidget& dialog) {
+    QWidget* const focused = dialog.focusWidget();
+    QTest::keyClick(focused != nullptr ? focused : &dialog, Qt::Key_Escape);
+  }
+
+  static void showTab(QWidget& dialog, int index) {
+    dialog.findChild<QTabWidget*>("tbsOptions")->setCurrentIndex(index);
+  }
+
+  std::unique_ptr<TamrikonAddIn> addIn_;
+};
+
+TEST_F(AddInTest, GroupCompilesFromTheOptionsToTheFinishedPages) {
+  open();
+  std::filesystem::create_directory(folder_ / "out");
+  for (const char* name : {"Stock.tamrik", "Desk.tamrik"}) {
+    put(name, bytes(name) + "\r\noutputPath = " + (folder_ / "out") + "\r\ntemplateFolder = " +
+                  dataFolder() + "/Templates\r\ntemplatePath = html.tmkt");
+  }
+  show("frmDesk");
+  show("Warehouse");
+  ModalSteps steps;
+  steps.add("frmAddIn", [](QWidget& dialog) { pressLater(dialog, "Command14"); });
+  steps.add("ProgressDlg", [](QWidget& dialog) {
+    const QString log = dialog.findChild<QPlainTextEdit*>("Text1")->toPlainText();
+    EXPECT_EQ(fromQt(log), "Project: Stock\nProject: Desk\n");
+    pressEscape(dialog);
+    EXPECT_TRUE(dialog.isVisible()) << "only its own button closes it";
+    pressLater(dialog, "OKButton");
+  });
+  choose("Add-Ins", "Tamrikon", steps);
+  EXPECT_TRUE(folder_.has("out/Warehouse-Book.html"));
+  EXPECT_TRUE(folder_.has("out/frmDesk.html"));
+  EXPECT_TRUE(folder_.has("out/Group+.contents.html")) << "written behind the last project";
+  EXPECT_EQ(tabs().windows().size(), 2) << "the code windows are those of before";
+  EXPECT_EQ(tabs().current()->module().Name(), "Warehouse");
+}
+
+TEST_F(AddInTest, OptionsWorkWithoutAProjectAsFarAsTheyCan) {
+  ModalSteps steps;
+  steps.add("frmAddIn", [](QWidget& dialog) {
+    EXPECT_FALSE(dialog.findChild<QPushButton*>("cmdOK")->isEnabled());
+    pressEscape(dialog);
+  });
+  choose("Add-Ins", "Tamrikon", steps);
+}
+
+TEST_F(AddInTest, CommentIsEditedFieldByFieldAndUndoneAtOnce) {
+  open();
+  CodeEditor& editor = show("Warehouse");
+  const std::string before = module("Warehouse").Lines(1, module("Warehouse").CountOfLines());
+  const int line = 108;  // within Book
+  editor.setSelection({line, 1, line, 1});
+  ModalSteps steps;
+  steps.add("EditComment", [](QWidget& dialog) {
+    showTab(dialog, 1);
+    type(dialog, "ParamText", "What is booked.");
+    showTab(dialog, 2);
+    pressLater(dialog, "SelectSeeBtn");
+  });
+  steps.add("ReferenceSelectDlg", [](QWidget& dialog) {
+    auto* modules = dialog.findChild<QComboBox*>("ModuleCombo");
+    modules->setFocus();
+    QTest::keyClicks(modules, "Supplier");
+    auto* members = dialog.findChild<QListWidget*>("MembersList");
+    QTest::mouseClick(members->viewport(), Qt::LeftButton, {},
+                      members->visualItemRect(members->item(0)).center());
+    pressLater(dialog, "cmdOK");
+  });
+  steps.add("EditComment", [](QWidget& dialog) { pressLater(dialog, "cmdOK"); });
+  choose("Code Window", "Comment Editor", steps);
+
+  HostModule& warehouse = module("Warehouse");
+  const std::string after = warehouse.Lines(1, warehouse.CountOfLines());
+  for (const char* expected :
+       {"\r\n'@param        Item What is booked.\r\n", "\r\n'@see          Supplier \r\n"}) {
+    EXPECT_NE(after.find(expected), std::string::npos) << after;
+  }
+  expectSame(editor, warehouse);
+  QApplication::processEvents();  // menus know now what can be undone
+  trigger("undo");
+  EXPECT_EQ(warehouse.Lines(1, warehouse.CountOfLines()), before);
+  EXPECT_FALSE(warehouse.isChanged());
+}
+
+TEST_F(AddInTest, CancelledCommentLeavesTheSourceAsItWas) {
+  open();
+  show("Warehouse").setSelection({108, 1, 108, 1});
+  ModalSteps steps;
+  steps.add("EditComment", [](QWidget& dialog) {
+    type(dialog, "DescriptionText", "Something else.");
+    pressEscape(dialog);
+  });
+  choose("Code Window", "Comment Editor", steps);
+  EXPECT_FALSE(module("Warehouse").isChanged());
+}
+
+}  // namespace
+}  // namespace tamrikon::test
