@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -12,8 +11,7 @@ int main(int argc, char** argv) {
   tamrikon::InterruptWatch interrupts;
   tamrikon::Streams streams(std::cout, std::cerr);
   streams.errIsTerminal = tamrikon::errorStreamIsTerminal();
-  std::error_code ignored;
-  streams.outIsTerminal = std::filesystem::is_character_file("/dev/stdout", ignored);
+  streams.outIsTerminal = tamrikon::outputStreamIsTerminal();
   if (tamrikon::canAskOnTerminal()) streams.readLine = tamrikon::readTerminalLine;
   streams.isInterrupted = [&] { return interrupts.take(); };
   return tamrikon::runTamrikon(std::vector<std::string>(argv + 1, argv + argc), streams);

@@ -6,6 +6,9 @@
 
 namespace tamrikon {
 
+/// Whether somebody reads the output stream on a terminal.
+bool outputStreamIsTerminal();
+
 /// Whether somebody reads the error stream on a terminal.
 bool errorStreamIsTerminal();
 

@@ -4,6 +4,10 @@
 
 namespace tamrikon {
 
+bool outputStreamIsTerminal() {
+  return ::isatty(STDOUT_FILENO) != 0;
+}
+
 bool errorStreamIsTerminal() {
   return ::isatty(STDERR_FILENO) != 0;
 }

@@ -23,9 +23,18 @@ void Dialog::setCaption(const std::string& caption) {
 void Dialog::showModal() {
   if (shown_) return;
   shown_ = true;
-  onLoad();
-  // Loading may have found that there is nothing to show.
-  if (shown_) toolkit_.runModal(*this);
+  try {
+    onLoad();
+    // Loading may have found that there is nothing to show.
+    if (shown_) toolkit_.runModal(*this);
+  } catch (...) {
+    unload();
+    throw;
+  }
+  unload();
+}
+
+void Dialog::unload() {
   shown_ = false;
   onUnload();
 }

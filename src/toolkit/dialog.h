@@ -55,7 +55,8 @@ class Dialog {
   const std::vector<Control*>& controls() const { return controls_; }
 
   /// Shows the dialog, centred on its owner (the window in front), and returns when it has been
-  /// closed. A dialog that is shown already stays as it is.
+  /// closed. A dialog that is shown already stays as it is. What a handler throws closes and
+  /// unloads the dialog, and goes on to the caller.
   void showModal();
 
   /// Ends the modal run; no effect on a dialog that isn't shown.
@@ -85,6 +86,8 @@ class Dialog {
 
  private:
   friend class Control;
+
+  void unload();
 
   Toolkit& toolkit_;
   std::string name_;
