@@ -1,0 +1,89 @@
+"""Runs the program on the example and test projects with one of the templates."""
+import atexit
+import html.parser
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import unittest
+import urllib.parse
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+STOCK = ROOT / "examples/Inventory/Stock.vbp"
+GROUP = ROOT / "examples/Inventory/Inventory.vbg"
+ODD = ROOT / "tests/data/templates/Odd.vbp"
+AZBUKA = ROOT / "tests/data/templates/Azbuka.vbp"
+NOTHING = ROOT / "tests/data/compile/single-file/Empty.vbp"
+
+# The topics of Odd, by module; those of Other and of the procedures of Value are that of Value.
+ODD_TOPICS = {
+    "Bare": [], "Lonely": [], "frmOdd": ["Depth", "Present"],
+    "Helpers": ["Limit", "Mood", "Sleep", "Total", "Twice"],
+    "Oddity": ["Bell", "Quiet", "Run", "Tag", "Told", "Value", "mCount"]}
+PROGRAM = os.environ.get("TAMRIKON", ROOT / "build/dev/bin/tamrikon")
+CONTROLS = re.compile("[\x00-\x08\x0b\x0c\x0e-\x1f\x7f]")
+
+
+class Compile:
+    """One compile into a folder of its own."""
+
+    def __init__(self, project, template, *arguments, path=None, files=()):
+        base = tempfile.mkdtemp()
+        atexit.register(shutil.rmtree, base)
+        self.folder = pathlib.Path(base) / "it's $out"
+        self.folder.mkdir()
+        for name in files:
+            (self.folder / name).write_text("outside")
+        if project == AZBUKA:
+            arguments += ("--codepage", "1251")
+        self.encoding = "cp1251" if project == AZBUKA else "cp1252"
+        run = subprocess.run(
+            [PROGRAM, "compile", project, "--template", template, "--output", self.folder,
+             *arguments],
+            env=dict(os.environ, PATH=path or os.environ["PATH"]), capture_output=True, check=True)
+        self.log = run.stdout.decode()
+
+    def text(self, name, folder=None):
+        data = ((folder or self.folder) / name).read_bytes()
+        return data.decode(self.encoding).replace("\r\n", "\n")
+
+    def names(self, ending=""):
+        return {file.name for file in self.folder.iterdir() if file.name.endswith(ending)}
+
+
+class TemplateTest(unittest.TestCase):
+    def check_every_run_gives_the_same(self, template):
+        first, second = (Compile(ODD, template, "--no-exec") for _ in range(2))
+        self.assertEqual(first.names(), second.names())
+        for name in first.names():
+            text = first.text(name)
+            self.assertEqual(text, second.text(name), name)
+            self.assertNotRegex(text, CONTROLS, name)
+            self.assertNotRegex(text, r"\$[A-Za-z][-A-Za-z]+\$", name)  # a macro that isn't there
+
+
+def topic_names(topics, separator="-"):
+    return {module + separator + member for module, members in topics.items() for member in members
+            } | set(topics)
+
+
+class Page(html.parser.HTMLParser):
+    """The links of a page, and the text of its body with a blank for each run of white space."""
+
+    def __init__(self, text):
+        super().__init__()
+        self.links = []
+        self.said = ""
+        self.feed(text)
+        self.said = " ".join(self.said.split())
+
+    def handle_starttag(self, tag, attributes):
+        if tag == "body":
+            self.said = ""
+        if tag == "a":
+            self.links.append(urllib.parse.unquote(dict(attributes)["href"]))
+
+    def handle_data(self, data):
+        self.said += data + " "
