@@ -36,12 +36,14 @@ bench: release
 	@scripts/install_packages.sh bench
 	bench/compile_bench.sh build/release/bin/tamrikon
 
-# The pictures of the workbench in docs/screenshots, drawn without a screen.
+# The pictures in docs/screenshots, drawn without a screen.
 screenshots:
-	@scripts/install_packages.sh workbench
+	@scripts/install_packages.sh workbench test
 	@$(MAKE) --no-print-directory release
 	cmake --build --preset release --target make_screenshots
 	build/release/bin/make_screenshots examples/Inventory docs/screenshots
+	build/release/bin/tamrikon compile examples/Inventory/Inventory.vbg --template html --output $(DOCS) --quiet
+	/usr/bin/python3 -B docs/screenshots/make_site_screenshots.py $(DOCS) docs/screenshots
 
 install: release
 	cmake --install build/release --prefix $(PREFIX)

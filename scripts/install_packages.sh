@@ -8,7 +8,10 @@ for task in "$@"; do
   case $task in
     build) packages="$packages g++ cmake ninja-build libcli11-dev" ;;
     workbench) packages="$packages qt6-base-dev fonts-dejavu-core" ;;
-    test) packages="$packages libgtest-dev python3 fp-utils libchm-bin" ;;
+    test)
+      packages="$packages libgtest-dev python3 fp-utils libchm-bin"
+      packages="$packages chromium chromium-driver python3-selenium tidy"
+      ;;
     bench) packages="$packages tar universal-ctags" ;;
     *) echo "install_packages.sh: there is no task '$task'" >&2; exit 2 ;;
   esac
