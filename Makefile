@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 DOCS := examples/Inventory/Documentation
 
-.PHONY: run run-workbench test sanitize bench screenshots install format tidy clean
+.PHONY: run run-workbench test sanitize bench screenshots package install format tidy clean
 
 # Builds the program and compiles the documentation of the example projects.
 run: release
@@ -44,6 +44,12 @@ screenshots:
 	build/release/bin/make_screenshots examples/Inventory docs/screenshots
 	build/release/bin/tamrikon compile examples/Inventory/Inventory.vbg --template html --output $(DOCS) --quiet
 	/usr/bin/python3 -B docs/screenshots/make_site_screenshots.py $(DOCS) docs/screenshots
+
+# Debian packages in build/release/packages.
+package:
+	@scripts/install_packages.sh workbench package
+	@$(MAKE) --no-print-directory release
+	cpack --config build/release/CPackConfig.cmake -B build/release/packages
 
 install: release
 	cmake --install build/release --prefix $(PREFIX)

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that a task needs and that aren't there yet.
-# usage: install_packages.sh [build] [workbench] [test] [bench]
+# usage: install_packages.sh [build] [workbench] [test] [package] [bench]
 set -eu
 
 packages=
@@ -11,7 +11,9 @@ for task in "$@"; do
     test)
       packages="$packages libgtest-dev python3 fp-utils libchm-bin"
       packages="$packages chromium chromium-driver python3-selenium tidy"
+      packages="$packages dpkg-dev file desktop-file-utils groff"
       ;;
+    package) packages="$packages dpkg-dev file" ;;
     bench) packages="$packages tar universal-ctags" ;;
     *) echo "install_packages.sh: there is no task '$task'" >&2; exit 2 ;;
   esac

@@ -1,0 +1,62 @@
+#!/usr/bin/env bash
+# Makes the packages, unpacks them into a root of their own and works with the programs there.
+# usage: packages_test.sh BUILD_FOLDER SOURCE_FOLDER
+set -euo pipefail
+build=$1
+source=$2
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+root=$work/root
+
+fail() {
+  echo "packages_test.sh: $*" >&2
+  exit 1
+}
+
+cpack --config "$build/CPackConfig.cmake" -B "$work/packages" > "$work/cpack.log" 2>&1 ||
+  { cat "$work/cpack.log" >&2; fail "cpack failed"; }
+for package in "$work"/packages/*.deb; do
+  dpkg-deb -x "$package" "$root"
+done
+dpkg-deb -f "$work"/packages/tamrikon_*.deb Depends | grep -qi qt && fail "the terminal's package needs Qt"
+
+# Programs find their data in the folder that they were unpacked to.
+cp -r "$source/examples/Inventory" "$work/project"
+PATH=$root/usr/bin:$PATH
+cd "$work"
+tamrikon compile project/Inventory.vbg --template html --output "$work/pages" --quiet
+[ -f pages/Warehouse-Book.html ] || fail "no page of Warehouse.Book"
+if [ -f "$root/usr/bin/tamrikon-workbench" ]; then
+  QT_QPA_PLATFORM=offscreen tamrikon-workbench --version | grep -q '[0-9]' || fail "no workbench"
+  desktop-file-validate "$root/usr/share/applications/tamrikon-workbench.desktop"
+fi
+
+for page in "$root"/usr/share/man/man1/*.1*; do
+  complaints=$(groff -man -ww -Tutf8 "$page" 2>&1 > /dev/null)
+  [ -z "$complaints" ] || fail "$complaints"
+done
+for option in $(tamrikon compile --help | grep -o -- '--[a-z-]*' | sort -u); do
+  sed 's/\\//g' "$root/usr/share/man/man1/tamrikon.1" | grep -q -- "$option" ||
+    fail "the manual page doesn't tell of $option"
+done
+
+# shellcheck source=/dev/null
+. "$root/usr/share/bash-completion/completions/tamrikon"
+compopt() { :; }  # only there while a person completes
+complete_line() {
+  local line=$1
+  read -ra COMP_WORDS <<< "$line"
+  [[ $line != *" " ]] || COMP_WORDS+=("")
+  COMP_CWORD=$((${#COMP_WORDS[@]} - 1))
+  _tamrikon
+  echo "${COMPREPLY[*]}"
+}
+expect() {
+  local got
+  got=$(complete_line "$1")
+  [ "$got" = "$2" ] || fail "'$1' completes to '$got', not '$2'"
+}
+expect "tamrikon com" "compile comment"
+expect "tamrikon comment --m" "--missing"
+expect "tamrikon compile project/S" "project/Stock project/Stock.vbp"
+expect "tamrikon compile x.vbp --template ht" "html"
