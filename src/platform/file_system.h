@@ -16,7 +16,8 @@ class FileSystem {
   /// Reads the whole file. On failure `bytes` is empty.
   virtual FileError read(const std::string& path, std::string& bytes) = 0;
 
-  /// Replaces or creates the file. After a failure the file may hold a part of `bytes`.
+  /// Replaces or creates the file; one that has these bytes already keeps its time. After a failure
+  /// the file may hold a part of `bytes`.
   virtual FileError write(const std::string& path, std::string_view bytes) = 0;
 
   /// Adds `bytes` at the end of the file, which is created if it isn't there. A failure leaves the

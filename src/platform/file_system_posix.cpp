@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -48,12 +49,15 @@ FileError errorOf(int number, const std::string& nativePath) {
 /// A file descriptor that closes itself.
 class Descriptor {
  public:
-  Descriptor(const std::string& path, int flags, mode_t mode = 0666)
-      : number_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {}
+  Descriptor(const std::string& path, int flags) { open(path, flags); }
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
   ~Descriptor() { close(); }
 
+  void open(const std::string& path, int flags) {
+    close();
+    number_ = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+  }
   bool isOpen() const { return number_ >= 0; }
   int number() const { return number_; }
 
@@ -66,7 +70,7 @@ class Descriptor {
   }
 
  private:
-  int number_;
+  int number_ = -1;
 };
 
 bool writeAll(int descriptor, std::string_view bytes) {
@@ -94,6 +98,21 @@ bool readAll(int descriptor, std::string& bytes, std::size_t expected) {
   return true;
 }
 
+/// Whether a file of `size` bytes has just these.
+bool holds(int descriptor, off_t size, std::string_view bytes) {
+  if (static_cast<std::size_t>(size) != bytes.size()) return false;
+  std::array<char, 1 << 16> buffer;
+  off_t at = 0;
+  while (at < size) {
+    const ssize_t done = ::pread(descriptor, buffer.data(), buffer.size(), at);
+    if (done <= 0) return false;
+    const auto count = static_cast<std::size_t>(done);
+    if (bytes.compare(static_cast<std::size_t>(at), count, buffer.data(), count) != 0) return false;
+    at += done;
+  }
+  return true;
+}
+
 class PosixFileSystem final : public FileSystem {
  public:
   FileError read(const std::string& path, std::string& bytes) override {
@@ -117,8 +136,15 @@ class PosixFileSystem final : public FileSystem {
   FileError write(const std::string& path, std::string_view bytes) override {
     const std::string native = checkedPath(path);
     if (native.empty()) return FileError::badFileName;
-    Descriptor file(native, O_WRONLY | O_CREAT | O_TRUNC);
+    Descriptor file(native, O_RDWR | O_CREAT);
+    if (!file.isOpen() && errno == EACCES) file.open(native, O_WRONLY | O_CREAT);
     if (!file.isOpen()) return errorOf(errno, native);
+    struct stat status {};
+    if (::fstat(file.number(), &status) != 0) return errorOf(errno);
+    if (S_ISREG(status.st_mode) && status.st_size > 0) {
+      if (holds(file.number(), status.st_size, bytes)) return FileError::none;
+      if (::ftruncate(file.number(), 0) != 0) return errorOf(errno);
+    }
     if (!writeAll(file.number(), bytes) || !file.close()) return errorOf(errno);
     return FileError::none;
   }

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
 
 #include "platform/folder_listing.h"
@@ -43,6 +44,24 @@ TEST(FileSystem, ReportsTheClassicErrors) {
 TEST(FileSystem, FullDeviceIsTold) {
   if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no such device here";
   EXPECT_EQ(nativeFileSystem().write("/dev/full", "x"), FileError::diskFull);
+}
+
+TEST(FileSystem, FileThatHasTheBytesKeepsItsTime) {
+  const test::TempFolder folder;
+  const std::string page(100000, 'p');
+  const std::string path = folder.put("page", page);
+  const auto before = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+  for (const auto& [bytes, isKept] : {std::pair(page, true),
+                                      {page.substr(1) + 'q', false},
+                                      {page + 'p', false},
+                                      {page.substr(1), false},
+                                      {std::string(), false}}) {
+    folder.put("page", page);
+    std::filesystem::last_write_time(path, before);
+    EXPECT_EQ(nativeFileSystem().write(path, bytes), FileError::none);
+    EXPECT_EQ(folder.get("page"), bytes);
+    EXPECT_EQ(std::filesystem::last_write_time(path) == before, isKept) << bytes.size();
+  }
 }
 
 TEST(FileSystem, AppendsBytesAsTheyAre) {
