@@ -80,6 +80,10 @@ std::unique_ptr<HostIde> HostIde::open(FileSystem& files, const std::string& pat
   return ide;
 }
 
+HostIde::~HostIde() {
+  for (const auto& project : projects_.projects_) screen_->projectRemoved(*project);
+}
+
 HostProject* HostIde::addProject(std::string fileName, std::string bytes, PathLookup& lookup,
                                  const CodePage* codePage, const WarningSink& warn) {
   const ProjectContext context{lookup, sources_, codePage, warn, screen_};

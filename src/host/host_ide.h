@@ -40,6 +40,9 @@ class HostIde final : public VBE {
                                        const CodePage* codePage, const WarningSink& warn,
                                        std::string& why);
 
+  /// Tells the screen of each project that it goes.
+  ~HostIde() override;
+
   VBProject& ActiveVBProject() const override { return *active_; }
   HostProjects& VBProjects() const override { return projects_; }
   CodePane* ActiveCodePane() const override { return screen_->activeCodePane(); }

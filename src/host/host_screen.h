@@ -23,6 +23,9 @@ class HostScreen {
   /// Another project has become the active one.
   virtual void projectActivated(VBProject& project) = 0;
 
+  /// A project is about to go; it and those that go with it still stand.
+  virtual void projectRemoved(VBProject& project) = 0;
+
   virtual tamrikon::Windows& windows() = 0;
   virtual Window* activeWindow() = 0;
   virtual Window& mainWindow() = 0;

@@ -34,6 +34,10 @@ void ProjectEventSources::projectActivated(VBProject& project) {
   send(&VBProjectsEvents::ItemActivated, project);
 }
 
+void ProjectEventSources::projectRemoved(VBProject& project) {
+  send(&VBProjectsEvents::ItemRemoved, project);
+}
+
 void ProjectEventSources::send(Handler handler, VBProject& project) {
   const std::shared_ptr<Sources> sources = sources_;
   const Sources held = *sources;

@@ -19,6 +19,7 @@ class ProjectEventSources {
   /// A handler may drop its own source, and others, and make new ones.
   void projectAdded(VBProject& project);
   void projectActivated(VBProject& project);
+  void projectRemoved(VBProject& project);
 
  private:
   class Source;

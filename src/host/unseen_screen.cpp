@@ -125,4 +125,8 @@ void UnseenScreen::projectActivated(VBProject& project) {
   events_->sources.projectActivated(project);
 }
 
+void UnseenScreen::projectRemoved(VBProject& project) {
+  events_->sources.projectRemoved(project);
+}
+
 }  // namespace tamrikon

@@ -20,6 +20,7 @@ class UnseenScreen final : public HostScreen {
   CodePane* activeCodePane() override;
   void setActiveCodePane(CodePane& pane) override;
   void projectActivated(VBProject& project) override;
+  void projectRemoved(VBProject& project) override;
 
   tamrikon::Windows& windows() override;
   Window* activeWindow() override;

@@ -21,6 +21,9 @@ class VBProjectsEvents {
   virtual ~VBProjectsEvents() = default;
   std::function<void(VBProject&)> ItemAdded;
   std::function<void(VBProject&)> ItemActivated;
+
+  /// The project is about to go; it and those that go with it still stand.
+  std::function<void(VBProject&)> ItemRemoved;
 };
 
 class Events {

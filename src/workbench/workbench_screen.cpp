@@ -67,6 +67,10 @@ void WorkbenchScreen::projectActivated(VBProject& project) {
   events_.projects().projectActivated(project);
 }
 
+void WorkbenchScreen::projectRemoved(VBProject& project) {
+  events_.projects().projectRemoved(project);
+}
+
 tamrikon::Windows& WorkbenchScreen::windows() {
   return *windows_;
 }

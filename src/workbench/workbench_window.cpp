@@ -137,6 +137,9 @@ void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
 
 void WorkbenchWindow::projectClosing(HostIde& ide) {
   if (onProjectClosed) onProjectClosed(ide);
+  for (int i = 1; i <= ide.VBProjects().Count(); ++i) {
+    screen_.projectRemoved(ide.VBProjects().Item(i));
+  }
   screen_.clear();
   explorer_.show(nullptr);
   messages_.show({});

@@ -133,6 +133,7 @@ TEST_F(IdeSurfaceTest, EventsTellOfProjects) {
   auto events = vbe().Events().VBProjectsEvents();
   events->ItemAdded = [&](VBProject& project) { told.push_back("added " + project.Name()); };
   events->ItemActivated = [&](VBProject& project) { told.push_back("active " + project.Name()); };
+  events->ItemRemoved = [&](VBProject& project) { told.push_back("removed " + project.Name()); };
   auto dropped = vbe().Events().VBProjectsEvents();
   dropped->ItemActivated = [&](VBProject&) { dropped.reset(); };
   window_->onProjectClosed = [&](HostIde& ide) {
@@ -147,9 +148,9 @@ TEST_F(IdeSurfaceTest, EventsTellOfProjects) {
   emit window_->findChild<ProjectExplorer*>()->activationWanted(
       window_->ide()->VBProjects().Item(2));
   open("Stock.vbp");
-  EXPECT_EQ(told,
-            (std::vector<std::string>{"active Stock", "active Desk", "active Stock", "active Desk",
-                                      "closed 2", "opened Stock", "added Stock"}));
+  EXPECT_EQ(told, (std::vector<std::string>{"active Stock", "active Desk", "active Stock",
+                                            "active Desk", "closed 2", "removed Stock",
+                                            "removed Desk", "opened Stock", "added Stock"}));
   EXPECT_EQ(dropped, nullptr);
   window_.reset();
   events.reset();  // a source may outlive the window
