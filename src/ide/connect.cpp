@@ -1,96 +1,212 @@
 #include "ide/connect.h"
 
-#include <algorithm>
+#include <utility>
 
-#include "compiler/group_compile.h"
 #include "compiler/store.h"
+#include "editor/open_comment_editor.h"
+#include "ide/add_comment_at_cursor.h"
+#include "ide/connect_items.h"
+#include "ide/copy_selection_as_code.h"
+#include "ide/item_faces.h"
+#include "toolkit/toolkit.h"
 
 namespace tamrikon {
 namespace {
 
-std::vector<Window*> openWindows(VBE& ide) {
-  std::vector<Window*> open;
-  const Windows& windows = ide.Windows();
-  for (int number = 1; number <= windows.Count(); ++number) open.push_back(&windows.Item(number));
-  return open;
-}
-
-/// The first module with code of a project, or null.
-CodeModule* firstModule(const VBProject& project) {
-  const VBComponents& components = project.VBComponents();
-  for (int number = 1; number <= components.Count(); ++number) {
-    if (CodeModule* module = components.Item(number).CodeModule()) return module;
-  }
-  return nullptr;
-}
+constexpr const char* kSettingsSection = "Settings";
+constexpr const char* kDisplayOnConnect = "DisplayOnConnect";
 
 }  // namespace
 
-connect::~connect() = default;
+/// What stands in the window's procedure; it only passes messages on once its owner has let go.
+struct connect::WindowHook {
+  void handle(std::uint32_t message) const {
+    const WindowProcedure next = old;  // the handler may take this procedure out
+    if (owner != nullptr) owner->handleMessage(message);
+    if (next) next(message);
+  }
+
+  connect* owner;
+  WindowProcedure old;
+};
+
+connect::connect(Session& session, AddInHost& host, UserSettings& userSettings)
+    : session_(session), host_(host), userSettings_(userSettings) {
+  session_.codePageOf = [&host](const VBProject& project) -> const CodePage& {
+    return host.codePageOf(project);
+  };
+}
+
+connect::~connect() {
+  if (hook_) hook_->owner = nullptr;
+}
+
+void connect::AddinInstance_OnConnection(VBE& application, ConnectMode mode) {
+  const std::shared_ptr<void> held = owner.lock();
+  takeOut();  // what a connection that failed has left
+  std::string failureText;
+  try {
+    VBInstance = &application;
+    buttonFaceColour_ = host_.buttonFaceColour();
+    if (application.VBProjects().Count() > 0) loadSettings();
+    if (mode == ConnectMode::external) {
+      Show();
+      if (VBInstance == nullptr) return;  // disconnected meanwhile
+    } else {
+      for (const Item& item : kItems) {
+        failureText = item.failureText;
+        connectItem(item);
+      }
+      failureText.clear();
+      connectProjects();
+    }
+    hookWindow();
+    if (mode != ConnectMode::afterStartup) return;
+    if (userSettings_.get(kSettingsSection, kDisplayOnConnect, "0") == "1") Show();
+  } catch (const std::exception& failure) {
+    session_.toolkit.messageBox(
+        {"Tamrikon", failureText.empty() ? failure.what() : std::move(failureText)});
+  }
+}
+
+void connect::AddinInstance_OnDisconnection(RemoveMode) {
+  const std::shared_ptr<void> held = owner.lock();
+  takeOut();
+  attempt([this] {
+    userSettings_.set(kSettingsSection, kDisplayOnConnect, FormDisplayed ? "1" : "0");
+  });
+  FormDisplayed = false;
+  VBInstance = nullptr;
+  if (options_) options_->close();
+  options_.reset();
+  if (session_.progressDlg.isShown()) {
+    // The compile, which ends at its next checkpoint, works on the project still.
+    session_.cancelRequested = true;
+    session_.progressDlg.close();
+  } else {
+    forgetProject();
+  }
+}
 
 void connect::setIde(VBE* ide) {
-  ProjectHandler.reset();
+  takeOut();
+  forgetProject();
   VBInstance = ide;
-  // Both hold on to modules of the IDE before.
-  session_.currentStore.reset();
-  session_.settings = ProjectSettings();
   if (ide == nullptr) return;
-  const auto load = [this](VBProject&) {
-    tryStep([this] { session_.loadProjectSettings(*VBInstance); });
+  attempt([this] { loadSettings(); });
+  attempt([this] { connectProjects(); });
+}
+
+void connect::connectItem(const Item& item) {
+  CommandBarControl* const control = add(item, item.caption);
+  std::unique_ptr<CommandBarEvents> source = VBInstance->Events().CommandBarEvents(control);
+  if (!source) throw IdeError("the item has no events");
+  source->Click = [this, &item] { (this->*item.click)(); };
+  this->*item.source = std::move(source);
+}
+
+void connect::connectProjects() {
+  ProjectHandler = VBInstance->Events().VBProjectsEvents();
+  if (!ProjectHandler) throw IdeError("the projects have no events");
+  ProjectHandler->ItemAdded = [this](VBProject& project) { ProjectHandler_ItemAdded(project); };
+  ProjectHandler->ItemActivated = [this](VBProject& project) {
+    ProjectHandler_ItemActivated(project);
   };
-  tryStep([this] { session_.loadProjectSettings(*VBInstance); });
-  tryStep([&] {
-    ProjectHandler = ide->Events().VBProjectsEvents();
-    ProjectHandler->ItemAdded = load;
-    ProjectHandler->ItemActivated = load;
+  ProjectHandler->ItemRemoved = [this](VBProject& project) { ProjectHandler_ItemRemoved(project); };
+}
+
+void connect::hookWindow() {
+  const auto hook = std::make_shared<WindowHook>(WindowHook{this, nullptr});
+  hook->old = host_.setWindowProcedure(VBInstance->MainWindow().HWnd(),
+                                       [hook](std::uint32_t message) { hook->handle(message); });
+  hook_ = hook;
+}
+
+void connect::handleMessage(std::uint32_t message) {
+  if (message != static_cast<std::uint32_t>(WindowMessage::sysColorChange)) return;
+  attempt([this] {
+    const std::uint32_t colour = host_.buttonFaceColour();
+    if (colour == buttonFaceColour_) return;
+    buttonFaceColour_ = colour;
+    for (const MadeItem& made : items_) {
+      if (!made.item->followsColour) continue;
+      attempt([&] { made.control->PasteFace(loadFace(made.item->bitmap, colour)); });
+    }
   });
 }
 
-void connect::Show() {
-  if (FormDisplayed) return;
-  if (!options_) options_ = std::make_unique<frmAddIn>(session_);
-  options_->VBInstance = VBInstance;
-  options_->connect = this;
-  FormDisplayed = true;
-  tryStep([this] { options_->fillValues(); });
-  startCompile = false;
-  options_->showModal();
-  FormDisplayed = false;
-  if (!startCompile || VBInstance == nullptr) return;
-  session_.groupLogText.clear();
-  tryStep([this] { session_.compileWholeGroup ? compileProjects() : compileProject(); });
+void connect::takeOut() {
+  if (hook_) {
+    hook_->owner = nullptr;
+    attempt([this] { host_.setWindowProcedure(VBInstance->MainWindow().HWnd(), hook_->old); });
+    hook_.reset();
+  }
+  for (const MadeItem& made : std::exchange(items_, {})) attempt([&] { made.control->Delete(); });
+  for (const Item& item : kItems) (this->*item.source).reset();
+  ProjectHandler.reset();
 }
 
-void connect::Hide() {
-  FormDisplayed = false;
-  if (options_) options_->close();
+void connect::loadSettings() {
+  hasSettings_ = false;
+  session_.settings = ProjectSettings();  // a load that fails leaves no modules of another project
+  session_.loadProjectSettings(*VBInstance);
+  hasSettings_ = true;
 }
 
-void connect::compileProject() {
-  session_.progressDlg.showModal();
+void connect::keepUpSettings() {
+  // Without project events nobody says that another project has become the active one.
+  if (VBInstance == nullptr || (ProjectHandler && hasSettings_)) return;
+  attempt([this] { loadSettings(); });
 }
 
-void connect::compileProjects() {
-  const std::vector<Window*> before = openWindows(*VBInstance);
-  Window* const active = VBInstance->ActiveWindow();
-  CodePane* pane = nullptr;
-  GroupSteps steps;
-  steps.activate = [&](VBProject& project) {
-    return tryStep([&] {
-      CodeModule* const module = firstModule(project);
-      if (module == nullptr) throw IdeError("the project has no code");
-      pane = &module->CodePane();
-      VBInstance->setActiveCodePane(*pane);
-    });
-  };
-  steps.compiled = [&](VBProject&) {
-    tryStep([&] {
-      Window& window = pane->Window();
-      if (std::find(before.begin(), before.end(), &window) == before.end()) window.Close();
-    });
-  };
-  compileGroup(session_, *VBInstance, steps);
-  if (active != nullptr) tryStep([&] { active->SetFocus(); });
+void connect::forgetProject() {
+  hasSettings_ = false;
+  session_.currentStore.reset();
+  session_.settings = ProjectSettings();
+}
+
+void connect::MenuHandler_Click() {
+  Show();
+}
+
+void connect::ToolbarHandler_Click() {
+  Show();
+}
+
+void connect::CodeMenuHandler_Click() {
+  if (VBInstance == nullptr) return;
+  keepUpSettings();
+  attempt([this] { addCommentAtCursor(*VBInstance, session_.settings); });
+}
+
+void connect::CodeMenuHandlerEditor_Click() {
+  if (VBInstance == nullptr) return;
+  const std::shared_ptr<void> held = owner.lock();
+  keepUpSettings();
+  attempt([this] {
+    openCommentEditor(session_, *VBInstance,
+                      [this](CodeModule& module, const std::function<void()>& edit) {
+                        host_.asOneEdit(module, edit);
+                      });
+  });
+}
+
+void connect::CodeMenuHandlerCopy_Click() {
+  if (VBInstance == nullptr) return;
+  attempt([this] { copySelectionAsCode(*VBInstance, session_.toolkit); });
+}
+
+void connect::ProjectHandler_ItemAdded(VBProject&) {
+  attempt([this] { loadSettings(); });
+}
+
+void connect::ProjectHandler_ItemActivated(VBProject&) {
+  attempt([this] { loadSettings(); });
+}
+
+void connect::ProjectHandler_ItemRemoved(VBProject&) {
+  // Both hold modules, and those of the active project may be the ones that go.
+  forgetProject();
 }
 
 }  // namespace tamrikon

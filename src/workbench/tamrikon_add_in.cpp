@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "compiler/store.h"
-#include "editor/open_comment_editor.h"
 #include "host/edit_group.h"
 #include "workbench/workbench_window.h"
 
@@ -13,10 +12,7 @@ TamrikonAddIn::TamrikonAddIn(WorkbenchWindow& window, std::string dataFolder)
     : window_(window),
       toolkit_(&window),
       session_(toolkit_, nativeFileSystem(), nativeProcessServices(), std::move(dataFolder)),
-      connect_(session_) {
-  session_.codePageOf = [&window](const VBProject& project) -> const CodePage& {
-    return window.ide()->codePageOf(project);
-  };
+      connect_(session_, *this, *this) {
   window.onProjectOpened = [this](HostIde& ide) { connect_.setIde(&ide); };
   window.onProjectClosed = [this](HostIde&) { connect_.setIde(nullptr); };
   if (window.ide() != nullptr) connect_.setIde(window.ide());
@@ -37,13 +33,36 @@ void TamrikonAddIn::addItem(const char* bar, const char* caption, std::function<
   handlers_.back()->Click = std::move(click);
 }
 
-void TamrikonAddIn::editComment() {
-  if (window_.ide() == nullptr) return;
-  openCommentEditor(session_, *window_.ide(),
-                    [](CodeModule& module, const std::function<void()>& edit) {
-                      const EditGroup group(static_cast<HostModule&>(module));
-                      edit();
-                    });
+VBE& TamrikonAddIn::application() {
+  if (window_.ide() == nullptr) throw IdeError("no project is open");
+  return *window_.ide();
+}
+
+const CodePage& TamrikonAddIn::codePageOf(const VBProject& project) {
+  if (window_.ide() == nullptr) throw IdeError("no project is open");
+  return window_.ide()->codePageOf(project);
+}
+
+void TamrikonAddIn::asOneEdit(CodeModule& module, const std::function<void()>& edit) {
+  const EditGroup group(static_cast<HostModule&>(module));
+  edit();
+}
+
+std::uint32_t TamrikonAddIn::buttonFaceColour() {
+  return window_.palette().color(QPalette::Button).rgb() & 0xFFFFFF;
+}
+
+WindowProcedure TamrikonAddIn::setWindowProcedure(std::uintptr_t, WindowProcedure) {
+  throw IdeError("the window keeps its procedure");
+}
+
+std::string TamrikonAddIn::get(const std::string&, const std::string&,
+                               const std::string& defaultValue) const {
+  return defaultValue;
+}
+
+bool TamrikonAddIn::set(const std::string&, const std::string&, const std::string&) {
+  return false;
 }
 
 }  // namespace tamrikon

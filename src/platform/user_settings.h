@@ -1,0 +1,21 @@
+// What programs keep for a user between two runs: texts by section and key.
+#pragma once
+
+#include <string>
+
+namespace tamrikon {
+
+class UserSettings {
+ public:
+  virtual ~UserSettings() = default;
+
+  /// `defaultValue` if nothing is kept there.
+  virtual std::string get(const std::string& section, const std::string& key,
+                          const std::string& defaultValue) const = 0;
+
+  /// Whether it could be kept.
+  virtual bool set(const std::string& section, const std::string& key,
+                   const std::string& value) = 0;
+};
+
+}  // namespace tamrikon

@@ -1,0 +1,227 @@
+// How the add-in gets into an IDE and out of it, also where that fails.
+#include <map>
+
+#include "ide/connect_fixture.h"
+#include "ide/item_faces.h"
+
+namespace tamrikon::test {
+namespace {
+
+struct Expected {
+  const char* bar;
+  const char* caption;
+  const char* toolTip;
+  int bitmap;
+  const char* failure;
+  std::unique_ptr<CommandBarEvents> connect::*source;
+};
+
+const Expected kItems[] = {
+    {"Add-Ins", "Tamrikon", "", 101, "Cannot create Tamrikon item in Add-Ins menu.",
+     &connect::MenuHandler},
+    {"Code Window", "Add Tamrikon Comment", "Insert Tamrikon comment directly into source code",
+     102, "Cannot create 'Add Tamrikon Comment' item in code window pop-up menu.",
+     &connect::CodeMenuHandler},
+    {"Code Window", "Comment Editor", "Start Comment editor for selected element", 103,
+     "Cannot create 'Comment editor' item in code window pop-up menu.",
+     &connect::CodeMenuHandlerEditor},
+    {"Code Window", "Copy Selection as Code", "Copy selected lines to clipboard as code example",
+     100, "Cannot create 'Copy as Code' item in code window pop-up menu.",
+     &connect::CodeMenuHandlerCopy},
+    {"Standard", "Tamrikon", "Tamrikon", 101, "Cannot create Tamrikon item in Standard toolbar.",
+     &connect::ToolbarHandler},
+};
+constexpr std::uint32_t kColourChange = 0x15;
+
+class ConnectionTest : public ConnectTest {
+ protected:
+  std::size_t itemCount() const {
+    std::size_t count = 0;
+    for (const auto& bar : ide_->bars.bars) count += bar->items.size();
+    return count;
+  }
+  std::size_t sourceCount() const {
+    std::size_t count = 0;
+    for (const Expected& item : kItems) count += addIn_->self.*item.source != nullptr;
+    return count;
+  }
+  bool isWindowHooked() {
+    const std::size_t before = ide_->calls.names.size();
+    ide_->send(kColourChange);
+    return ide_->calls.names.size() > before;
+  }
+  void expectConnected() {
+    EXPECT_TRUE(sourceCount() == 5 && addIn_->self.ProjectHandler && isWindowHooked());
+  }
+};
+
+TEST_F(ConnectionTest, EveryConnectionMakesTheItemsAnew) {
+  ScriptedBar& standard = *ide_->bars.find("Standard");
+  for (int n = 0; n < 3; ++n) standard.Add(ControlType::button, 0);
+  for (int n = 0; n < 2; ++n) {
+    connectIn(ConnectMode::startup);
+    connectIn(ConnectMode::startup);                         // also where it wasn't disconnected
+    std::map<ScriptedBar*, std::size_t> at{{&standard, 2}};  // before the last one
+    for (const Expected& item : kItems) {
+      ScriptedBar& bar = *ide_->bars.find(item.bar);
+      const ScriptedControl& control = *bar.items.at(at[&bar]++);
+      EXPECT_EQ(control.caption, item.caption);
+      EXPECT_EQ(control.toolTip, item.toolTip) << item.caption;
+      EXPECT_EQ(control.face.pixels, loadFace(item.bitmap, 0xF0F0F0).pixels) << item.caption;
+    }
+    EXPECT_EQ(itemCount(), 8u);
+    expectConnected();
+    disconnect();
+    EXPECT_EQ(itemCount(), 3u);
+    EXPECT_FALSE(sourceCount() > 0 || addIn_->self.ProjectHandler || isWindowHooked());
+  }
+  EXPECT_TRUE(toolkit_.boxes.empty());
+}
+
+TEST_F(ConnectionTest, MissingBarIsToldOnceAndEndsTheConnection) {
+  struct Case {
+    std::vector<std::string> bars;
+    std::size_t made;
+  };
+  for (const Case& c : {Case{{"Standard", "Code Window"}, 0}, Case{{"Add-Ins", "Standard"}, 1},
+                        Case{{"Standard", "Add-Ins", "Code Window"}, 5},
+                        Case{{"Add-Ins", "Tools", "Code Window"}, 5}}) {
+    toolkit_.boxes.clear();
+    addIn_.reset();
+    ide_ = std::make_unique<ScriptedIde>(toolkit_, c.bars);
+    makeAddIn();
+    connectIn(ConnectMode::startup);
+    EXPECT_EQ(itemCount(), c.made);
+    if (c.made == 5) {
+      EXPECT_EQ(ide_->bars.bars[c.bars[0] == "Standard" ? 0 : 1]->items.back()->toolTip,
+                "Tamrikon");
+      expectConnected();
+      continue;
+    }
+    ASSERT_EQ(toolkit_.boxes.size(), 1u);
+    EXPECT_EQ(toolkit_.boxes[0].text, kItems[c.made].failure);
+    EXPECT_EQ(sourceCount(), c.made);
+    EXPECT_FALSE(addIn_->self.ProjectHandler || isWindowHooked());
+  }
+}
+
+TEST_F(ConnectionTest, AnyCallMayFail) {
+  openBoth();
+  for (std::size_t n = 1;; ++n) {
+    toolkit_.boxes.clear();
+    ide_->calls.failNext(n);
+    connectIn(ConnectMode::afterStartup);
+    const std::vector<std::string> calls = std::exchange(ide_->calls.names, {});
+    if (calls.size() < n) break;
+    const bool hasBegun = std::count(calls.begin(), calls.end(), "CommandBars") > 0;
+    const std::size_t made = sourceCount();
+    const bool isFallback = made == 5 && toolkit_.boxes.empty();  // the bar by its number served
+    if (isFallback) {
+      EXPECT_TRUE(calls[n - 1] == "CommandBars" || calls[n - 1] == "Item");
+      expectConnected();
+    } else {
+      ASSERT_EQ(toolkit_.boxes.size(), 1u) << n << " " << calls[n - 1];
+      const bool isItem = hasBegun && made < 5;
+      EXPECT_EQ(toolkit_.boxes[0].text, isItem ? kItems[made].failure : calls[n - 1] + " fails");
+    }
+    disconnect();
+    EXPECT_FALSE(itemCount() > 0 || isWindowHooked()) << "left by failing " << calls[n - 1];
+  }
+  expectConnected();
+  EXPECT_TRUE(toolkit_.boxes.empty());
+  EXPECT_TRUE(addIn_->session.settings.templatePath.ends_with("own.tmkt"));
+}
+
+TEST_F(ConnectionTest, DisconnectingGoesOnBehindACallThatFails) {
+  openBoth();
+  for (std::size_t n = 1;; ++n) {
+    connectIn(ConnectMode::startup);
+    ide_->kept.clear();
+    ide_->calls.failNext(n);
+    disconnect();
+    if (ide_->calls.names.size() < n) break;
+    const std::string failed = ide_->calls.names[n - 1];
+    EXPECT_EQ(itemCount(), failed == "Delete" ? 1u : 0u) << n;
+    EXPECT_EQ(ide_->kept.count("Settings/DisplayOnConnect"), failed == "set" ? 0u : 1u);
+    EXPECT_EQ(addIn_->session.settings.comModules.size(), 0u);
+    EXPECT_FALSE(isWindowHooked()) << "whatever stands in the window's procedure still";
+    addIn_.reset();
+    ide_->send(kColourChange);
+    for (const auto& bar : ide_->bars.bars) bar->items.clear();
+    makeAddIn();
+  }
+}
+
+TEST_F(ConnectionTest, ModesDecideWhatIsShownAtOnce) {
+  const auto expectNext = [&](ConnectMode mode, bool isShown) {
+    if (isShown) closeOptions();
+    connectIn(mode);
+    disconnect();
+  };
+  closeOptions();
+  connectIn(ConnectMode::external);
+  EXPECT_TRUE(itemCount() == 0 && !addIn_->self.ProjectHandler && isWindowHooked());
+  disconnect();
+  EXPECT_EQ(ide_->kept["Settings/DisplayOnConnect"], "0");
+  expectNext(ConnectMode::afterStartup, false);
+  for (const ConnectMode mode : {ConnectMode::startup, ConnectMode::afterStartup}) {
+    connectIn(ConnectMode::startup);
+    onOptions([&](User& user, frmAddIn&) {
+      disconnect();
+      EXPECT_FALSE(user.dialog().isShown());
+    });
+    ide_->click("Standard", "Tamrikon");
+    EXPECT_EQ(ide_->kept["Settings/DisplayOnConnect"], "1");
+    expectNext(mode, mode == ConnectMode::afterStartup);
+  }
+}
+
+TEST_F(ConnectionTest, ItsOwnerMayLetGoOfItWhileItIsAtWork) {
+  openBoth();
+  for (const bool compiles : {false, true}) {
+    for (const ConnectMode mode : {ConnectMode::startup, ConnectMode::external}) {
+      makeAddIn();
+      const std::weak_ptr<AddIn> addIn = addIn_;
+      const auto letGo = [&] {
+        if (addIn_) disconnect();
+        addIn_.reset();
+      };
+      onOptions([&](User& user, frmAddIn& dialog) {
+        if (!compiles) return letGo();
+        user.click(dialog.Command14);
+        toolkit_.onCheckpoint = letGo;
+      });
+      connectIn(mode);
+      if (mode == ConnectMode::startup) ide_->click("Add-Ins", "Tamrikon");
+      EXPECT_TRUE(addIn.expired() && itemCount() == 0 && !isWindowHooked());
+    }
+  }
+}
+
+TEST_F(ConnectionTest, FacesFollowTheColourOfButtons) {
+  connectIn(ConnectMode::startup);
+  const auto inNewColour = [&] {
+    std::size_t count = 0;
+    for (const Expected& item : kItems) {
+      for (const auto& control : ide_->bars.find(item.bar)->items) {
+        if (control->caption != item.caption) continue;
+        count += control->face.pixels == loadFace(item.bitmap, 0x202020).pixels;
+      }
+    }
+    return count;
+  };
+  ide_->calls.failNext(0);
+  ide_->send(kColourChange);
+  EXPECT_EQ(ide_->calls.names.size(), 1u) << "the colour of buttons is what it was";
+  ide_->buttonFace = 0x202020;
+  ide_->send(0x0F);
+  EXPECT_EQ(inNewColour(), 0u);
+  ide_->calls.failNext(2);  // the first of three that are pasted
+  ide_->send(kColourChange);
+  EXPECT_EQ(inNewColour(), 2u);
+  EXPECT_EQ(ide_->calls.names.size(), 4u);
+  EXPECT_EQ(ide_->messages, (std::vector<std::uint32_t>{0x15, 0x0F, 0x15}));
+}
+
+}  // namespace
+}  // namespace tamrikon::test
