@@ -52,7 +52,7 @@ class JsonTest(TemplateTest):
         self.assertEqual(run["return"], "True or $.")
         self.assertEqual(run["appliesTo"], ["Oddity"])
         self.assertEqual([(entry["name"], entry["text"].strip()) for entry in run["parameters"]],
-                         [("Kind", "What kind.  It goes on here,\nand breaks here."),
+                         [("Kind", "What kind. It goes on here,\nand breaks here."),
                           ("Mode", "Which <mode>."), ("Third_One", "")])
         self.assertEqual([tuple(field.strip() for field in value.values())
                           for value in run["values"]],
