@@ -62,9 +62,12 @@ class MarkdownTest(TemplateTest):
         self.assertIn("https://example.org/a_b?c=1&d=2", oddity.links)
         self.assertEqual(oddity.tags & collections.Counter("em strong del code img".split()), {})
         self.assertEqual((oddity.tags["pre"], oddity.tags["h1"], oddity.tags["h2"]), (1, 1, 5))
+        count = Shown(compiled, "Oddity-mCount.md")
+        self.assertIn("- A member variable.", count.said)
+        self.assertEqual(count.tags["li"], 0)
         run = Shown(compiled, "Oddity-Run.md")
         for words in ("Kind What kind. It goes on here, and breaks here. Mode Which <mode>.",
-                      'kdTwo "a b" The *second*, over two lines.', "The first | one.",
+                      'kdTwo "a b" The *second*, over two lines.', "The first | one.", "Not before noon: &lt; stays.",
                       'Third_One = "a & b $5 ␂" \' </pre> ``` {x} End Function'):
             self.assertIn(words, run.said)
         self.assertEqual((run.tags["table"], run.tags["tr"], run.tags["pre"]), (4, 4 + 3 + 4, 2))

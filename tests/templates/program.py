@@ -20,7 +20,7 @@ NOTHING = ROOT / "tests/data/compile/single-file/Empty.vbp"
 # The topics of Odd, by module; those of Other and of the procedures of Value are that of Value.
 ODD_TOPICS = {
     "Bare": [], "Lonely": [], "frmOdd": ["Depth", "Present"],
-    "Helpers": ["Limit", "Mood", "Sleep", "Total", "Twice"],
+    "Tools": ["Limit", "Mood", "Sleep", "Total", "Twice"],
     "Oddity": ["Bell", "Quiet", "Run", "Tag", "Told", "Value", "mCount"]}
 PROGRAM = os.environ.get("TAMRIKON", ROOT / "build/dev/bin/tamrikon")
 CONTROLS = re.compile("[\x00-\x08\x0b\x0c\x0e-\x1f\x7f]")

@@ -1,6 +1,6 @@
-Attribute VB_Name = "Helpers"
+Attribute VB_Name = "Tools"
 '**
-' Helpers.
+' Tools.
 Option Explicit
 
 '**
