@@ -9,7 +9,7 @@ for task in "$@"; do
     build) packages="$packages g++ cmake ninja-build libcli11-dev" ;;
     workbench) packages="$packages qt6-base-dev fonts-dejavu-core" ;;
     test)
-      packages="$packages libgtest-dev python3 fp-utils libchm-bin"
+      packages="$packages libgtest-dev python3 fp-utils libchm-bin cmark-gfm"
       packages="$packages chromium chromium-driver python3-selenium tidy"
       packages="$packages dpkg-dev file desktop-file-utils groff"
       ;;
