@@ -10,4 +10,8 @@ namespace tamrikon {
 /// separator at its end.
 std::string dataFolder();
 
+/// The same for a library, which is installed in the folder `libraryFolder`, lib/tamrikon beside
+/// the programs, whatever program has loaded it.
+std::string dataFolderOf(const std::string& libraryFolder);
+
 }  // namespace tamrikon

@@ -18,4 +18,7 @@ class UserSettings {
                    const std::string& value) = 0;
 };
 
+/// Tamrikon's own, in the registry, where Visual Basic programs have theirs. It has no state.
+UserSettings& nativeUserSettings();
+
 }  // namespace tamrikon
