@@ -28,6 +28,7 @@ struct connect::WindowHook {
 
   connect* owner;
   WindowProcedure old;
+  std::shared_ptr<void> code;
 };
 
 connect::connect(Session& session, AddInHost& host, UserSettings& userSettings)
@@ -116,7 +117,7 @@ void connect::connectProjects() {
 }
 
 void connect::hookWindow() {
-  const auto hook = std::make_shared<WindowHook>(WindowHook{this, nullptr});
+  const auto hook = std::make_shared<WindowHook>(WindowHook{this, nullptr, code});
   hook->old = host_.setWindowProcedure(VBInstance->MainWindow().HWnd(),
                                        [hook](std::uint32_t message) { hook->handle(message); });
   hook_ = hook;

@@ -41,6 +41,10 @@ class connect final : public OptionsOwner {
   /// its operations runs, as a disconnection from within a dialog does: they keep it to their end.
   std::weak_ptr<void> owner;
 
+  /// What keeps this code in memory, if it can be unloaded; held as long as the IDE may call it,
+  /// also through a window procedure that couldn't be taken out.
+  std::shared_ptr<void> code;
+
   /// Puts the add-in into the IDE: its items and their events, unless the mode is external, which
   /// shows the options instead, and its window procedure. A failure ends that with a message box;
   /// what was made before stays. It is no failure that no project is open.
