@@ -7,13 +7,13 @@
 #include <QTimer>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <vector>
 
 #include "platform/data_folder.h"
 #include "workbench/modal_steps.h"
 #include "workbench/renderer/qt_text.h"
-#include "workbench/tamrikon_add_in.h"
 #include "workbench/workbench_window.h"
 
 namespace tamrikon {
@@ -47,6 +47,15 @@ class Example {
     std::filesystem::copy(source, project_, copyAll);
     std::filesystem::copy(dataFolder() + "/Templates", folder_ / "Templates", copyAll);
     std::filesystem::create_directory(project_ / "Documentation");
+    // The default template may not be there; the example is shown with the one of web pages.
+    for (const char* name : {"Stock.tamrik", "Desk.tamrik"}) {
+      std::ofstream(project_ / name, std::ios::app)
+          << "\r\ntemplateFolder = " << (folder_ / "Templates").string()
+          << "\r\ntemplatePath = html.tmkt\r\noutputPath = "
+          << (project_ / "Documentation").string();
+    }
+    qputenv("TAMRIKON_HOME", folder_.c_str());
+    qputenv("XDG_CONFIG_HOME", (folder_ / "config").c_str());
   }
   ~Example() { std::filesystem::remove_all(folder_); }
   Example(const Example&) = delete;
@@ -63,13 +72,10 @@ class Example {
 class Photographer {
  public:
   Photographer(const Example& example, const QString& output)
-      : example_(example),
-        camera_(output),
-        window_(optionsFor(example)),
-        addIn_(window_, example.folder().string()) {
-    addIn_.session().runsPrograms = false;
+      : camera_(output), window_(optionsFor(example)) {
     window_.show();
     window_.openProject(toQt((example.project() / "Inventory.vbg").string()));
+    window_.connectAddIns();
   }
 
   void takeWindow() {
@@ -79,10 +85,6 @@ class Photographer {
   }
 
   void takeOptions() {
-    // The default template may not be there; the example is shown with the one of web pages.
-    ProjectSettings& settings = addIn_.session().settings;
-    settings.templatePath = settings.templateFolder + "/html.tmkt";
-    settings.outputPath = (example_.project() / "Documentation").string();
     test::ModalSteps steps;
     steps.add("frmAddIn", [&](QWidget& dialog) {
       takeTabs(dialog, "options-", {"compile", "comment", "output", "miscellaneous"});
@@ -92,8 +94,13 @@ class Photographer {
       camera_.take(dialog, "compile");
       test::pressLater(dialog, "OKButton");
     });
-    steps.start();
-    addIn_.showOptions();
+    choose("Add-Ins", "Tamrikon", steps);
+  }
+
+  void takeManager() {
+    test::ModalSteps steps;
+    addPicture(steps, "AddInManager", "add-in-manager", "cmdCancel");
+    choose("Add-Ins", "&Add-In Manager…", steps);
   }
 
   void takeEditor() {
@@ -110,8 +117,7 @@ class Photographer {
     steps.add("EditComment", [&](QWidget& dialog) { pressOnTab(dialog, 5, "Command1"); });
     addPicture(steps, "EditCommentOptions", "editor-options", "CancelButton");
     steps.add("EditComment", [&](QWidget& dialog) { test::pressLater(dialog, "cmdCancel"); });
-    steps.start();
-    addIn_.editComment();
+    choose("Code Window", "Comment Editor", steps);
   }
 
  private:
@@ -127,6 +133,17 @@ class Photographer {
         window_.showCode(*module).editor().setSelection({line, 1, line, 1});
       }
     }
+  }
+
+  void choose(const char* bar, const char* caption, test::ModalSteps& steps) {
+    CommandBarControls& items = window_.screen().commandBars().Item(bar)->Controls();
+    for (int number = 1; number <= items.Count(); ++number) {
+      auto& item = dynamic_cast<QtControl&>(items.Item(number));
+      if (item.Caption() != caption) continue;
+      steps.start();
+      return item.action()->trigger();
+    }
+    std::fprintf(stderr, "no item %s\n", caption);
   }
 
   void takeTabs(QWidget& dialog, const QString& prefix, const std::vector<const char*>& names) {
@@ -150,10 +167,8 @@ class Photographer {
     });
   }
 
-  const Example& example_;
   Camera camera_;
   WorkbenchWindow window_;
-  TamrikonAddIn addIn_;
 };
 
 }  // namespace
@@ -171,4 +186,5 @@ int main(int argc, char** argv) {
   photographer.takeWindow();
   photographer.takeOptions();
   photographer.takeEditor();
+  photographer.takeManager();
 }

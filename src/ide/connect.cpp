@@ -89,15 +89,6 @@ void connect::AddinInstance_OnDisconnection(RemoveMode) {
   }
 }
 
-void connect::setIde(VBE* ide) {
-  takeOut();
-  forgetProject();
-  VBInstance = ide;
-  if (ide == nullptr) return;
-  attempt([this] { loadSettings(); });
-  attempt([this] { connectProjects(); });
-}
-
 void connect::connectItem(const Item& item) {
   CommandBarControl* const control = add(item, item.caption);
   std::unique_ptr<CommandBarEvents> source = VBInstance->Events().CommandBarEvents(control);

@@ -54,9 +54,6 @@ class connect final : public OptionsOwner {
   /// compile that runs is cancelled.
   void AddinInstance_OnDisconnection(RemoveMode mode);
 
-  /// Works in `ide` until the next call, with no items of its own there; null leaves it.
-  void setIde(VBE* ide);
-
   // Each makes one of the items. Null if that fails.
   CommandBarControl* AddToAddInCommandBar(const std::string& sCaption);
   CommandBarControl* AddToCodeWindowCommandBar(const std::string& sCaption);

@@ -1,6 +1,5 @@
 #include "workbench/workbench_actions.h"
 
-#include <QEvent>
 #include <QMenuBar>
 
 #include "workbench/workbench_icons.h"
@@ -26,26 +25,6 @@ QAction* make(QMainWindow& window, const char* name, const QString& text,
   action->setToolTip(toolTip);
   return action;
 }
-
-/// Greys a menu as long as nothing is in it.
-class EmptyMenuGreyer final : public QObject {
- public:
-  explicit EmptyMenuGreyer(QMenu& menu) : QObject(&menu), menu_(menu) {
-    menu.installEventFilter(this);
-    menu.menuAction()->setEnabled(!menu.isEmpty());
-  }
-
- private:
-  bool eventFilter(QObject*, QEvent* event) override {
-    const bool isAddition = event->type() == QEvent::ActionAdded;
-    if (isAddition || event->type() == QEvent::ActionRemoved) {
-      menu_.menuAction()->setEnabled(!menu_.actions().isEmpty());
-    }
-    return false;
-  }
-
-  QMenu& menu_;
-};
 
 QMenu* addMenu(QMainWindow& window, const char* name, const QString& title) {
   QMenu* menu = window.menuBar()->addMenu(title);
@@ -89,6 +68,8 @@ WorkbenchActions::WorkbenchActions(QMainWindow& window) {
   zoomOut = make(window, "zoomOut", "Zoom &Out", key("Ctrl+-"));
   zoomReset = make(window, "zoomReset", "Reset &Zoom", key("Ctrl+0"));
 
+  addInManager = make(window, "addInManager", "&Add-In Manager" + dots);
+
   closeWindow =
       make(window, "closeWindow", "&Close", {QKeySequence("Ctrl+F4"), QKeySequence("Ctrl+W")});
   closeAllWindows = make(window, "closeAllWindows", "Close &All");
@@ -129,7 +110,8 @@ WorkbenchActions::WorkbenchActions(QMainWindow& window) {
 
   addIns = addMenu(window, "addInsMenu", "&Add-Ins");
   addIns->setToolTipsVisible(true);
-  new EmptyMenuGreyer(*addIns);
+  addIns->addAction(addInManager);
+  addIns->addSeparator();
 
   windows = addMenu(window, "windowMenu", "&Window");
   windows->addActions({closeWindow, closeAllWindows});
@@ -145,6 +127,7 @@ WorkbenchActions::WorkbenchActions(QMainWindow& window) {
   codeWindow->addActions({cut, copy, paste});
   codeWindow->addSeparator();
   codeWindow->addActions({find, goToLine});
+  codeWindow->addSeparator();
 
   standard = window.addToolBar("Standard");
   standard->setObjectName("standardToolBar");

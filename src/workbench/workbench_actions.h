@@ -42,6 +42,8 @@ struct WorkbenchActions {
   QAction* zoomOut;
   QAction* zoomReset;
 
+  QAction* addInManager;
+
   QAction* closeWindow;
   QAction* closeAllWindows;
   QAction* nextWindow;

@@ -64,6 +64,9 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options)
       explorer_(*new ProjectExplorer(this)),
       messages_(*new MessageList(this)),
       screen_(*this, tabs_),
+      vbe_(keeper_, screen_),
+      addInHost_(*this, vbe_),
+      addIns_(addInHost_, userRegistry()),
       recentMenu_(*actions_.recent, recent_, prompts_),
       codeCommands_(actions_, tabs_, findBar_, prompts_, settings_) {
   setObjectName("workbench");
@@ -129,14 +132,12 @@ void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
   messages_.show(messages);
   if (!warnings.isEmpty()) messagesDock_->show();
   showState();
-  if (onProjectOpened) onProjectOpened(ide);
   for (int i = 1; i <= ide.VBProjects().Count(); ++i) {
     screen_.events().projects().projectAdded(ide.VBProjects().Item(i));
   }
 }
 
 void WorkbenchWindow::projectClosing(HostIde& ide) {
-  if (onProjectClosed) onProjectClosed(ide);
   for (int i = 1; i <= ide.VBProjects().Count(); ++i) {
     screen_.projectRemoved(ide.VBProjects().Item(i));
   }
@@ -217,6 +218,7 @@ void WorkbenchWindow::restoreLayout() {
 
 void WorkbenchWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) addInHost_.send(WindowMessage::sysColorChange);
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
     // Not within the event, as it may ask.
     QTimer::singleShot(0, &diskChanges_, &DiskChanges::check);

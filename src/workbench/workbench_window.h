@@ -3,9 +3,10 @@
 
 #include <QMainWindow>
 #include <QSettings>
-#include <functional>
 #include <memory>
+#include <string>
 
+#include "addin/host/add_ins.h"
 #include "host/host_ide.h"
 #include "platform/file_system.h"
 #include "workbench/code_commands.h"
@@ -19,6 +20,8 @@
 #include "workbench/recent_files.h"
 #include "workbench/recent_menu.h"
 #include "workbench/workbench_actions.h"
+#include "workbench/workbench_add_in_host.h"
+#include "workbench/workbench_ide.h"
 #include "workbench/workbench_screen.h"
 
 class QLabel;
@@ -39,14 +42,10 @@ class WorkbenchWindow final : public QMainWindow {
   explicit WorkbenchWindow(const WorkbenchOptions& options = {});
   ~WorkbenchWindow() override;
 
-  // Where an add-in comes in. The IDE is the VBE that it connects to; its windows, bars and events
-  // are those of this window. It may give this window to its dialogs as their parent.
-
-  /// A project or group has been opened. VBProjectsEvents::ItemAdded follows, for each project.
-  std::function<void(HostIde&)> onProjectOpened;
-
-  /// It is about to go, with all its objects; nothing can stop that any more.
-  std::function<void(HostIde&)> onProjectClosed;
+  /// Registers Tamrikon's own add-in if need be, and loads the add-ins that the user wants on
+  /// start-up. `external` names one that is connected from outside; it may be empty. What fails is
+  /// told to the user, and the rest goes on. Called once, when the window is shown.
+  void connectAddIns(const std::string& external = {});
 
   /// Opens a project or group and puts it on the list of recent ones. False if the user cancelled,
   /// or if it can't be opened, which the user has been told then.
@@ -59,6 +58,10 @@ class WorkbenchWindow final : public QMainWindow {
   CodeWindow& showCode(HostModule& module);
 
   WorkbenchScreen& screen() { return screen_; }
+
+  /// What add-ins connect to.
+  VBE& vbe() { return vbe_; }
+  AddInHost& addInHost() { return addInHost_; }
   DiskChanges& diskChanges() { return diskChanges_; }
 
  protected:
@@ -85,6 +88,7 @@ class WorkbenchWindow final : public QMainWindow {
   void showCaret();
   void showDock(QDockWidget& dock);
   void findInProject(const TextSearch& search);
+  void manageAddIns();
   void tellAbout();
 
   std::unique_ptr<BoxPrompts> ownPrompts_;
@@ -99,6 +103,9 @@ class WorkbenchWindow final : public QMainWindow {
   ProjectExplorer& explorer_;
   MessageList& messages_;
   WorkbenchScreen screen_;
+  WorkbenchIde vbe_;
+  WorkbenchAddInHost addInHost_;
+  AddIns addIns_;
   RecentMenu recentMenu_;
   CodeCommands codeCommands_;
   QDockWidget* explorerDock_ = nullptr;

@@ -3,7 +3,10 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include "addin/host/add_in_manager_dlg.h"
+#include "addin/host/own_component.h"
 #include "platform/open_document.h"
+#include "workbench/lists_in_words.h"
 #include "workbench/program_name.h"
 #include "workbench/project_search.h"
 #include "workbench/renderer/qt_text.h"
@@ -32,6 +35,7 @@ void WorkbenchWindow::connectCommands() {
   });
   on(actions_.explorer, [this] { showDock(*explorerDock_); });
   on(actions_.messages, [this] { showDock(*messagesDock_); });
+  on(actions_.addInManager, [this] { manageAddIns(); });
   on(actions_.about, [this] { tellAbout(); });
   connect(&recentMenu_, &RecentMenu::openWanted, this, &WorkbenchWindow::openProject);
 }
@@ -106,6 +110,25 @@ void WorkbenchWindow::showDock(QDockWidget& dock) {
   dock.show();
   dock.raise();
   dock.widget()->setFocus(Qt::ShortcutFocusReason);
+}
+
+void WorkbenchWindow::connectAddIns(const std::string& external) {
+  std::vector<std::string> failures;
+  const auto note = [&](std::optional<std::string> failure) {
+    if (failure) failures.push_back(std::move(*failure));
+  };
+  note(registerOwnComponent(userRegistry()));
+  // First, as one that is loaded on start-up as well isn't connected twice.
+  if (!external.empty()) note(addIns_.connect(external, vbext_cm_External));
+  for (std::string& failure : addIns_.connectOnStartup()) note(std::move(failure));
+  if (failures.empty()) return;
+  QStringList lines;
+  for (const std::string& failure : failures) lines += toQt(failure);
+  prompts_.ask({"Not all add-ins could be loaded.", inLines(lines), {"OK"}});
+}
+
+void WorkbenchWindow::manageAddIns() {
+  AddInManagerDlg(addInHost_.toolkit(), addIns_).run();
 }
 
 void WorkbenchWindow::tellAbout() {

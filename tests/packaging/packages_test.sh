@@ -28,6 +28,17 @@ tamrikon compile project/Inventory.vbg --template html --output "$work/pages" --
 [ -f pages/Warehouse-Book.html ] || fail "no page of Warehouse.Book"
 if [ -f "$root/usr/bin/tamrikon-workbench" ]; then
   QT_QPA_PLATFORM=offscreen tamrikon-workbench --version | grep -q '[0-9]' || fail "no workbench"
+  # It finds the add-in beside itself, and the add-in registers itself.
+  export XDG_CONFIG_HOME=$work/config
+  QT_QPA_PLATFORM=offscreen tamrikon-workbench 2> "$work/workbench.log" &
+  workbench=$!
+  registry=$XDG_CONFIG_HOME/tamrikon/registry.txt
+  for _ in {1..100}; do
+    [ ! -f "$registry" ] || break
+    sleep 0.1
+  done
+  kill "$workbench"
+  grep -q "$root/usr/lib/tamrikon/" "$registry" || fail "no add-in: $(cat "$work/workbench.log")"
   desktop-file-validate "$root/usr/share/applications/tamrikon-workbench.desktop"
 fi
 

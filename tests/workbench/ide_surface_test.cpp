@@ -15,7 +15,7 @@ class IdeSurfaceTest : public WorkbenchTest {
     WorkbenchTest::SetUp();
     open();
   }
-  VBE& vbe() const { return *window_->ide(); }
+  VBE& vbe() const { return window_->vbe(); }
 };
 
 TEST_F(IdeSurfaceTest, ItemsOfAddInsAreRealOnes) {
@@ -79,12 +79,9 @@ TEST_F(IdeSurfaceTest, HandlersMayDropTheirSource) {
     events.reset();
   };
   auto* menu = window_->findChild<QMenu*>("addInsMenu");
-  EXPECT_TRUE(menu->menuAction()->isEnabled());
-  menu->actions().front()->trigger();
-  menu->actions().front()->trigger();
+  menu->actions().back()->trigger();
+  menu->actions().back()->trigger();
   EXPECT_EQ(clicks, 1);
-  item.Delete();
-  EXPECT_FALSE(menu->menuAction()->isEnabled());
 }
 
 TEST_F(IdeSurfaceTest, PanesAreTheCodeWindows) {
@@ -133,14 +130,10 @@ TEST_F(IdeSurfaceTest, EventsTellOfProjects) {
   auto events = vbe().Events().VBProjectsEvents();
   events->ItemAdded = [&](VBProject& project) { told.push_back("added " + project.Name()); };
   events->ItemActivated = [&](VBProject& project) { told.push_back("active " + project.Name()); };
-  events->ItemRemoved = [&](VBProject& project) { told.push_back("removed " + project.Name()); };
   auto dropped = vbe().Events().VBProjectsEvents();
   dropped->ItemActivated = [&](VBProject&) { dropped.reset(); };
-  window_->onProjectClosed = [&](HostIde& ide) {
-    told.push_back("closed " + std::to_string(ide.VBProjects().Count()));
-  };
-  window_->onProjectOpened = [&](HostIde& ide) {
-    told.push_back("opened " + ide.ActiveVBProject().Name());
+  events->ItemRemoved = [&told, &ide = vbe()](VBProject& project) {
+    told.push_back("removed " + project.Name() + " of " + ide.ActiveVBProject().Name());
   };
   show("Warehouse");
   show("frmDesk");
@@ -149,11 +142,42 @@ TEST_F(IdeSurfaceTest, EventsTellOfProjects) {
       window_->ide()->VBProjects().Item(2));
   open("Stock.vbp");
   EXPECT_EQ(told, (std::vector<std::string>{"active Stock", "active Desk", "active Stock",
-                                            "active Desk", "closed 2", "removed Stock",
-                                            "removed Desk", "opened Stock", "added Stock"}));
+                                            "active Desk", "removed Stock of Desk",
+                                            "removed Desk of Desk", "added Stock"}));
   EXPECT_EQ(dropped, nullptr);
   window_.reset();
   events.reset();  // a source may outlive the window
+}
+
+TEST_F(IdeSurfaceTest, StaysWhenThereIsNoProject) {
+  VBE& before = vbe();
+  trigger("closeProject");
+  EXPECT_EQ(&vbe(), &before);
+  EXPECT_EQ(vbe().VBProjects().Count(), 0);
+  EXPECT_THROW(vbe().ActiveVBProject(), IdeError);
+  EXPECT_EQ(vbe().ActiveCodePane(), nullptr);
+  open("Stock.vbp");
+  EXPECT_EQ(vbe().ActiveVBProject().Name(), "Stock");
+}
+
+TEST_F(IdeSurfaceTest, ColoursThatChangeAreToldToTheWindowProcedure) {
+  AddInHost& host = window_->addInHost();
+  const std::uintptr_t window = vbe().MainWindow().HWnd();
+  std::vector<std::uint32_t> messages;
+  const WindowProcedure own = host.setWindowProcedure(window, [&](std::uint32_t message) {
+    messages.push_back(message);
+    EXPECT_EQ(host.buttonFaceColour(), 0x102030U);
+  });
+  ASSERT_TRUE(own);
+  QPalette palette = window_->palette();
+  palette.setColor(QPalette::Button, QColor(0x10, 0x20, 0x30));
+  window_->setPalette(palette);
+  EXPECT_EQ(messages, std::vector<std::uint32_t>{0x15});
+  host.setWindowProcedure(window, own);
+  window_->setPalette({});
+  EXPECT_EQ(messages.size(), 1U);
+  EXPECT_THROW(host.setWindowProcedure(0, own), IdeError);
+  EXPECT_THROW(host.setWindowProcedure(window + 1, own), IdeError);
 }
 
 TEST_F(IdeSurfaceTest, ItemsOfTheProgramAreControlsToo) {

@@ -48,6 +48,7 @@ struct ScriptedPrompts final : Prompts {
 class WorkbenchTest : public testing::Test {
  protected:
   void SetUp() override {
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_ / "config"));
     std::filesystem::copy(TAMRIKON_EXAMPLES "/Inventory", folder_ / "Inventory",
                           std::filesystem::copy_options::recursive);
     start();

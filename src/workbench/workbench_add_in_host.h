@@ -1,0 +1,37 @@
+// What add-ins need of the workbench beside the surface of the IDE.
+#pragma once
+
+#include <QWidget>
+
+#include "ide/add_in_host.h"
+#include "workbench/renderer/qt_toolkit.h"
+#include "workbench/workbench_ide.h"
+
+namespace tamrikon {
+
+class WorkbenchAddInHost final : public AddInHost {
+ public:
+  /// Both must outlive this object.
+  WorkbenchAddInHost(QWidget& window, WorkbenchIde& ide)
+      : window_(window), ide_(ide), toolkit_(&window) {}
+
+  VBE& application() override { return ide_; }
+  QtToolkit& toolkit() override { return toolkit_; }
+  const CodePage& codePageOf(const VBProject& project) override;
+  void asOneEdit(CodeModule& module, const std::function<void()>& edit) override;
+  std::uint32_t buttonFaceColour() override;
+
+  /// The main window alone has a procedure. Its own one does nothing, as Qt sees to the messages.
+  WindowProcedure setWindowProcedure(std::uintptr_t window, WindowProcedure procedure) override;
+
+  /// Sends a message to the main window's procedure.
+  void send(WindowMessage message);
+
+ private:
+  QWidget& window_;
+  WorkbenchIde& ide_;
+  QtToolkit toolkit_;
+  WindowProcedure procedure_ = [](std::uint32_t) {};
+};
+
+}  // namespace tamrikon
