@@ -47,7 +47,7 @@ class Example {
     std::filesystem::copy(source, project_, copyAll);
     std::filesystem::copy(dataFolder() + "/Templates", folder_ / "Templates", copyAll);
     std::filesystem::create_directory(project_ / "Documentation");
-    // The default template may not be there; the example is shown with the one of web pages.
+    // The example is shown with the template of web pages.
     for (const char* name : {"Stock.tamrik", "Desk.tamrik"}) {
       std::ofstream(project_ / name, std::ios::app)
           << "\r\ntemplateFolder = " << (folder_ / "Templates").string()
