@@ -39,7 +39,7 @@ class Toolkit {
   /// Lets pending events run; that is how a request to cancel gets through while work goes on.
   virtual void checkpoint() = 0;
 
-  /// UTF-8.
+  /// UTF-8, with line ends as they are.
   virtual std::string clipboardText() = 0;
   virtual void setClipboardText(const std::string& text) = 0;
 

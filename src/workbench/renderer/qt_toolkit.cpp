@@ -139,11 +139,11 @@ void QtToolkit::checkpoint() {
 }
 
 std::string QtToolkit::clipboardText() {
-  return linesFromQt(QGuiApplication::clipboard()->text());
+  return fromQt(QGuiApplication::clipboard()->text());
 }
 
 void QtToolkit::setClipboardText(const std::string& text) {
-  QGuiApplication::clipboard()->setText(linesToQt(text));
+  QGuiApplication::clipboard()->setText(toQt(text));
 }
 
 bool QtToolkit::openDocument(const std::string& path) {

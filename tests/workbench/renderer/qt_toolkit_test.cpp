@@ -87,10 +87,5 @@ TEST_F(QtToolkitTest, FiltersAreThoseOfQt) {
   }
 }
 
-TEST_F(QtToolkitTest, ClipboardGivesBackLines) {
-  toolkit.setClipboardText("\xC3\xA4\r\nb");
-  EXPECT_EQ(toolkit.clipboardText(), "\xC3\xA4\r\nb");
-}
-
 }  // namespace
 }  // namespace tamrikon
