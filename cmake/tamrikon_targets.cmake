@@ -14,6 +14,24 @@ if(TAMRIKON_SANITIZE)
   target_link_options(tamrikon_flags INTERFACE ${sanitizers})
 endif()
 
+set(common_headers <algorithm> <cstdint> <functional> <memory> <optional> <string> <string_view>
+    <utility> <vector>)
+
+# tamrikon_precompile(TARGET KIND HEADER...): lets a target share the precompiled headers of the first
+# one of its kind.
+function(tamrikon_precompile target kind)
+  if(NOT TAMRIKON_PCH)
+    return()
+  endif()
+  get_property(first GLOBAL PROPERTY tamrikon_precompiled_${kind})
+  if(first)
+    target_precompile_headers(${target} REUSE_FROM ${first})
+  else()
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+    set_property(GLOBAL PROPERTY tamrikon_precompiled_${kind} ${target})
+  endif()
+endfunction()
+
 # tamrikon_library(NAME SOURCES ... USES ...): the library of one folder of src. USES names the
 # folders that it may include, so that the link list shows the arrows.
 function(tamrikon_library name)
@@ -24,6 +42,7 @@ function(tamrikon_library name)
   foreach(used IN LISTS ARG_USES)
     target_link_libraries(tamrikon_${name} PUBLIC tamrikon_${used})
   endforeach()
+  tamrikon_precompile(tamrikon_${name} base ${common_headers})
 endfunction()
 
 # tamrikon_test(FOLDER LABEL SOURCES ... USES ...): the test program of one folder of tests.
@@ -38,5 +57,11 @@ function(tamrikon_test folder label)
   foreach(used IN LISTS ARG_USES)
     target_link_libraries(${folder}_test PRIVATE tamrikon_${used})
   endforeach()
+  # Qt sets flags of its own.
+  set(kind tests)
+  if(label STREQUAL "gui")
+    set(kind gui)
+  endif()
+  tamrikon_precompile(${folder}_test ${kind} ${common_headers} <gtest/gtest.h>)
   gtest_discover_tests(${folder}_test PROPERTIES LABELS ${label})
 endfunction()
