@@ -43,7 +43,7 @@ screenshots:
 	cmake --build --preset release --target make_screenshots
 	build/release/bin/make_screenshots examples/Inventory docs/screenshots
 	build/release/bin/tamrikon compile examples/Inventory/Inventory.vbg --template html --output $(DOCS) --quiet
-	/usr/bin/python3 -B docs/screenshots/make_site_screenshots.py $(DOCS) docs/screenshots
+	TAMRIKON=build/release/bin/tamrikon /usr/bin/python3 -B docs/screenshots/make_site_screenshots.py $(DOCS) docs/screenshots
 
 # Debian packages in build/release/packages.
 package:

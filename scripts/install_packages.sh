@@ -11,7 +11,7 @@ for task in "$@"; do
     test)
       packages="$packages libgtest-dev python3 fp-utils libchm-bin cmark-gfm"
       packages="$packages chromium chromium-driver python3-selenium tidy"
-      packages="$packages dpkg-dev file desktop-file-utils groff"
+      packages="$packages dpkg-dev file desktop-file-utils groff python3-yaml"
       ;;
     package) packages="$packages dpkg-dev file" ;;
     bench) packages="$packages tar universal-ctags" ;;
