@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 DOCS := examples/Inventory/Documentation
 
-.PHONY: run run-workbench test sanitize bench screenshots package install format tidy clean
+.PHONY: run run-workbench help test sanitize bench screenshots package install format tidy clean
 
 # Builds the program and compiles the documentation of the example projects.
 run: release
@@ -18,6 +18,11 @@ run-workbench:
 	@scripts/install_packages.sh workbench
 	@$(MAKE) --no-print-directory release
 	build/release/bin/tamrikon-workbench examples/Inventory/Inventory.vbg
+
+# The help file that the workbench opens when it is run from here.
+help:
+	@scripts/install_packages.sh help
+	/usr/bin/python3 -B scripts/build_help.py data/tamrikon.chm
 
 test:
 	@scripts/install_packages.sh build workbench test
@@ -47,7 +52,7 @@ screenshots:
 
 # Debian packages in build/release/packages.
 package:
-	@scripts/install_packages.sh workbench package
+	@scripts/install_packages.sh workbench package help
 	@$(MAKE) --no-print-directory release
 	cpack --config build/release/CPackConfig.cmake -B build/release/packages
 

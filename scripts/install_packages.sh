@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that a task needs and that aren't there yet.
-# usage: install_packages.sh [build] [workbench] [test] [package] [bench]
+# usage: install_packages.sh [build] [workbench] [test] [package] [help] [bench]
 set -eu
 
 packages=
@@ -11,9 +11,11 @@ for task in "$@"; do
     test)
       packages="$packages libgtest-dev python3 fp-utils libchm-bin cmark-gfm"
       packages="$packages chromium chromium-driver python3-selenium tidy"
-      packages="$packages dpkg-dev file desktop-file-utils groff python3-yaml"
+      packages="$packages dpkg-dev file desktop-file-utils groff"
+      packages="$packages python3-yaml python3-markdown"
       ;;
     package) packages="$packages dpkg-dev file" ;;
+    help) packages="$packages python3 python3-markdown fp-utils" ;;
     bench) packages="$packages tar universal-ctags" ;;
     *) echo "install_packages.sh: there is no task '$task'" >&2; exit 2 ;;
   esac

@@ -33,12 +33,12 @@ SHOWN_FOLDER, SHOWN_DATA = "/home/ann/shop", "/usr/share/tamrikon"
 # Commands that change the machine or open a window: these only look whether they could work.
 STAND_INS = {
     "sudo": 'exec "$@"',
-    "make": f'exec /usr/bin/make -n -C {ROOT} "$@" > /dev/null',
+    "make": f"""exec /usr/bin/make -n -C '{ROOT}' "$@" > /dev/null""",
     "apt-get": f"""[ "$1" != update ] || exit 0
 for word in "$@"; do
   case $word in install|-*) continue ;; esac
   name=$(basename "$word") && name=${{name%%_*}}
-  grep -qwF -- "$name" {ROOT}/packaging/CMakeLists.txt {ROOT}/scripts/install_packages.sh
+  grep -qwF -- "$name" '{ROOT}/packaging/CMakeLists.txt' '{ROOT}/scripts/install_packages.sh'
 done""",
     "tamrikon-workbench": 'test -e "$1"',
     "xdg-open": 'test -e "$1"'}

@@ -26,6 +26,7 @@ PATH=$root/usr/bin:$PATH
 cd "$work"
 tamrikon compile project/Inventory.vbg --template html --output "$work/pages" --quiet
 [ -f pages/Warehouse-Book.html ] || fail "no page of Warehouse.Book"
+[ -s "$root/usr/share/tamrikon/tamrikon.chm" ] || fail "no help file"
 if [ -f "$root/usr/bin/tamrikon-workbench" ]; then
   QT_QPA_PLATFORM=offscreen tamrikon-workbench --version | grep -q '[0-9]' || fail "no workbench"
   # It finds the add-in beside itself, and the add-in registers itself.
