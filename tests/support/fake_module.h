@@ -1,6 +1,7 @@
 // A code module of lines alone: it has no members, procedures or component.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,25 +32,32 @@ struct FakeModule : CodeModule {
   std::string Name() const override { return "Module1"; }
   VBComponent& Parent() const override { throw IdeError("no component"); }
   tamrikon::Members& Members() const override { throw IdeError("no members"); }
-  tamrikon::CodePane& CodePane() const override { return pane; }
-  int CountOfLines() const override { return static_cast<int>(lines.size()); }
+  tamrikon::CodePane& CodePane() const override { return onCall(), pane; }
+  int CountOfLines() const override { return onCall(), static_cast<int>(lines.size()); }
   int CountOfDeclarationLines() const override { return CountOfLines(); }
   std::string Lines(int start, int count) const override {
-    if (start < 1 || start + count > CountOfLines() + 1) throw IdeError("no such line");
+    onCall();
+    const auto past = static_cast<std::size_t>(start + count);
+    if (start < 1 || past > lines.size() + 1) throw IdeError("no such line");
     return join({lines.begin() + (start - 1), lines.begin() + (start - 1 + count)}, "\r\n");
   }
   void InsertLines(int line, const std::string& text) override {
+    onCall();
     const std::string lf = replaceAll(replaceAll(text, "\r\n", "\n"), "\r", "\n");
     const auto pieces = split(lf, '\n');
     lines.insert(lines.begin() + (line - 1), pieces.begin(), pieces.end());
   }
-  void DeleteLines(int, int) override { throw IdeError("lines stay"); }
+  void DeleteLines(int start, int count) override {
+    onCall();
+    lines.erase(lines.begin() + (start - 1), lines.begin() + (start - 1 + count));
+  }
   std::string ProcOfLine(int, ProcKind&) const override { throw IdeError("no procedure"); }
   int ProcStartLine(const std::string&, ProcKind) const override { throw IdeError("none"); }
   int ProcCountLines(const std::string&, ProcKind) const override { throw IdeError("none"); }
   int ProcBodyLine(const std::string&, ProcKind) const override { throw IdeError("none"); }
 
   std::vector<std::string> lines;
+  std::function<void()> onCall = [] {};  // of what the comment editor calls
   mutable FakePane pane;
 };
 

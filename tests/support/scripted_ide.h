@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "host/edit_group.h"
-#include "host/host_ide.h"
 #include "host/project_event_sources.h"
 #include "ide/add_in_host.h"
 #include "platform/user_settings.h"
+#include "support/open_project.h"
 #include "toolkit/toolkit.h"
 
 namespace tamrikon::test {
@@ -124,10 +124,7 @@ class ScriptedIde final : public VBE, public AddInHost, public UserSettings {
   }
 
   void open(const std::string& path) {
-    std::string why;
-    project = HostIde::open(
-        nativeFileSystem(), path, nullptr, [](const std::string&) {}, why);
-    if (!project) throw IdeError(why);
+    project = openProject(path);
     heard_ = project->Events().VBProjectsEvents();
     heard_->ItemActivated = [this](VBProject& p) { events.projects.projectActivated(p); };
     heard_->ItemRemoved = [this](VBProject& p) { events.projects.projectRemoved(p); };

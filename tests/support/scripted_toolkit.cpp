@@ -226,17 +226,4 @@ std::optional<std::string> ScriptedToolkit::chooseFile(const FileChoice& choice)
   return file;
 }
 
-std::optional<std::string> ScriptedToolkit::chooseFileToOpen(const FileChoice& choice) {
-  return chooseFile(choice);
-}
-
-std::optional<std::string> ScriptedToolkit::chooseFileToSave(const FileChoice& choice) {
-  return chooseFile(choice);
-}
-
-bool ScriptedToolkit::openDocument(const std::string& path) {
-  opened.push_back(path);
-  return canOpen;
-}
-
 }  // namespace tamrikon::test

@@ -105,12 +105,16 @@ class ScriptedToolkit final : public Toolkit {
 
   void runModal(Dialog& dialog) override;
   MessageAnswer messageBox(const MessageBox& box) override;
-  std::optional<std::string> chooseFileToOpen(const FileChoice& choice) override;
-  std::optional<std::string> chooseFileToSave(const FileChoice& choice) override;
+  std::optional<std::string> chooseFileToOpen(const FileChoice& choice) override {
+    return chooseFile(choice);
+  }
+  std::optional<std::string> chooseFileToSave(const FileChoice& choice) override {
+    return chooseFile(choice);
+  }
   void checkpoint() override { onCheckpoint(); }
   std::string clipboardText() override { return clipboard; }
   void setClipboardText(const std::string& text) override { clipboard = text; }
-  bool openDocument(const std::string& path) override;
+  bool openDocument(const std::string& path) override { return opened.push_back(path), canOpen; }
   void beep() override { ++beeps; }
 
  private:
