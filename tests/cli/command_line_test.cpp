@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+#include <filesystem>
+#include <tuple>
+
 #include "support/program_run.h"
 #include "support/temp_folder.h"
 
@@ -26,10 +29,8 @@ class CommandLineTest : public testing::Test {
   }
 
   ProgramRun compile(const std::vector<std::string>& more, bool errIsTerminal = false) {
-    std::vector<std::string> arguments = {"compile", project_, "--output", folder_ / "deep/out"};
-    if (more.empty() || more.front() != "--template") {
-      arguments.insert(arguments.end(), {"--template", template_});
-    }
+    std::vector<std::string> arguments = {"compile",    project_, "--output", folder_ / "deep/out",
+                                          "--template", template_};
     arguments.insert(arguments.end(), more.begin(), more.end());
     return ProgramRun(arguments, errIsTerminal);
   }
@@ -59,40 +60,21 @@ TEST_F(CommandLineTest, ShowsAStatusLineOnATerminalAlone) {
 }
 
 TEST_F(CommandLineTest, TellsWrongUsageFromFailure) {
-  struct Case {
-    std::vector<std::string> arguments;
-    int status;
-    std::string names;  // what the message has to name
-  };
-  for (const Case& c : {
+  using Case = std::tuple<std::vector<std::string>, int, std::string>;
+  for (const auto& [arguments, status, names] : {
            Case{{}, 2, "COMMAND"},
-           Case{{"paint"}, 2, "paint"},
-           Case{{"compile"}, 2, "PROJECT"},
            Case{{"compile", project_, "--set", "colour=1"}, 2, "colour"},
-           Case{{"compile", project_, "--set", "addSee"}, 2, "addSee"},
            Case{{"compile", project_, "--set", "indentMode=1x"}, 2, "indentMode=1x"},
-           Case{{"compile", project_, "--codepage", "437"}, 2, "437"},
-           Case{{"compile", project_, "--frob"}, 2, "--frob"},
            Case{{"settings", project_, "addsee=1"}, 2, "addsee"},
            Case{{"compile", folder_ / "gone.vbp"}, 1, "gone.vbp"},
-           Case{{"settings", folder_.path()}, 1, folder_.path()},
        }) {
-    const ProgramRun run(c.arguments);
-    EXPECT_EQ(run.status, c.status) << c.names;
-    EXPECT_NE(run.err.find(c.names), std::string::npos) << run.err;
+    const ProgramRun run(arguments);
+    EXPECT_EQ(run.status, status) << names;
+    EXPECT_NE(run.err.find(names), std::string::npos) << run.err;
     EXPECT_EQ(run.out, "");
   }
   EXPECT_EQ(ProgramRun({"--version"}).out.rfind("tamrikon ", 0), 0U);
   EXPECT_EQ(ProgramRun({"compile", "--help"}).status, 0);
-}
-
-TEST_F(CommandLineTest, ReportsATemplateThatIsntThereAndStops) {
-  const ProgramRun run = compile({"--template", folder_ / "t/none"});
-  EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err, "Error reading " + (folder_ / "t/none.tmkt") +
-                         " file: Unrecognized file error.\n"
-                         "tamrikon: the compile of Shop was stopped\n");
-  EXPECT_FALSE(folder_.has("deep/out/Shop.p"));
 }
 
 TEST_F(CommandLineTest, FailsOnWarningsIfAskedTo) {
@@ -153,7 +135,45 @@ TEST_F(CommandLineTest, GoesOnWithAGroupBehindAProjectThatWasStopped) {
   EXPECT_EQ(run.out, "Project: Shop\nProject: Second\n");
   EXPECT_NE(run.err.find("Error saving /nowhere/at/all/Group+.p file: That path doesn't exist."),
             std::string::npos);
+  EXPECT_EQ(run.err.find("warning: cannot read " + folder_ / "gone.vbp\n"), 0U) << run.err;
   EXPECT_TRUE(folder_.has("Tamrik/Cart-Fill.txt"));
+}
+
+TEST_F(CommandLineTest, KeepsPagesInsideTheOutputFolder) {
+  folder_.put("Cart.cls", "Attribute VB_Name = \"../../up\"\nSub A()\nEnd Sub\n");
+  folder_.put("Shop.vbp", "Name=\"../../../etc/x\"\nClass=a; Cart.cls\n");
+  EXPECT_EQ(compile({}).status, 0);
+  EXPECT_TRUE(folder_.has("deep/out/______up-A.txt"));
+  for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
+    EXPECT_NE(entry.path().extension(), ".p") << entry.path();
+  }
+}
+
+TEST_F(CommandLineTest, LivesThroughAnyTemplate) {
+  std::string junk;
+  for (int n = 0; n < 4096; ++n) junk += static_cast<char>((n * 7919) >> 3);
+  for (const std::string& text : {std::string(), junk, std::string(2'000'000, '$'),
+                                  std::string("$tamrik-index-body$\n$DOLIST$ $INDEX-LINK-LIST$")}) {
+    folder_.put("t/own.tmkt", text);
+    EXPECT_LE(compile({"--no-exec"}).status, 1);
+  }
+  std::filesystem::remove(template_);
+  folder_.put("t/own.tmkt/x", "");
+  const ProgramRun run = compile({});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err.find("Error reading " + template_ + " file: "), 0U);
+}
+
+TEST_F(CommandLineTest, ReportsAFullDisk) {
+  folder_.put("deep/out/x", "");
+  folder_.put("t/own.tmkt",
+              "$PROJECT-EXT$ .p\n$tamrik-project-body$\nx\n$end-tamrik-project-body$");
+  std::filesystem::create_symlink("/dev/full", folder_ / "deep/out/Shop.p");
+  const ProgramRun run = compile({});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err.find("Error saving " + folder_ / "deep/out/Shop.p" +
+                         " file: Disk is full. Continue?"),
+            0U);
 }
 
 }  // namespace

