@@ -14,7 +14,7 @@
 #include "editor/interest_links.h"
 #include "editor/open_comment_editor.h"
 #include "editor/reference_select_dlg.h"
-#include "host/host_ide.h"
+#include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
 
@@ -24,9 +24,7 @@ class DemoProject : public testing::Test {
  protected:
   DemoProject() {
     std::filesystem::copy(TAMRIKON_EDITOR_DEMO, folder_.path());
-    std::string why;
-    ide_ = HostIde::open(
-        nativeFileSystem(), folder_ / "Demo.vbp", nullptr, [](const std::string&) {}, why);
+    ide_ = openProject(folder_ / "Demo.vbp");
     session_.settingsFile.setDefaultSettings(*ide_);
     session_.settings.outputPath = folder_ / "out";
   }

