@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "compiler/group_compile.h"
 #include "compiler/store.h"
-#include "host/host_ide.h"
+#include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
 
@@ -16,13 +15,8 @@ using test::User;
 class ProgressDlgTest : public testing::Test {
  protected:
   ProgressDlgTest() {
-    for (const char* name : {"One", "Two"}) {
-      const std::string module = std::string("C") + name;
-      folder_.put(module + ".cls", "'**\n'Fills.\nPublic Sub Fill()\nEnd Sub\n");
-      folder_.put(std::string(name) + ".vbp",
-                  "Name=\"" + std::string(name) + "\"\nClass=" + module + "; " + module + ".cls\n");
-    }
-    folder_.put("Bare.vbp", "Name=\"Bare\"\n");
+    folder_.put("COne.cls", "'**\n'Fills.\nPublic Sub Fill()\nEnd Sub\n");
+    folder_.put("One.vbp", "Name=\"One\"\nClass=COne; COne.cls\n");
     template_ = folder_.put("t.tmkt",
                             "$MEMBER-EXT$ .m\n$tamrik-help-file$\n$OUTPUT-PATH$/all.chm\n"
                             "$end-tamrik-help-file$\n");
@@ -30,42 +24,64 @@ class ProgressDlgTest : public testing::Test {
     session_.runsPrograms = false;
   }
 
-  void open(const std::string& text) {
-    std::string why;
-    ide_ = HostIde::open(
-        nativeFileSystem(), folder_.put("p.vbg", text), nullptr, [](const std::string&) {}, why);
-    ASSERT_TRUE(ide_) << why;
+  void open() {
+    ide_ = test::openProject(folder_ / "One.vbp");
     dialog_.VBInstance = ide_.get();
-    use(ide_->ActiveVBProject());
-  }
-
-  bool use(VBProject& project) {
-    ide_->activate(project);
     session_.settingsFile.setDefaultSettings(*ide_);
     session_.settings.templatePath = template_;
     session_.settings.outputPath = folder_ / "out";
-    return true;
-  }
-
-  void compileAll() {
-    compileGroup(session_, *ide_,
-                 {[&](VBProject& project) { return use(project); },
-                  [&](VBProject& project) { compiled_ += project.Name() + " "; }});
   }
 
   test::TempFolder folder_;
   test::ScriptedToolkit toolkit_;
-  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data"};
+  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data/$home"};
   ProgressDlg& dialog_ = session_.progressDlg;
   std::unique_ptr<HostIde> ide_;
   std::string template_;
-  std::string compiled_;
 };
 
-constexpr const char* kOne = "VBGROUP 5.0\nStartupProject=One.vbp\n";
+TEST_F(ProgressDlgTest, CompileStopsAtTheCheckpointBehindACancel) {
+  folder_.put("COne.cls",
+              "'**\n'Fills.\nPublic Sub Fill()\nEnd Sub\nPublic Sub Empty_()\nEnd Sub\n");
+  folder_.put("t.tmkt",
+              "$MEMBER-EXT$ .m\n$PROJECT-EXT$ .p\n$CONTENTS-EXT$ .c\n$INDEX-EXT$ .i\n$X$ x\n");
+  open();
+  // Events get through before each of two members, behind four steps of preparation and four pages,
+  // and before each of three topics.
+  for (const auto& [pump, files] : {std::pair{1, 0}, {6, 0}, {7, 1}, {11, 4}, {13, 6}, {14, 7}}) {
+    SCOPED_TRACE(pump);
+    int count = 0;
+    toolkit_.onCheckpoint = [&, last = pump] { session_.cancelRequested = ++count >= last; };
+    std::filesystem::remove_all(folder_ / "out");
+    std::filesystem::create_directory(folder_ / "out");
+    dialog_.startCompile();
+    const bool isStopped = pump < 14;
+    EXPECT_EQ(dialog_.outcome(), isStopped ? CompileOutcome::aborted : CompileOutcome::finished);
+    EXPECT_EQ(nativeFileSystem().list(folder_ / "out").size(), std::size_t(files));
+    EXPECT_EQ(session_.currentStore->evaluateMacro("X"), isStopped ? "$X$" : "x");
+  }
+}
+
+TEST_F(ProgressDlgTest, CompilePublishesPathsWithTheirDollarsAndOneSeparator) {
+  folder_.put("t.tmkt",
+              "$SPLIT$ 0\n$MEMBER-EXT$ .m\n$tamrik-project-body$\n$TAMRIK-PATH$ "
+              "$TEMPLATE-PATH$ $OUTPUT-PATH$ $CHARSET$ $TITLE-PAGE-TEXT$\n"
+              "$end-tamrik-project-body$\n$tamrik-title-body$\n$end-tamrik-title-body$");
+  open();
+  const std::string plain = folder_ / "a$MEMBER-EXT$b";
+  std::filesystem::create_directory(plain);
+  for (const std::string& output : {plain, plain + "/"}) {
+    session_.settings.outputPath = output;
+    dialog_.startCompile();
+    EXPECT_EQ(folder_.get("a$MEMBER-EXT$b/One.m")
+                  .find("/data/$home /data/$home/Templates " + plain + " windows-1252 "),
+              0U);
+    EXPECT_EQ(session_.settings.outputPath, plain + "/");
+  }
+}
 
 TEST_F(ProgressDlgTest, ShowingItCompilesAndLeavesItOpenWithItsLog) {
-  open(kOne);
+  open();
   std::size_t most = 0;
   toolkit_.onCheckpoint = [&] {
     EXPECT_EQ(dialog_.caption(), "Compiling, please wait...");
@@ -96,7 +112,7 @@ TEST_F(ProgressDlgTest, ShowingItCompilesAndLeavesItOpenWithItsLog) {
 }
 
 TEST_F(ProgressDlgTest, CancelStopsTheCompileAndLeavesNothingToShow) {
-  open(kOne);
+  open();
   toolkit_.canOpen = false;
   toolkit_.onCheckpoint = [&] {
     if (toolkit_.user().canReach(dialog_.CancelButton)) toolkit_.user().press(Key::escape);
@@ -109,58 +125,16 @@ TEST_F(ProgressDlgTest, CancelStopsTheCompileAndLeavesNothingToShow) {
   dialog_.showModal();
   EXPECT_EQ(dialog_.outcome(), CompileOutcome::aborted);
   ASSERT_EQ(toolkit_.boxes.size(), 1U);
-  EXPECT_EQ(toolkit_.boxes[0].title, "Error while showing documentation");
   EXPECT_EQ(toolkit_.boxes[0].text, "Cannot show the \"$tamrik-help-file$\" file");
-  EXPECT_EQ(toolkit_.boxes[0].icon, MessageIcon::exclamation);
-}
-
-TEST_F(ProgressDlgTest, GivingUpOnTheTemplateStopsBehindTheAnalysis) {
-  open(kOne);
-  session_.settings.templatePath = folder_ / "gone.tmkt";
-  toolkit_.onDialog("ProgressDlg", [&](User& user) {
-    EXPECT_EQ(dialog_.caption(), "Compilation aborted by user");
-    user.click(dialog_.OKButton);
-  });
-  dialog_.showModal();
-  EXPECT_TRUE(std::filesystem::is_empty(folder_ / "out"));
 }
 
 TEST_F(ProgressDlgTest, FailureThatNothingCatchesBeepsAndClosesIt) {
-  open(kOne);
+  open();
   toolkit_.onCheckpoint = [] { throw IdeError("the IDE is gone"); };
   dialog_.showModal();
   EXPECT_EQ(dialog_.outcome(), CompileOutcome::failed);
   EXPECT_EQ(toolkit_.beeps, 1);
   EXPECT_TRUE(toolkit_.boxes.empty());
-}
-
-TEST_F(ProgressDlgTest, LogOfAGroupRunsOnAndItsLastDialogStaysOpen) {
-  open("VBGROUP 5.0\nStartupProject=One.vbp\nProject=Two.vbp\n");
-  int pumps = 0;
-  toolkit_.onCheckpoint = [&] {
-    // Cancel stops the first project alone.
-    if (++pumps == 1) toolkit_.user().click(dialog_.CancelButton);
-  };
-  toolkit_.onDialog("ProgressDlg", [&](User& user) {
-    EXPECT_EQ(dialog_.Text1.text(), "Project: One\r\nProject: Two\r\n");
-    EXPECT_EQ(dialog_.outcome(), CompileOutcome::finished);
-    user.click(dialog_.OKButton);
-  });
-  compileAll();
-  EXPECT_EQ(compiled_, "One Two ");
-  EXPECT_EQ(session_.groupLogText, "");
-  session_.compileWholeGroup = false;
-  toolkit_.onDialog("ProgressDlg", [&](User& user) {
-    EXPECT_EQ(dialog_.Text1.text(), "Project: Two\r\n") << "a single compile starts with its own";
-    user.click(dialog_.OKButton);
-  });
-  dialog_.showModal();
-}
-
-TEST_F(ProgressDlgTest, ProjectWithoutComponentsIsNeitherCompiledNorCounted) {
-  open("VBGROUP 5.0\nStartupProject=One.vbp\nProject=Bare.vbp\nProject=Two.vbp\n");
-  compileAll();  // no dialog stays open: none was the last of three
-  EXPECT_EQ(compiled_, "One Two ");
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "compiler/file_error_dialog.h"
 #include "compiler/session.h"
 #include "compiler/store.h"
@@ -20,32 +22,22 @@ TEST(ProgressLog, LeavesOutAWarningThatRepeatsTheMessageBefore) {
   }
   EXPECT_EQ(session.progressDlg.Text1.text(),
             "Warning: a\r\nb\r\nb\r\nWarning: a\r\nWARNING: c\r\nWARNING: c\r\n");
-  const StatusBar& status = session.progressDlg.StatusBar1;
-  session.log.ShowProgress("Module1", "Foo");
-  EXPECT_EQ(status.panel(1), "Compiling: Module1.Foo");
-  session.log.ShowProgress("contents...", "");
-  EXPECT_EQ(status.panel(1), "Compiling: contents...");
 }
 
 TEST(FileErrorDialog, AsksAndStopsTheCompileOnAGiveUp) {
-  struct Case {
-    FileError error;
-    MessageAnswer answer;
-    FileErrorAnswer expected;
-    bool cancels;
-  };
-  for (const Case& c :
+  using Case = std::tuple<FileError, MessageAnswer, FileErrorAnswer, bool>;
+  for (const auto& [error, answer, expected, cancels] :
        {Case{FileError::permissionDenied, MessageAnswer::retry, FileErrorAnswer::repeat, false},
         Case{FileError::diskFull, MessageAnswer::yes, FileErrorAnswer::repeat, false},
         Case{FileError::diskFull, MessageAnswer::no, FileErrorAnswer::giveUp, true},
         Case{FileError::fileNotFound, MessageAnswer::ignore, FileErrorAnswer::goOn, false},
         Case{FileError::fileNotFound, MessageAnswer::cancel, FileErrorAnswer::giveUp, true}}) {
     ScriptedToolkit toolkit;
-    toolkit.answers = {c.answer};
+    toolkit.answers = {answer};
     bool cancelRequested = false;
     FileErrorDialog dialog(toolkit, cancelRequested);
-    EXPECT_EQ(dialog.reportFileError("C:\\a.txt", "saving", c.error), c.expected);
-    EXPECT_EQ(cancelRequested, c.cancels);
+    EXPECT_EQ(dialog.reportFileError("C:\\a.txt", "saving", error), expected);
+    EXPECT_EQ(cancelRequested, cancels);
     EXPECT_EQ(toolkit.boxes.front().title, "Error saving C:\\a.txt file");
     EXPECT_EQ(toolkit.boxes.front().icon, MessageIcon::exclamation);
   }
