@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <tuple>
 
 #include "platform/folder_listing.h"
 #include "support/temp_folder.h"
@@ -16,12 +17,8 @@ namespace {
 TEST(FileSystem, ReportsTheClassicErrors) {
   const test::TempFolder folder;
   folder.put("file", "x");
-  struct Case {
-    std::string path;
-    FileError reading;
-    FileError saving;
-  };
-  for (const Case& c : {
+  using Case = std::tuple<std::string, FileError, FileError>;
+  for (const auto& [path, reading, saving] : {
            Case{folder / "none", FileError::fileNotFound, FileError::none},
            Case{folder / "no/folder/none", FileError::pathNotFound, FileError::pathNotFound},
            Case{folder / "file/none", FileError::pathNotFound, FileError::pathNotFound},
@@ -30,20 +27,15 @@ TEST(FileSystem, ReportsTheClassicErrors) {
            Case{folder / std::string("file\0x", 6), FileError::badFileName, FileError::badFileName},
            Case{"", FileError::badFileName, FileError::badFileName},
        }) {
-    SCOPED_TRACE(c.path);
+    SCOPED_TRACE(path);
     std::string bytes = "old";
-    EXPECT_EQ(nativeFileSystem().read(c.path, bytes), c.reading);
+    EXPECT_EQ(nativeFileSystem().read(path, bytes), reading);
     EXPECT_EQ(bytes, "");
-    EXPECT_EQ(nativeFileSystem().write(c.path, "new"), c.saving);
-    if (c.saving == FileError::none) nativeFileSystem().remove(c.path);
-    EXPECT_EQ(nativeFileSystem().append(c.path, "new"), c.saving);
+    EXPECT_EQ(nativeFileSystem().write(path, "new"), saving);
+    if (saving == FileError::none) nativeFileSystem().remove(path);
+    EXPECT_EQ(nativeFileSystem().append(path, "new"), saving);
   }
   EXPECT_EQ(folder.get("file"), "x");
-}
-
-TEST(FileSystem, FullDeviceIsTold) {
-  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no such device here";
-  EXPECT_EQ(nativeFileSystem().write("/dev/full", "x"), FileError::diskFull);
 }
 
 TEST(FileSystem, FileThatHasTheBytesKeepsItsTime) {
@@ -62,14 +54,6 @@ TEST(FileSystem, FileThatHasTheBytesKeepsItsTime) {
     EXPECT_EQ(folder.get("page"), bytes);
     EXPECT_EQ(std::filesystem::last_write_time(path) == before, isKept) << bytes.size();
   }
-}
-
-TEST(FileSystem, AppendsBytesAsTheyAre) {
-  const test::TempFolder folder;
-  const std::string bytes("a\0\r\n", 4);
-  EXPECT_EQ(nativeFileSystem().append(folder / "f", bytes), FileError::none);
-  EXPECT_EQ(nativeFileSystem().append(folder / "f", "b"), FileError::none);
-  EXPECT_EQ(folder.get("f"), bytes + "b");
 }
 
 TEST(FileSystem, ReplacingKeepsPermissionsAndLinks) {
@@ -106,7 +90,6 @@ TEST(FileSystem, IsFileTakesOnlyWhatEnds) {
   EXPECT_TRUE(nativeFileSystem().isFile(folder / "file"));
   EXPECT_FALSE(nativeFileSystem().isFile(folder / ""));
   EXPECT_FALSE(nativeFileSystem().isFile(folder / "pipe"));
-  EXPECT_FALSE(nativeFileSystem().isFile(folder / std::string("file\0x", 6)));
 }
 
 TEST(FileSystem, FoldersAndFilesAreListedApart) {
