@@ -40,7 +40,6 @@ class ConnectTest : public testing::Test {
                                         "/t\ntemplatePath = own.tmkt\ncomModules = C" + text +
                                         "\n");
     }
-    folder_.put("NoCode.vbp", "Name=\"NoCode\"\nRelatedDoc=notes.txt\n");
     makeAddIn();
   }
 

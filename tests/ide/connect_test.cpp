@@ -8,14 +8,6 @@ namespace {
 class CommandTest : public ConnectTest {
  protected:
   CommandTest() { connectIn(ConnectMode::startup); }
-
-  /// The user closes the progress dialog, which shows `log`.
-  void onProgress(const std::string& log) {
-    toolkit_.onDialog("ProgressDlg", [this, log](User& user) {
-      EXPECT_EQ(addIn_->session.progressDlg.Text1.text(), log);
-      user.click(addIn_->session.progressDlg.OKButton);
-    });
-  }
 };
 
 TEST_F(CommandTest, NothingFollowsTheOptionsUnlessTheyAskForACompile) {
@@ -37,7 +29,8 @@ TEST_F(CommandTest, CompileFollowsWithTheSettingsOfTheDialog) {
     user.check(dialog.compilePage.Check1, false);
     user.click(dialog.Command1);
   });
-  onProgress("Project: One\r\n");
+  toolkit_.onDialog("ProgressDlg",
+                    [this](User& user) { user.click(addIn_->session.progressDlg.OKButton); });
   ide_->click("Add-Ins", "Tamrikon");
   EXPECT_TRUE(folder_.has("outOne/One.p"));
   EXPECT_FALSE(folder_.has("outOne/COne-Fill.m")) << "members without a comment are left out";
@@ -56,6 +49,7 @@ TEST_F(CommandTest, GroupCompileUsesEachProjectsSettingsAndLeavesTheWindowsAsThe
     onOptions([](User& user, frmAddIn& dialog) { user.click(dialog.Command14); });
     toolkit_.onDialog("ProgressDlg", [&](User& user) {
       EXPECT_EQ(ide_->project->Windows().Count(), 2) << "that of the second project is open";
+      EXPECT_EQ(addIn_->session.progressDlg.Text1.text(), "Project: One\r\nProject: Two\r\n");
       user.click(addIn_->session.progressDlg.OKButton);
     });
     ide_->click("Add-Ins", "Tamrikon");
@@ -67,21 +61,11 @@ TEST_F(CommandTest, GroupCompileUsesEachProjectsSettingsAndLeavesTheWindowsAsThe
   }
 }
 
-TEST_F(CommandTest, GroupProjectWithoutCodeIsCountedAndPassedOver) {
-  open("StartupProject=One.vbp\nProject=NoCode.vbp\nProject=Two.vbp\n");
-  onOptions([](User& user, frmAddIn& dialog) { user.click(dialog.Command14); });
-  onProgress("Project: One\r\nProject: Two\r\n");
-  ide_->click("Add-Ins", "Tamrikon");
-}
-
-TEST_F(CommandTest, WithoutAProjectOnlyHelpAndCancelWork) {
+TEST_F(CommandTest, WithoutAProjectNoItemFails) {
   openBoth();
   ide_->project.reset();
   EXPECT_EQ(addIn_->session.settings.comModules.size(), 0u) << "modules that are gone";
-  onOptions([](User& user, frmAddIn& dialog) {
-    EXPECT_FALSE(user.canReach(dialog.cmdOK) || user.canReach(dialog.Command1));
-    user.press(Key::escape);
-  });
+  closeOptions();
   ide_->click("Add-Ins", "Tamrikon");
   for (const char* item : {"Add Tamrikon Comment", "Copy Selection as Code"}) {
     ide_->click("Code Window", item);
@@ -97,10 +81,7 @@ TEST_F(CommandTest, ItemsOfTheCodeWindowWorkOnItsCode) {
   EXPECT_EQ(toolkit_.clipboard, "'$CODE$\r'Sub\r'$END-CODE$");
   ide_->click("Code Window", "Comment Editor");
   ASSERT_EQ(toolkit_.boxes.size(), 1u);
-  EXPECT_EQ(toolkit_.boxes[0].title, "Comment editor");
-  EXPECT_EQ(toolkit_.boxes[0].text,
-            "Cannot run comment editor when source code selection is made. Please cancel your text "
-            "selection.");
+  EXPECT_TRUE(toolkit_.boxes[0].text.starts_with("Cannot run comment editor when source code"));
 
   pane.SetSelection({1, 8, 1, 8});
   ide_->click("Code Window", "Add Tamrikon Comment");

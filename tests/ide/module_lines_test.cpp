@@ -15,9 +15,6 @@ TEST(ModuleLines, SplitsTheModuleIntoItsLines) {
   EXPECT_EQ(module.count(), 4);
   EXPECT_EQ(module.line(2), "a");
   for (const int line : {-1, 0, 1, 4, 5}) EXPECT_EQ(module.line(line), "") << line;
-
-  const FakeModule empty;
-  EXPECT_EQ(ModuleLines(empty).count(), 0);
 }
 
 TEST(ModuleLines, MapsLogicalLinesToStatementStarts) {
@@ -42,15 +39,6 @@ TEST(ModuleLines, JoinsADeclarationWithOneBlankAtEachSeam) {
   for (const int line : {1, 2, 3}) EXPECT_EQ(module.getDeclaration(line), "Sub S(a, b, \tc)");
   EXPECT_EQ(module.getDeclaration(5), "Dim under_");
   EXPECT_EQ(module.getDeclaration(6), "Dim last, ");  // nothing follows
-}
-
-TEST(ModuleLines, JoinsLinesWithCrOnceSomethingStands) {
-  const FakeModule source({"", "", " a", "", "b", ""});
-  const ModuleLines module(source);
-  EXPECT_EQ(module.getLinesText(1, 6), " a\r\rb\r");
-  EXPECT_EQ(module.getLinesText(3, 3), " a");
-  EXPECT_EQ(module.getLinesText(1, 2), "");
-  EXPECT_EQ(module.getLinesText(4, 3), "");
 }
 
 }  // namespace
