@@ -9,8 +9,8 @@
 #include <utility>
 
 #include "base/text.h"
-#include "host/host_ide.h"
 #include "settings/options/frm_add_in.h"
+#include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
 
@@ -31,10 +31,7 @@ class OptionsFixture : public testing::Test {
   }
 
   void open(const std::string& project) {
-    std::string why;
-    ide_ = HostIde::open(
-        nativeFileSystem(), folder_ / project, nullptr, [](const std::string&) {}, why);
-    ASSERT_TRUE(ide_) << why;
+    ide_ = openProject(folder_ / project);
     dialog_.VBInstance = ide_.get();
     session_.settingsFile.setDefaultSettings(*ide_);
   }
@@ -60,12 +57,8 @@ class OptionsFixture : public testing::Test {
 
   struct Owner final : OptionsOwner {
     explicit Owner(frmAddIn& shown) : dialog(shown) { dialog.connect = this; }
-    void Hide() override {
-      onHide();
-      dialog.close();
-    }
+    void Hide() override { dialog.close(); }
     frmAddIn& dialog;
-    std::function<void()> onHide = [] {};
   };
 
   TempFolder folder_;
