@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "support/scripted_toolkit.h"
 
 namespace tamrikon {
@@ -9,11 +11,9 @@ class Controls final : public Dialog {
  public:
   explicit Controls(Toolkit& toolkit) : Dialog(toolkit, "Controls", "") {}
 
-  Grid Grid1{*this, "Grid1", {"Name", "Value"}};
   TextBox Text1{*this, "Text1"};
   SpinControl UpDown1{*this, "UpDown1", Text1, 10, 500};
   OptionGroup group;
-  OptionButton Option1{*this, group, "Option1"};
   OptionButton Option2{*this, group, "Option2"};
   ListBox List1{*this, "List1"};
   ComboBox Combo1{*this, "Combo1"};
@@ -63,13 +63,6 @@ TEST_F(ControlsTest, HandlersHearTheUserAndNotTheProgram) {
   EXPECT_EQ(heard, "change typed option combo b ");
 }
 
-TEST_F(ControlsTest, OneOptionOfAGroupIsSelected) {
-  dialog.Option1.select();
-  dialog.Option2.select();
-  EXPECT_FALSE(dialog.Option1.isSelected());
-  EXPECT_TRUE(dialog.Option2.isSelected());
-}
-
 TEST_F(ControlsTest, SelectionFollowsTheItemsOfAList) {
   dialog.List1.setItems({"a", "b", "c"});
   dialog.List1.select(2);
@@ -84,46 +77,14 @@ TEST_F(ControlsTest, SelectionFollowsTheItemsOfAList) {
   EXPECT_EQ(dialog.Combo1.selected(), 1);
 }
 
-TEST_F(ControlsTest, FileListTakesThePatternWithoutRegardToCase) {
-  FileList files(dialog, "File1", "*.tmkt", [](const std::string& folder) {
-    return folder == "/t" ? std::vector<std::string>{"b.tmkt", "A.TMKT", "a.txt", "tmkt"}
-                          : std::vector<std::string>{};
-  });
-  files.setPath("/t");
-  EXPECT_EQ(files.items(), (std::vector<std::string>{"A.TMKT", "b.tmkt"}));
-  files.setPath("/gone");
-  EXPECT_EQ(files.count(), 0);
-}
-
-TEST_F(ControlsTest, GridTellsOfACellBeforeItIsLeft) {
-  std::string left;
-  dialog.Grid1.onLeaveCell = [&] {
-    left +=
-        std::to_string(dialog.Grid1.currentRow()) + std::to_string(dialog.Grid1.currentColumn());
-  };
-  dialog.Grid1.addRow({"a"});
-  dialog.Grid1.addRow({"b", "c"});
-  EXPECT_EQ(dialog.Grid1.cell(0, 1), "");
-  dialog.Grid1.userClicked(1, 1);
-  dialog.Grid1.userClicked(1, 1);
-  EXPECT_EQ(left, "00");
-  dialog.Grid1.removeRow(1);
-  EXPECT_EQ(dialog.Grid1.currentRow(), 0);
-  dialog.Grid1.removeRow(0);
-  EXPECT_EQ(dialog.Grid1.currentRow(), -1);
-}
-
 TEST_F(ControlsTest, SpinStepsWithinItsRangeFromWhateverTheBoxHolds) {
-  struct Case {
-    const char* text;
-    int steps;
-    const char* expected;
-  };
-  for (const Case& c : {Case{"80", 1, "81"}, Case{"500", 1, "500"}, Case{"10", -1, "10"},
-                        Case{"900", -1, "499"}, Case{"x", 1, "10"}, Case{"8x", 1, "10"}}) {
-    dialog.Text1.setText(c.text);
-    dialog.UpDown1.userStepped(c.steps);
-    EXPECT_EQ(dialog.Text1.text(), c.expected) << c.text;
+  using Case = std::tuple<const char*, int, const char*>;
+  for (const auto& [text, steps, expected] :
+       {Case{"80", 1, "81"}, Case{"500", 1, "500"}, Case{"10", -1, "10"}, Case{"900", -1, "499"},
+        Case{"x", 1, "10"}, Case{"8x", 1, "10"}}) {
+    dialog.Text1.setText(text);
+    dialog.UpDown1.userStepped(steps);
+    EXPECT_EQ(dialog.Text1.text(), expected) << text;
   }
 }
 
