@@ -64,6 +64,7 @@ TEST_F(CommandLineTest, TellsWrongUsageFromFailure) {
   for (const auto& [arguments, status, names] : {
            Case{{}, 2, "COMMAND"},
            Case{{"compile", project_, "--set", "colour=1"}, 2, "colour"},
+           Case{{"compile", project_, "--set", "addSee"}, 2, "addSee"},
            Case{{"compile", project_, "--set", "indentMode=1x"}, 2, "indentMode=1x"},
            Case{{"settings", project_, "addsee=1"}, 2, "addsee"},
            Case{{"compile", folder_ / "gone.vbp"}, 1, "gone.vbp"},

@@ -48,6 +48,8 @@ TEST(SourceFile, KeepsTheBytesOfWhatIsNotEdited) {
   using Case = std::tuple<const char*, int, const char*, const char*, const char*>;
   for (const auto& [name, number, bytes, added, expected] : {
            Case{"UTF-8", 1251, "\xC3\xA4\n", "ж", "\xD0\xB6\n\xC3\xA4\n"},
+           Case{"mark and bytes that aren't UTF-8", 1252, "\xEF\xBB\xBF\xFF\n", "ж",
+                "\xEF\xBB\xBF\xD0\xB6\n\xFF\n"},
            Case{"pairs that another pair equals", 932, "' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n",
                 "表", "\x95\x5C\n' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n"},
            Case{"no line end at all", 1252, "a", "b\nc", "b\r\nc\r\na"},
