@@ -1,14 +1,21 @@
-// Loading a comment into fields and composing it again: what must come back.
+// Loading a comment into fields and composing it again: what must come back, and where a user will
+// see something else.
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <random>
+#include <set>
 #include <utility>
 
 #include "base/text.h"
 #include "comments/comment_parser.h"
 #include "editor/compose_comment.h"
+#include "editor/edited_comment.h"
 #include "editor/lines.h"
+#include "host/host_ide.h"
+#include "model/wrappers.h"
+#include "settings/settings_file.h"
 
 namespace tamrikon {
 namespace {
@@ -140,6 +147,115 @@ TEST(RoundTrip, GeneratedCommentsComeBack) {
         ASSERT_EQ(valuesOf(first, settings), valuesOf(comment, settings)) << seed;
       }
     }
+  }
+}
+
+/// Where a comment doesn't come back as it was, though nobody changed it: what the first and the
+/// second Apply write. Lines are divided by "|".
+TEST(RoundTrip, ChangesThatTheFormatMakes) {
+  struct Case {
+    const char* name;
+    int wrap, eol;
+    const char *comment, *first, *second;
+  };
+  for (const Case& c : {
+           Case{"what no reader takes goes", 0, 0, "@see A|lost|@rem a|@rem lost|@same A|@same B",
+                "@rem          a|@see          A |@same         B", "="},
+           Case{"a fourth parameter has no settings", 0, 0, "@set a A|@set b A|@set c A|@set d A",
+                "@set          a A  |@set          b A  |@set          c A  ", "="},
+           Case{"a bracket in a link begins its label", 0, 0, "@see a[0] b",
+                "@see          a 0] [b", "="},
+           Case{"a tab behind a tag word ends an empty field", 0, 0, "@param\tkey text|@see\tA b",
+                "@param         key text|@see           A b",
+                "@param        key text|@see          A b"},
+           Case{"a parameter's text begins beside its name", 0, 0, "@param key||  text",
+                "@param        key |  text", "@param        key   text"},
+           Case{"joining makes blanks of empty lines", 0, 1,
+                "Text.||@rem|text|@author A||@version|",
+                "Text. |@rem           text|@author       A ",
+                "Text.|@rem          text|@author       A"},
+           Case{"a mark ends its line", 0, 1, "a$EOL$b", "a$EOL$|b", "="},
+           Case{"blanks at a break don't last", 6, 1, "abc  def", "abc |def", "abc|def"},
+           Case{"a tab at a break becomes a blank", 6, 1, "abc\tdefgh", "abc|defgh", "="},
+           Case{"a word that doesn't fit leaves its tag", 16, 0, "@rem abcdef",
+                "@rem         |abcdef", "@rem          |abcdef"},
+           Case{"a name that doesn't fit becomes text", 16, 0, "@param abcdef g",
+                "@param       |abcdef g", "@param        |abcdef g"},
+           Case{"settings come apart in a narrow comment", 18, 0, "@set k C 1 x",
+                "@set          k C|1 x", "@set          k C |1 x"},
+           Case{"a wrapped label loses its end", 24, 0, "@see A one two three",
+                "@see          A one two|three", "@see          A one two"},
+           Case{"what a wrapped tag is alone with is lost", 16, 0, "@includesource yes|@same M.N",
+                "@includesource|yes|@same        |M.N", ""},
+           Case{"a tag word that wrapping puts in front is a tag", 8, 0, "a b the @rem tag c",
+                "a b the|@rem tag|c", "a b the|@rem    |     tag|c"},
+       }) {
+    const ProjectSettings settings = layoutOf(c.wrap, c.eol);
+    const Lines first = applied(test::lines(c.comment), settings);
+    EXPECT_EQ(join(first, "|"), c.first) << c.name;
+    const bool isSame = std::string_view(c.second) == "=";
+    EXPECT_EQ(join(applied(first, settings), "|"), isSame ? c.first : c.second) << c.name;
+  }
+}
+
+/// Where the declarations of commented members are, the lowest of a module first.
+std::vector<int> commentedLines(CodeModule& module) {
+  ModuleSource source(module);
+  const ProjectSettings settings;
+  std::set<std::string> seen;
+  std::vector<int> lines;
+  for (int line = 1; line <= module.CountOfLines(); ++line) {
+    const WrapperRef wrapper = getWrapperAtLine(source, line);
+    if (!seen.insert(wrapper->link()).second) continue;
+    if (!EditedComment(module, line, settings).hadComment()) continue;
+    lines.push_back(wrapper->CodeLocation());
+  }
+  std::sort(lines.begin(), lines.end(), std::greater<>());
+  return lines;
+}
+
+std::string withoutComments(const std::string& sources) {
+  std::string code;
+  for (const std::string_view line : split(sources, '\n')) {
+    const std::string_view text = trim(line.substr(0, line.size() - line.ends_with('\r')));
+    if (!text.empty() && !text.starts_with('\'')) code.append(text).append("\n");
+  }
+  return code;
+}
+
+TEST(RoundTrip, TheExamplesAreWrittenBackTwice) {
+  for (const auto& [wrap, eol] : {std::pair(96, 0), {0, 0}, {0, 1}, {96, 1}}) {
+    std::string why;
+    const auto ide = HostIde::open(  // nothing is saved
+        nativeFileSystem(), TAMRIKON_EXAMPLES "/Inventory/Inventory.vbg", nullptr,
+        [](const std::string&) {}, why);
+    ASSERT_TRUE(ide) << why;
+    ProjectSettings settings = layoutOf(wrap, eol);
+    settings.userName[0] = "errors";
+    int comments = 0;
+    KeyedList<CodeModule*> modules;
+    for (int p = 1; p <= ide->VBProjects().Count(); ++p) {
+      ide->activate(ide->VBProjects().Item(p));
+      for (CodeModule* m : SettingsFile::codeModules(*ide)) modules.add(m, m->Name());
+    }
+    for (CodeModule* module : modules) {
+      SCOPED_TRACE(module->Name() + ' ' + std::to_string(wrap) + std::to_string(eol));
+      std::vector<std::string> sources{module->Lines(1, module->CountOfLines())};
+      for (int pass = 0; pass < 2; ++pass) {
+        for (const int line : commentedLines(*module)) {
+          EditedComment edited(*module, line, settings);
+          const Lines& old = edited.commentLines();
+          const Lines lines = composeComment(parseIntoFields(old, settings), settings);
+          EXPECT_EQ(wordsOf(lines, settings), wordsOf(old, settings)) << edited.member().link();
+          edited.replace(lines, {});
+          ++comments;
+        }
+        sources.push_back(module->Lines(1, module->CountOfLines()));
+      }
+      EXPECT_EQ(sources[1], sources[2]);
+      EXPECT_EQ(withoutComments(sources[0]), withoutComments(sources[1]));
+    }
+    EXPECT_EQ(comments, 2 * 98);
   }
 }
 
