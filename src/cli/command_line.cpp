@@ -47,7 +47,7 @@ void addCompile(CLI::App& app, CompileOptions& options) {
       ->type_name("FILE");
   command.add_flag("--quiet", options.quiet, "Print only the warnings and errors of the log");
   command.add_flag("--fail-on-warnings", options.failsOnWarnings,
-                   "Exit with status 3 if the log has a warning or an error");
+                   "Exit with status 3 if there was a warning or an error");
   command.add_flag("--open", options.opens, "Open the finished documentation");
 }
 

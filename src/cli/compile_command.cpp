@@ -11,7 +11,8 @@
 namespace tamrikon {
 namespace {
 
-void chooseTemplate(Session& session, const std::string& file) {
+/// Whether the template of --template is there.
+bool chooseTemplate(Session& session, const std::string& file, Terminal& terminal) {
   ProjectSettings& settings = session.settings;
   std::string path = hasExtension(file) ? file : file + ".tmkt";
   if (lastName(path) == path) {
@@ -21,6 +22,9 @@ void chooseTemplate(Session& session, const std::string& file) {
   }
   settings.templatePath = path;
   settings.templateFolder = folderOf(path);
+  if (session.files.files().isFile(path)) return true;
+  terminal.complain("tamrikon: there is no template " + path);
+  return false;
 }
 
 /// Whether the folder of --output is there.
@@ -34,12 +38,13 @@ bool chooseOutput(Session& session, const std::string& folder, Terminal& termina
 }
 
 /// Makes a project the active one, with its settings as the command line changes them. False if
-/// there is no place for its pages.
+/// there is no template or no place for its pages.
 bool prepare(Session& session, HostIde& ide, VBProject& project, const CompileOptions& options,
              Terminal& terminal) {
   activateProject(session, ide, project, terminal);
   applySettings(session, ide, options.settings);
-  if (!options.templateFile.empty()) chooseTemplate(session, options.templateFile);
+  const std::string& file = options.templateFile;
+  if (!file.empty() && !chooseTemplate(session, file, terminal)) return false;
   if (!options.outputFolder.empty()) return chooseOutput(session, options.outputFolder, terminal);
   session.settingsFile.createOutputFolder();
   return true;

@@ -15,11 +15,16 @@
 namespace tamrikon {
 namespace {
 
-bool isWarning(const std::string& text) {
-  return startsWithIgnoringCase(text, "warning: ") ||
-         startsWithIgnoringCase(text, "warning (config file): ") ||
-         startsWithIgnoringCase(text, "error: ") ||
-         startsWithIgnoringCase(text, "error (config file): ");
+/// Whether a line of the text is a warning or an error; what an external program prints comes as
+/// one text of many lines.
+bool hasWarning(const std::string& lines) {
+  const std::vector<std::string_view> all = split(lines, '\n');
+  return std::any_of(all.begin(), all.end(), [](std::string_view line) {
+    return startsWithIgnoringCase(line, "warning: ") ||
+           startsWithIgnoringCase(line, "warning (config file): ") ||
+           startsWithIgnoringCase(line, "error: ") ||
+           startsWithIgnoringCase(line, "error (config file): ");
+  });
 }
 
 std::string withLineFeeds(const std::string& text) {
@@ -135,9 +140,9 @@ void Terminal::beep() {
 }
 
 void Terminal::showMessage(const std::string& text) {
-  const bool warns = isWarning(text);
-  hadWarnings_ = hadWarnings_ || warns;
   const std::string lines = withLineFeeds(text);
+  const bool warns = hasWarning(lines);
+  hadWarnings_ = hadWarnings_ || warns;
   if (log_ != nullptr) *log_ << lines;
   if (quiet_ && !warns) return;
   clearStatus();
@@ -146,6 +151,7 @@ void Terminal::showMessage(const std::string& text) {
 
 void Terminal::complain(const std::string& text) {
   clearStatus();
+  hadWarnings_ = hadWarnings_ || hasWarning(text);
   streams_.err << text << '\n' << std::flush;
 }
 

@@ -25,6 +25,7 @@ class Terminal final : public Toolkit {
   /// Adds a stream, which must outlive this object, that gets all messages of the log.
   void setLog(std::ostream& log) { log_ = &log; }
 
+  /// Whether a warning or an error was told, in the log or beside it.
   bool hadWarnings() const { return hadWarnings_; }
 
   /// Activates the dialog and, when that is done, presses its default button if it is enabled:

@@ -88,6 +88,17 @@ TEST_F(CommandLineTest, FailsOnWarningsIfAskedTo) {
   EXPECT_EQ(run.status, 3);
   EXPECT_EQ(run.out,
             "Warning: The dead link 'Gone' was found in 'Fill' member of 'Cart' module.\n");
+
+  folder_.put("Cart.cls", "");
+  folder_.put("t/own.tmkt",
+              "$tamrik-exec-after$\necho fine; echo ERROR: x\n$end-tamrik-exec-after$\n");
+  EXPECT_EQ(compile({"--no-exec", "--fail-on-warnings"}).status, 0);
+  const ProgramRun failing = compile({"--quiet", "--fail-on-warnings"});
+  EXPECT_EQ(failing.status, 3) << "of a program, which goes on behind its first line";
+  EXPECT_NE(failing.out.find("\nERROR: x\n"), std::string::npos);
+
+  std::filesystem::remove(folder_ / "Cart.cls");
+  EXPECT_EQ(compile({"--no-exec", "--fail-on-warnings"}).status, 3) << "a file is missing";
 }
 
 TEST_F(CommandLineTest, ChangesSourcesWithSaveAlone) {
@@ -162,7 +173,7 @@ TEST_F(CommandLineTest, LivesThroughAnyTemplate) {
   folder_.put("t/own.tmkt/x", "");
   const ProgramRun run = compile({});
   EXPECT_EQ(run.status, 1);
-  EXPECT_EQ(run.err.find("Error reading " + template_ + " file: "), 0U);
+  EXPECT_EQ(run.err, "tamrikon: there is no template " + template_ + "\n");
 }
 
 TEST_F(CommandLineTest, ReportsAFullDisk) {
