@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 DOCS := examples/Inventory/Documentation
 
-.PHONY: run run-workbench help test sanitize bench screenshots package install format tidy clean
+.PHONY: run run-workbench help test sanitize fuzz bench screenshots package install format tidy clean
 
 # Builds the program and compiles the documentation of the example projects.
 run: release
@@ -36,6 +36,19 @@ sanitize:
 	cmake --preset asan
 	cmake --build --preset asan -j $(JOBS)
 	ctest --preset asan
+
+# Each fuzz target for so many seconds. What it finds is left in build/fuzz.
+SECONDS ?= 60
+FUZZERS = template comment declaration source project
+fuzz:
+	@scripts/install_packages.sh build test fuzz
+	cmake --preset fuzz
+	cmake --build --preset fuzz -j $(JOBS) --target $(FUZZERS:%=%_fuzz)
+	for name in $(FUZZERS); do \
+	  mkdir -p build/fuzz/corpus/$$name; \
+	  (cd build/fuzz && bin/$${name}_fuzz -max_total_time=$(SECONDS) -timeout=10 -rss_limit_mb=4096 \
+	    -dict=$(CURDIR)/tests/fuzz/words.dict corpus/$$name $(CURDIR)/tests/fuzz/corpus/$$name) || exit 1; \
+	done
 
 bench: release
 	@scripts/install_packages.sh bench

@@ -32,6 +32,10 @@ function(tamrikon_precompile target kind)
   endif()
 endfunction()
 
+if(TAMRIKON_FUZZ)
+  target_compile_options(tamrikon_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # tamrikon_library(NAME SOURCES ... USES ...): the library of one folder of src. USES names the
 # folders that it may include, so that the link list shows the arrows.
 function(tamrikon_library name)

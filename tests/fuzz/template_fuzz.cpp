@@ -1,0 +1,39 @@
+// A template, read and expanded.
+#include <memory>
+
+#include "fuzz/fuzz_target.h"
+#include "fuzz/memory_files.h"
+#include "template/macro_table.h"
+
+namespace {
+
+struct NoLog final : tamrikon::MessageLog {
+  void logMessage(const std::string&) override {}
+};
+
+struct GiveUp final : tamrikon::FileErrorReporter {
+  tamrikon::FileErrorAnswer reportFileError(const std::string&, std::string_view,
+                                            tamrikon::FileError) override {
+    return tamrikon::FileErrorAnswer::giveUp;
+  }
+};
+
+}  // namespace
+
+void fuzz(const std::string& data) {
+  using namespace tamrikon;
+  test::MemoryFiles disk;
+  disk.files["t.tmkt"] = data;
+  GiveUp reporter;
+  TextFiles files(disk, reporter);
+  NoLog log;
+  MacroTable table(log);
+  table.loadSrc("t.tmkt", true, files);
+  table.setMacroValue("MEMBER-NAME", "Add $MEMBER-TEXT$ <&>");
+  table.setMacroValue("MEMBER-TEXT", "a\rb $$ $");
+  table.setMacroValue("PARAM-LIST",
+                      std::make_shared<MacroList>(MacroList{"Kind\rWhat.\r", "Mode\r"}));
+  for (const char* name : {"tamrik-method-body", "tamrik-index-body", "tamrik-description", "A"}) {
+    table.reuse(table.evaluateMacro(name));
+  }
+}
