@@ -16,7 +16,7 @@ void install() {
   struct sigaction action = {};
   action.sa_handler = note;
   // No SA_RESTART: a question on the terminal is to end.
-  action.sa_flags = SA_RESETHAND;
+  action.sa_flags = static_cast<int>(SA_RESETHAND);
   ::sigaction(SIGINT, &action, nullptr);
 }
 
