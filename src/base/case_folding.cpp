@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
+#include <optional>
 
 #include "base/utf8.h"
 
@@ -111,6 +113,47 @@ std::size_t matchEnd(std::string_view text, std::size_t offset, std::string_view
   return offset;
 }
 
+constexpr std::uint64_t kEachByte = 0x0101010101010101U;
+constexpr std::uint64_t kTopBits = 0x80 * kEachByte;
+
+/// The up to eight bytes at `offset` as one number.
+std::uint64_t wordAt(std::string_view text, std::size_t offset) {
+  std::uint64_t word = 0;
+  std::memcpy(&word, text.data() + offset, std::min(text.size() - offset, sizeof word));
+  return word;
+}
+
+/// Eight ASCII characters, the capitals in lower case.
+std::uint64_t lowerWord(std::uint64_t word) {
+  const std::uint64_t fromA = word + (0x80 - 'A') * kEachByte;
+  const std::uint64_t behindZ = word + (0x7F - 'Z') * kEachByte;
+  return word | ((fromA & ~behindZ & kTopBits) >> 2);
+}
+
+std::uint64_t mixed(std::uint64_t hash, std::uint64_t word) {
+  hash = (hash ^ word) * 0x9E3779B97F4A7C15U;
+  return hash ^ (hash >> 32);
+}
+
+std::uint64_t hashOfLowered(std::string_view text) {
+  std::uint64_t hash = text.size();
+  for (std::size_t offset = 0; offset < text.size(); offset += sizeof hash) {
+    hash = mixed(hash, wordAt(text, offset));
+  }
+  return hash;
+}
+
+/// hashOfLowered() of the text in lower case; nothing if it isn't all ASCII.
+std::optional<std::uint64_t> hashOfAscii(std::string_view text) {
+  std::uint64_t hash = text.size();
+  for (std::size_t offset = 0; offset < text.size(); offset += sizeof hash) {
+    const std::uint64_t word = wordAt(text, offset);
+    if ((word & kTopBits) != 0) return std::nullopt;
+    hash = mixed(hash, lowerWord(word));
+  }
+  return hash;
+}
+
 }  // namespace
 
 char32_t lowerCase(char32_t codePoint) {
@@ -186,11 +229,15 @@ std::string replaceIgnoringCase(std::string_view text, std::string_view find,
 }
 
 std::size_t CaseInsensitiveHash::operator()(std::string_view key) const {
-  std::uint64_t hash = 0xCBF29CE484222325U;  // FNV-1a
-  for (std::size_t offset = 0; offset < key.size();) {
-    hash = (hash ^ readLowered(key, offset)) * 0x100000001B3U;
+  if (const std::optional<std::uint64_t> hash = hashOfAscii(key)) {
+    return static_cast<std::size_t>(*hash);
   }
-  return static_cast<std::size_t>(hash ^ (hash >> 32));
+  // A letter beyond ASCII can have one of ASCII as its lower case.
+  std::string folded;
+  for (std::size_t offset = 0; offset < key.size();) {
+    appendCodePoint(folded, readLowered(key, offset));
+  }
+  return static_cast<std::size_t>(hashOfLowered(folded));
 }
 
 }  // namespace tamrikon
