@@ -102,9 +102,11 @@ std::string CommentParser::getUser(std::size_t number) const {
 
 void CommentParser::loadUserTags() {
   for (std::size_t i = 0; i < ProjectSettings::kUserTags; ++i) {
+    const std::string& name = settings_.userName[i];
     std::string& word = words_[user1 + i];
+    if (word.size() == name.size() + 1 && word.ends_with(name)) continue;  // as in each comment
     word = '@';
-    word += settings_.userName[i];
+    word += name;
   }
 }
 
@@ -114,7 +116,9 @@ unsigned CommentParser::tagsOf(std::string_view line) const {
   line = trimTrailing(line);
   unsigned tags = 0;
   for (std::size_t tag = 0; tag < tagCount; ++tag) {
-    if (line.starts_with(words_[tag])) tags |= 1u << tag;
+    const std::string_view word = words_[tag];
+    const bool canStart = word.size() < 2 || (line.size() > 1 && line[1] == word[1]);
+    if (canStart && line.starts_with(word)) tags |= 1u << tag;
   }
   return tags;
 }
