@@ -136,7 +136,12 @@ class PosixFileSystem final : public FileSystem {
   FileError write(const std::string& path, std::string_view bytes) override {
     const std::string native = checkedPath(path);
     if (native.empty()) return FileError::badFileName;
-    Descriptor file(native, O_RDWR | O_CREAT);
+    // Most files are new, and then nothing needs to be asked or compared.
+    Descriptor file(native, O_WRONLY | O_CREAT | O_EXCL);
+    if (file.isOpen()) {
+      return writeAll(file.number(), bytes) && file.close() ? FileError::none : errorOf(errno);
+    }
+    file.open(native, O_RDWR | O_CREAT);
     if (!file.isOpen() && errno == EACCES) file.open(native, O_WRONLY | O_CREAT);
     if (!file.isOpen()) return errorOf(errno, native);
     struct stat status {};
