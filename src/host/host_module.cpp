@@ -96,15 +96,29 @@ std::string HostModule::ProcOfLine(int line, ProcKind& kind) const {
   return analysis().members()[procedure->member].name;
 }
 
-HostModule::Place HostModule::placeOf(const std::string& name, ProcKind kind) const {
+std::optional<HostModule::Place> HostModule::findPlace(const std::string& name,
+                                                       ProcKind kind) const {
   const ModuleAnalysis& found = analysis();
   const MemberRecord* member = found.find(name);
   const int index = member == nullptr ? MemberRecord::kNoProcedure
                                       : member->procedures[static_cast<std::size_t>(kind)];
-  if (index == MemberRecord::kNoProcedure) throw IdeError("there is no procedure " + name);
-  if (index == MemberRecord::kDeclare) return {1, member->declareLine, found.declarationLines()};
+  if (index == MemberRecord::kNoProcedure) return std::nullopt;
+  if (index == MemberRecord::kDeclare) {
+    return Place{1, member->declareLine, found.declarationLines()};
+  }
   const ProcedureRecord& procedure = found.procedures()[static_cast<std::size_t>(index)];
-  return {procedure.startLine, procedure.bodyLine, procedure.endLine - procedure.startLine + 1};
+  return Place{procedure.startLine, procedure.bodyLine,
+               procedure.endLine - procedure.startLine + 1};
+}
+
+HostModule::Place HostModule::placeOf(const std::string& name, ProcKind kind) const {
+  const std::optional<Place> place = findPlace(name, kind);
+  if (!place) throw IdeError("there is no procedure " + name);
+  return *place;
+}
+
+bool HostModule::HasProc(const std::string& name, ProcKind kind) const {
+  return findPlace(name, kind).has_value();
 }
 
 int HostModule::ProcStartLine(const std::string& name, ProcKind kind) const {

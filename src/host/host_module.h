@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "host/conditional_expression.h"
@@ -35,6 +36,7 @@ class HostModule final : public CodeModule {
 
   /// Lines behind the last one are left out; a start outside the module fails.
   std::string Lines(int start, int count) const override;
+  SharedLines ShareLines() const override { return source_.file().shareLines(); }
   void InsertLines(int line, const std::string& text) override;
 
   /// Fails, and deletes nothing, unless all of the lines are there.
@@ -44,6 +46,7 @@ class HostModule final : public CodeModule {
   int ProcStartLine(const std::string& name, ProcKind kind) const override;
   int ProcCountLines(const std::string& name, ProcKind kind) const override;
   int ProcBodyLine(const std::string& name, ProcKind kind) const override;
+  bool HasProc(const std::string& name, ProcKind kind) const override;
 
   // For people who edit. What they do goes to the source, and so do its undo steps: all modules
   // over it share them. InsertLines, DeleteLines and the writing of descriptions and help context
@@ -93,6 +96,7 @@ class HostModule final : public CodeModule {
     int count;
   };
   void readName() const;
+  std::optional<Place> findPlace(const std::string& name, ProcKind kind) const;
   Place placeOf(const std::string& name, ProcKind kind) const;
   SourceFile& file() const { return source_.file(); }
   void requireLines(int start, int count) const;

@@ -18,19 +18,20 @@ void SourceFile::read(std::string bytes) {
   format_.encoding = TextEncoding::codePage;
   raw_.clear();
   if (isAscii(bytes)) {
-    text_ = std::move(bytes);
+    text_ = std::make_shared<const std::string>(std::move(bytes));
   } else {
     DecodedText decoded = decodeText(bytes, format_.page);
     format_.encoding = decoded.encoding;
-    text_ = std::move(decoded.text);
+    text_ = std::make_shared<const std::string>(std::move(decoded.text));
     if (format_.encoding == TextEncoding::utf8WithMark) bytes.erase(0, 3);
-    if (bytes != text_) raw_ = std::move(bytes);
+    if (bytes != *text_) raw_ = std::move(bytes);
   }
-  format_.newLineEnd = firstLineEnd(text_);
-  const SourceHead head = readSourceHead(text_);
-  headBlock_ = std::string_view(text_).substr(0, head.attributesStart);
+  format_.newLineEnd = firstLineEnd(*text_);
+  const SourceHead head = readSourceHead(*text_);
+  headBlock_ = std::string_view(*text_).substr(0, head.attributesStart);
   blockClass_ = head.blockClass;
   lines_.clear();
+  isAsRead_ = true;
   tails_.clear();
   attributes_.clear();
   groups_.assign(1, {});
@@ -42,10 +43,10 @@ void SourceFile::readLines(std::size_t attributesStart, std::size_t codeStart) {
   headBlockEnd_ = LineEnd::none;
   for (LineReader reader(headBlock_); reader.next(); ++origin) headBlockEnd_ = reader.end();
   headBlock_.remove_suffix(textOf(headBlockEnd_).size());
-  const std::size_t guess = (text_.size() - codeStart) / 24;
+  const std::size_t guess = (text_->size() - codeStart) / 24;
   lines_.reserve(guess);
   tails_.reserve(guess);
-  LineReader reader(text_, attributesStart);
+  LineReader reader(*text_, attributesStart);
   for (std::size_t start = attributesStart; reader.next(); start = reader.offset()) {
     const bool isInHead = start < codeStart;
     if (!isInHead && !(isAttributeLine(reader.line()) && !lines_.empty())) {
@@ -56,7 +57,7 @@ void SourceFile::readLines(std::size_t attributesStart, std::size_t codeStart) {
     SourceAttribute attribute{reader.line(), origin++, reader.end()};
     while (isContinued(reader.line()) && reader.next()) {
       const std::size_t end = reader.offset() - textOf(reader.end()).size();
-      attribute.text = std::string_view(text_).substr(start, end - start);
+      attribute.text = std::string_view(*text_).substr(start, end - start);
       attribute.end = reader.end();
       ++origin;
     }
@@ -92,6 +93,21 @@ std::string SourceFile::text(int first, int count) const {
   return result;
 }
 
+SharedLines SourceFile::shareLines() const {
+  if (isAsRead_) return {text_, lines_};
+  const auto copy = std::make_shared<std::string>();
+  std::size_t size = 0;
+  for (const std::string_view line : lines_) size += line.size();
+  copy->reserve(size);  // the lines are views of it
+  SharedLines shared{copy, {}};
+  shared.lines.reserve(lines_.size());
+  for (const std::string_view line : lines_) {
+    shared.lines.emplace_back(copy->data() + copy->size(), line.size());
+    *copy += line;
+  }
+  return shared;
+}
+
 const std::vector<std::uint32_t>& SourceFile::attributesBehind(int line) const {
   static const std::vector<std::uint32_t> kNone;
   if (line == 0) return groups_[0];
@@ -106,7 +122,7 @@ bool SourceFile::runsOn(std::size_t index, bool ranOn) const {
 }
 
 std::optional<std::string> SourceFile::bytes(LackingCharacter& lacking) const {
-  SourceWriter writer(format_, raw_, text_.size() + text_.size() / 8);
+  SourceWriter writer(format_, raw_, text_->size() + text_->size() / 8);
   const auto addGroup = [&](std::uint32_t group) {
     return std::all_of(groups_[group].begin(), groups_[group].end(), [&](std::uint32_t number) {
       const SourceAttribute& attribute = attributes_[number];

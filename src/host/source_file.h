@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@
 #include "host/source_observers.h"
 #include "host/source_records.h"
 #include "host/source_writer.h"
+#include "ide/ide.h"
 #include "platform/code_page.h"
 
 namespace tamrikon {
@@ -34,6 +36,9 @@ class SourceFile {
 
   /// The visible lines. The views hold until the next edit.
   const std::vector<std::string_view>& lines() const { return lines_; }
+
+  /// The same for ever: their text is copied only if a line was edited since the file was read.
+  SharedLines shareLines() const;
 
   /// `count` lines from `first` on, CR LF between them.
   std::string text(int first, int count) const;
@@ -108,12 +113,13 @@ class SourceFile {
   bool runsOn(std::size_t index, bool ranOn) const;
 
   SourceFormat format_;
-  std::string text_;
+  std::shared_ptr<const std::string> text_;
   std::string raw_;  // the bytes that were read, where encoding text_ again might give others
   std::string_view headBlock_;  // what stands before the head's attributes
   LineEnd headBlockEnd_ = LineEnd::none;
   std::string_view blockClass_;
   std::vector<std::string_view> lines_;
+  bool isAsRead_ = true;         // all lines are views of text_
   std::vector<LineTail> tails_;  // beside lines_
   std::vector<SourceAttribute> attributes_;
   std::vector<std::vector<std::uint32_t>> groups_;  // of attributes; the first is that of the head

@@ -214,6 +214,7 @@ void SourceFile::tell(const SourceChange& change) {
 }
 
 void SourceFile::swap(LinesChange& change) {
+  isAsRead_ = false;
   const auto start = change.first - 1;
   const auto count = static_cast<std::ptrdiff_t>(change.count);
   const auto inserted = static_cast<std::ptrdiff_t>(change.other.size());

@@ -6,8 +6,11 @@
 // fails throws IdeError.
 #pragma once
 
+#include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "ide/command_bars.h"
 #include "ide/events.h"
@@ -78,6 +81,12 @@ class CodePane {
   virtual tamrikon::Window& Window() const = 0;
 };
 
+/// The lines of a module together with what keeps their text alive.
+struct SharedLines {
+  std::shared_ptr<const void> memory;
+  std::vector<std::string_view> lines;
+};
+
 class CodeModule {
  public:
   virtual ~CodeModule() = default;
@@ -94,6 +103,10 @@ class CodeModule {
   /// `count` lines from `start` on, CR LF between them and none behind the last.
   virtual std::string Lines(int start, int count) const = 0;
 
+  /// All lines as they stand now, whatever becomes of the module later. The text of a module that
+  /// nobody has edited isn't copied for it.
+  virtual SharedLines ShareLines() const = 0;
+
   /// Puts `text`, its lines divided by CR LF, CR or LF, before `line`, which may be one past the
   /// last.
   virtual void InsertLines(int line, const std::string& text) = 0;
@@ -107,6 +120,9 @@ class CodeModule {
   virtual int ProcStartLine(const std::string& name, ProcKind kind) const = 0;
   virtual int ProcCountLines(const std::string& name, ProcKind kind) const = 0;
   virtual int ProcBodyLine(const std::string& name, ProcKind kind) const = 0;
+
+  /// Whether these three would work. Most properties lack a kind, and failures are slow.
+  virtual bool HasProc(const std::string& name, ProcKind kind) const = 0;
 };
 
 enum class ComponentType {

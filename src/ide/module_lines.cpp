@@ -5,19 +5,9 @@
 
 namespace tamrikon {
 
-ModuleLines::ModuleLines(const CodeModule& module) {
-  const int count = module.CountOfLines();
-  if (count == 0) return;
-  text_ = module.Lines(1, count);
-  std::string_view rest = text_;
-  lines_.reserve(static_cast<std::size_t>(count));
-  while (this->count() < count) {
-    std::string_view line = cutField(rest, '\n');
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    lines_.push_back(line);
-  }
+ModuleLines::ModuleLines(const CodeModule& module) : shared_(module.ShareLines()) {
   bool continues = false;
-  for (int number = 1; number <= count; ++number) {
+  for (int number = 1; number <= count(); ++number) {
     if (!continues) statementStarts_.push_back(number);
     continues = isContinued(line(number));
   }
@@ -25,7 +15,7 @@ ModuleLines::ModuleLines(const CodeModule& module) {
 
 std::string_view ModuleLines::line(int number) const {
   if (number < 1 || number > count()) return {};
-  return lines_[static_cast<std::size_t>(number - 1)];
+  return shared_.lines[static_cast<std::size_t>(number - 1)];
 }
 
 int ModuleLines::toPhysicalLine(int logicalLine) const {

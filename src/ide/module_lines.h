@@ -17,7 +17,7 @@ class ModuleLines {
   ModuleLines(const ModuleLines&) = delete;
   ModuleLines& operator=(const ModuleLines&) = delete;
 
-  int count() const { return static_cast<int>(lines_.size()); }
+  int count() const { return static_cast<int>(shared_.lines.size()); }
   std::string_view line(int number) const;
 
   /// The first line of the statement that a logical line stands for: logical lines count a
@@ -35,9 +35,8 @@ class ModuleLines {
   std::string getLinesText(int firstLine, int lastLine) const;
 
  private:
-  std::string text_;
-  std::vector<std::string_view> lines_;  // views into text_
-  std::vector<int> statementStarts_;     // by logical line - 1
+  SharedLines shared_;
+  std::vector<int> statementStarts_;  // by logical line - 1
 };
 
 }  // namespace tamrikon

@@ -80,7 +80,7 @@ void ProjectAnalysis::addDocumented(const WrapperRef& wrapper) {
 
 void ProjectAnalysis::analyseProperty(ModuleSource& source, Member& member) {
   for (const ProcKind kind : {ProcKind::let, ProcKind::set, ProcKind::get}) {
-    // The IDE tells by failing that the property lacks this kind.
+    if (!source.module().HasProc(member.Name(), kind)) continue;
     tryStep([&] {
       const int line = source.module().ProcBodyLine(member.Name(), kind);
       addDocumented(getWrapperAtLine(source, line));

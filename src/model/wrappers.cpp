@@ -26,9 +26,10 @@ CommentLines skeletonOf(const Wrapper& wrapper, ArgumentStyle style,
 }
 
 /// The lines of a procedure from its declaration to its end: what stands above belongs to the
-/// comment.
+/// comment. Empty if there is no such procedure.
 std::string procedureLines(const Wrapper& wrapper) {
   const ProcKind kind = wrapper.traits().procKind;
+  if (!wrapper.cmo().HasProc(wrapper.name(), kind)) return {};
   const int count = wrapper.cmo().ProcCountLines(wrapper.name(), kind);
   const int start = wrapper.cmo().ProcStartLine(wrapper.name(), kind);
   const int location = wrapper.CodeLocation();
@@ -110,6 +111,7 @@ std::string PropertyWrapper::getSourceCode(const WrapperCollections& wrappers) c
                                    procedure(WrapperKind::propLet, wrappers.lets)}) {
       if (wrapper == nullptr) continue;
       const std::string lines = procedureLines(*wrapper);
+      if (lines.empty()) break;
       if (!text.empty()) text += "\r\r";
       text += lines;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -41,6 +42,11 @@ struct FakeModule : CodeModule {
     if (start < 1 || past > lines.size() + 1) throw IdeError("no such line");
     return join({lines.begin() + (start - 1), lines.begin() + (start - 1 + count)}, "\r\n");
   }
+  SharedLines ShareLines() const override {
+    onCall();
+    const auto copy = std::make_shared<std::vector<std::string>>(lines);
+    return {copy, {copy->begin(), copy->end()}};
+  }
   void InsertLines(int line, const std::string& text) override {
     onCall();
     const std::string lf = replaceAll(replaceAll(text, "\r\n", "\n"), "\r", "\n");
@@ -55,6 +61,7 @@ struct FakeModule : CodeModule {
   int ProcStartLine(const std::string&, ProcKind) const override { throw IdeError("none"); }
   int ProcCountLines(const std::string&, ProcKind) const override { throw IdeError("none"); }
   int ProcBodyLine(const std::string&, ProcKind) const override { throw IdeError("none"); }
+  bool HasProc(const std::string&, ProcKind) const override { return false; }
 
   std::vector<std::string> lines;
   std::function<void()> onCall = [] {};  // of what the comment editor calls
