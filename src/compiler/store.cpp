@@ -102,7 +102,7 @@ void store::publishGroup(VBE& ide) {
     const VBProjects& all = ide.VBProjects();
     // The form of a file in a link list: a template gets the name as $LIST-ITEM-FILE$.
     for (int number = 1; number <= all.Count(); ++number) {
-      projects->push_back("\"" + all.Item(number).Name() + "\r");
+      projects->texts.push_back("\"" + all.Item(number).Name() + "\r");
     }
   }
   macros.setMacroValue("GROUP-PROJECTS-LIST", projects);

@@ -14,12 +14,10 @@ namespace tamrikon {
 namespace {
 
 std::vector<WrapperRef> sortWrappersByLabel(const std::vector<WrapperRef>& wrappers) {
-  const LinkListRef items = LinkLists::makeLinkList(wrappers);
   std::vector<std::pair<std::string, WrapperRef>> keyed;
   keyed.reserve(wrappers.size());
-  for (std::size_t n = 0; n < wrappers.size(); ++n) {
-    const std::string& item = (*items)[n];
-    keyed.emplace_back(lowered(std::string_view(item).substr(item.find('\r') + 1)), wrappers[n]);
+  for (const WrapperRef& wrapper : wrappers) {
+    keyed.emplace_back(lowered(LinkLists::indexLabel(*wrapper)), wrapper);
   }
   std::stable_sort(keyed.begin(), keyed.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });

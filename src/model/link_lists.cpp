@@ -4,10 +4,10 @@ namespace tamrikon {
 namespace {
 
 LinkListRef linksOf(const std::vector<Wrapper*>& members) {
-  auto items = std::make_shared<MacroList>();
-  items->reserve(members.size());
-  for (const Wrapper* member : members) items->push_back(member->link() + '\r');
-  return items;
+  auto list = std::make_shared<MacroList>();
+  list->topics.reserve(members.size());
+  for (const Wrapper* member : members) list->topics.push_back({member});
+  return list;
 }
 
 }  // namespace
@@ -18,11 +18,11 @@ const WrapperIndex& LinkLists::index() {
 }
 
 LinkListRef LinkLists::getAppliesList(const Wrapper& wrapper) {
-  auto items = std::make_shared<MacroList>();
+  auto list = std::make_shared<MacroList>();
   for (const std::string_view module : index().modulesOf(wrapper)) {
-    items->emplace_back(module).push_back('\r');
+    list->texts.emplace_back(module).push_back('\r');
   }
-  return items;
+  return list;
 }
 
 LinkListRef LinkLists::getPropsList(const Wrapper& wrapper) {
@@ -37,22 +37,19 @@ LinkListRef LinkLists::getEventsList(const Wrapper& wrapper) {
   return linksOf(index().membersOf(wrapper.cmo()).events);
 }
 
-std::string LinkLists::linkListItem(const Wrapper& wrapper) {
-  constexpr std::size_t kExtras = 32;  // for the module and the word for the kind
-  std::string item;
-  item.reserve(wrapper.link().size() + wrapper.name().size() + kExtras);
-  item.append(wrapper.link()).append("\r").append(wrapper.name());
-  if (wrapper.needsModule) item.append(" (").append(wrapper.source().name()).append(")");
-  return item;
+std::string LinkLists::indexLabel(const Wrapper& wrapper) {
+  std::string label = wrapper.name();
+  if (wrapper.needsModule) label.append(" (").append(wrapper.source().name()).append(")");
+  return label.append(wrapper.traits().word);
 }
 
 LinkListRef LinkLists::makeLinkList(const std::vector<WrapperRef>& wrappers) {
-  auto items = std::make_shared<MacroList>();
-  items->reserve(wrappers.size());
+  auto list = std::make_shared<MacroList>();
+  list->topics.reserve(wrappers.size());
   for (const WrapperRef& wrapper : wrappers) {
-    items->push_back(linkListItem(*wrapper).append(wrapper->traits().word));
+    list->topics.push_back({wrapper.get(), true, wrapper->traits().word});
   }
-  return items;
+  return list;
 }
 
 }  // namespace tamrikon

@@ -31,8 +31,8 @@ class LinkLists {
   /// An item for each wrapper, with a word for its kind behind the label.
   static LinkListRef makeLinkList(const std::vector<WrapperRef>& wrappers);
 
-  /// A wrapper's link, CR, its name and, where the name isn't unique, its module.
-  static std::string linkListItem(const Wrapper& wrapper);
+  /// The label of its item: the wrapper's name, where that isn't unique its module, and the word.
+  static std::string indexLabel(const Wrapper& wrapper);
 
   /// Whether labels of `wrapper` must add the module's name.
   bool needsModuleName(const Wrapper& wrapper) { return index().needsModuleName(wrapper); }

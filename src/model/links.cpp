@@ -80,6 +80,12 @@ LinkTarget Links::topicOf(std::string_view link) {
   return targetOf(named->topic != nullptr ? named->topic : named);
 }
 
+NamedLink Links::linkOf(const void* wrapper) {
+  const auto& named = *static_cast<const Wrapper*>(wrapper);
+  return {named.link(), named.name(), named.source().name(), named.needsModule,
+          targetOf(named.topic != nullptr ? named.topic : &named)};
+}
+
 void Links::setModuleLists(const LinkTarget& target, MacroTable& macros) {
   const auto& wrapper = *static_cast<const Wrapper*>(target.wrapper);
   macros.setMacroValue("PROPS-LINK-LIST", lists_.getPropsList(wrapper));

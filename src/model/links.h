@@ -35,6 +35,7 @@ class Links final : public LinkResolver {
   // What the list macros ask; the context is compiledWrapper.
   LinkTarget parseLink(std::string_view link) override;
   LinkTarget topicOf(std::string_view link) override;
+  NamedLink linkOf(const void* wrapper) override;
   void setModuleLists(const LinkTarget& target, MacroTable& macros) override;
 
  private:

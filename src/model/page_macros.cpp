@@ -9,7 +9,7 @@ namespace tamrikon {
 LinkListRef macroList(CommentParser::Entries entries) {
   static const LinkListRef empty = std::make_shared<const MacroList>();
   if (entries.empty()) return empty;
-  return std::make_shared<const MacroList>(std::move(entries));
+  return std::make_shared<const MacroList>(MacroList{std::move(entries)});
 }
 
 void setNameMacros(PageContext& context, const Wrapper& wrapper) {

@@ -31,26 +31,29 @@ void Expansion::run() {
     Frame& frame = frames_.back();
     const MacroToken* token = nextToken(frame);
     const TextIndex literalEnd = token == nullptr ? frame.end : token->start;
-    appendLiteral(
-        std::string_view(frame.source->text).substr(frame.offset, literalEnd - frame.offset),
-        frame.translate);
+    appendLiteral({frame.source->text.data() + frame.offset, literalEnd - frame.offset},
+                  frame.translate);
     if (token == nullptr) {
       leave();
       continue;
     }
     frame.offset = token->end;
     ++frame.token;
-    answer(*token->name);
+    if (token->name->kind == MacroKind::plain) {
+      call(*token->name);
+    } else {
+      answer(*token->name);
+    }
   }
 }
 
 /// The next call of the part that `frame` works on, or null if there is none left.
-const MacroToken* Expansion::nextToken(const Frame& frame) {
+inline const MacroToken* Expansion::nextToken(const Frame& frame) {
   const MacroText& source = *frame.source;
   if (frame.token >= source.tokens.size()) return nullptr;
   const MacroToken& token = source.tokens[frame.token];
   if (token.start >= frame.end) return nullptr;
-  if (source.isWrong(token)) {
+  if (!source.wrongNames.empty() && source.isWrong(token)) {
     log(wrongNameWarning(source.written(token)));
     if (token.name->text.empty()) return nullptr;  // a lone "$" ends the search
   }
@@ -75,7 +78,7 @@ void Expansion::answer(const MacroName& name) {
   }
 }
 
-void Expansion::call(const MacroName& name) {
+inline void Expansion::call(const MacroName& name) {
   const MacroSlot& slot = *name.slot;
   const bool isText = slot.holds == MacroSlot::Holds::text;
   if (slot.holds == MacroSlot::Holds::nothing || depth_ >= ExpansionBudget::kMaxDepth ||
@@ -88,7 +91,7 @@ void Expansion::call(const MacroName& name) {
   }
 }
 
-void Expansion::begin(MacroText& text, bool translate) {
+inline void Expansion::begin(MacroText& text, bool translate) {
   if (!text.isScanned) scanMacros(text, state_.slots);
   if (text.tokens.empty()) {
     appendLiteral(text.text, translate);
@@ -100,7 +103,7 @@ void Expansion::begin(MacroText& text, bool translate) {
   frames_.push_back({&text, 0, end, 0, Frame::Role::macro, translate});
 }
 
-void Expansion::leave() {
+inline void Expansion::leave() {
   const Frame& frame = frames_.back();
   if (frame.role == Frame::Role::listBody) {
     nextListItem();
@@ -113,7 +116,7 @@ void Expansion::leave() {
   frames_.pop_back();
 }
 
-void Expansion::appendLiteral(std::string_view text, bool translate) {
+inline void Expansion::appendLiteral(std::string_view text, bool translate) {
   if (translate && state_.replaceOn) {
     state_.replaceTable.appendReplaced(text, result_, budget_);
   } else {

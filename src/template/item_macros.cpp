@@ -43,15 +43,8 @@ ListWalk::Form ListWalk::formOf(std::string_view name) {
   return Form::link;
 }
 
-bool ListWalk::sort(LinkResolver* resolver) {
-  std::optional<std::vector<LinkItem>> sorted = sortLinkItems(*list_, resolver);
-  if (!sorted) return false;
-  links_ = std::move(*sorted);
-  return true;
-}
-
 std::size_t ListWalk::nextLength() const {
-  if (!isSorted()) return (*list_)[done_].size();
+  if (!isSorted()) return list_->texts[done_].size();
   return links_[done_].reference.size() + links_[done_].label.size();
 }
 
@@ -61,8 +54,8 @@ bool ListWalk::setNextItem(MacroSlots& slots, const ItemMacros& macros, LinkReso
   const std::size_t item = done_++;
   slots.setText(macros.first, item == 0 ? "1" : "");
   slots.setText(macros.last, isAtEnd() ? "1" : "");
-  slots.setText(macros.number, std::to_string(done_));
-  if (!isSorted()) return setFields((*list_)[item], slots, macros);
+  slots.setNumber(macros.number, static_cast<int>(done_));
+  if (!isSorted()) return setFields(list_->texts[item], slots, macros);
   setLink(links_[item], slots, macros, resolver, table);
   return true;
 }
@@ -93,7 +86,7 @@ void ListWalk::setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros
   slots.setText(macros.item, target.member);
   slots.setText(macros.location, target.module);
   slots.setText(macros.label, item.label);
-  slots.setText(macros.helpId, std::to_string(target.helpId));
+  slots.setNumber(macros.helpId, target.helpId);
   if (form_ == Form::moduleLink && target.wrapper != nullptr) {
     resolver->setModuleLists(target, table);
   }

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <memory>
 #include <string_view>
-#include <vector>
 
 #include "template/link_items.h"
 #include "template/link_resolver.h"
@@ -37,7 +36,7 @@ class ListWalk {
   /// Whether the walk goes over a sorted copy, which sort() makes. sort() fails if an item lacks
   /// its CR.
   bool isSorted() const { return form_ != Form::set && form_ != Form::param; }
-  bool sort(LinkResolver* resolver);
+  bool sort(LinkResolver* resolver) { return links_.sort(*list_, resolver); }
 
   std::size_t size() const { return list_->size(); }
   bool isAtEnd() const { return done_ == size(); }
@@ -59,7 +58,7 @@ class ListWalk {
 
   Form form_;
   std::shared_ptr<const MacroList> list_;
-  std::vector<LinkItem> links_;
+  LinkItems links_;
   std::size_t done_ = 0;  // items that were set
 };
 

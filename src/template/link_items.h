@@ -1,8 +1,8 @@
 // The items of a link list, made ready for a walk.
 #pragma once
 
-#include <optional>
-#include <string>
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -14,7 +14,7 @@ namespace tamrikon {
 struct LinkItem {
   std::string_view reference;  // of the list's item: a link, or a double quote and a file's name
   LinkTarget target;           // the topic that serves it; of a file, its name
-  std::string label;
+  std::string_view label;
 };
 
 /// Whether `reference` names a file: then the rest behind its double quote is the name.
@@ -25,9 +25,37 @@ inline bool isFileReference(std::string_view reference) {
 /// Where links to a file are said to lead.
 inline constexpr std::string_view kExternalFile = "External file";
 
-/// The items of `list` with links resolved and empty labels made, by label and then help id as
-/// texts without regard to case; equal ones keep their order. Without a resolver links lead
-/// nowhere. Empty if an item lacks its CR. The items hold views of `list`.
-std::optional<std::vector<LinkItem>> sortLinkItems(const MacroList& list, LinkResolver* resolver);
+/// Holds views of the list that it was made of, and of what the resolver's targets name.
+class LinkItems {
+ public:
+  /// Takes the items of `list` with links resolved and empty labels made, by label and then help id
+  /// as texts without regard to case; equal ones keep their order. Without a resolver links lead
+  /// nowhere. False if an item lacks its CR.
+  bool sort(const MacroList& list, LinkResolver* resolver);
+
+  std::size_t size() const { return items_.size(); }
+  const LinkItem& operator[](std::size_t n) const { return items_[order_.empty() ? n : order_[n]]; }
+
+ private:
+  // A label, which is made if it has more than a name.
+  struct LabelParts {
+    std::string_view name;
+    std::string_view module;  // empty if it isn't told
+    std::string_view word;
+
+    bool isName() const { return module.empty() && word.empty(); }
+    std::size_t length() const;
+  };
+
+  bool addText(std::string_view text, LinkResolver* resolver);
+  void addTopic(const TopicItem& topic, LinkResolver* resolver);
+  void add(const LinkItem& item, const LabelParts& label);
+  void makeLabels();
+
+  std::vector<LinkItem> items_;
+  std::vector<std::uint32_t> order_;  // empty if the items stand in it
+  std::vector<LabelParts> parts_;     // beside items_
+  std::vector<char> labels_;          // those that were made, one behind the other
+};
 
 }  // namespace tamrikon

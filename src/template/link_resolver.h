@@ -17,6 +17,15 @@ struct LinkTarget {
   int helpId = 0;
 };
 
+/// A documented thing by itself, whichever topic serves it.
+struct NamedLink {
+  std::string_view link;
+  std::string_view name;
+  std::string_view module;
+  bool needsModule = false;  // as in LinkTarget
+  LinkTarget target;         // the topic
+};
+
 /// Links may be relative; they count from the member whose page is in work. A link that leads
 /// nowhere, or has wrong syntax, is warned of at each call.
 class LinkResolver {
@@ -28,6 +37,9 @@ class LinkResolver {
 
   /// The topic that serves what `link` names: that of another member, if they share one.
   virtual LinkTarget topicOf(std::string_view link) = 0;
+
+  /// The same for a wrapper that is known.
+  virtual NamedLink linkOf(const void* wrapper) = 0;
 
   /// Sets PROPS-LINK-LIST, METHODS-LINK-LIST and EVENTS-LINK-LIST to the lists of the module that
   /// `target` (with a wrapper) names.

@@ -91,6 +91,7 @@ bool Expansion::findEndMarker(const Construct& construct, const MacroName& tag) 
 void Expansion::reportSearch(const Construct& construct, bool isFound) {
   const Frame& frame = frames_.back();
   const MacroText& source = *frame.source;
+  if (source.wrongNames.empty()) return;
   auto wrong =
       std::lower_bound(source.wrongNames.begin(), source.wrongNames.end(), construct.bodyToken);
   for (; wrong != source.wrongNames.end(); ++wrong) {

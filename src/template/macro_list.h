@@ -1,12 +1,30 @@
 // The value of a list macro: what a DOLIST walks.
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tamrikon {
 
-/// Text items, their fields divided by CR.
-using MacroList = std::vector<std::string>;
+/// An item that names its topic itself. The template sees it as an item with a link and, unless
+/// the label is to be made, a label: the name of the wrapper, with its module where it must be
+/// told, and `word` behind it.
+struct TopicItem {
+  const void* wrapper;  // as in LinkTarget
+  bool hasLabel = false;
+  std::string_view word = {};  // lives as long as the program
+};
+
+/// Either texts or topics. Lists of a whole project are lists of topics: neither do their texts
+/// take memory, nor are their links looked up.
+struct MacroList {
+  std::vector<std::string> texts;  // the fields of an item divided by CR
+  std::vector<TopicItem> topics = {};
+
+  std::size_t size() const { return texts.size() + topics.size(); }
+  bool empty() const { return texts.empty() && topics.empty(); }
+};
 
 }  // namespace tamrikon

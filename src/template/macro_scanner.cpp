@@ -109,6 +109,7 @@ void scanMacros(MacroText& text, MacroSlots& slots) {
   text.isScanned = true;
   const std::string_view all = text.text;
   std::size_t offset = 0;
+  const MacroName* last = nullptr;
   while ((offset = all.find('$', offset)) != std::string_view::npos) {
     const std::string_view rest = all.substr(offset);
     if (rest.starts_with("$$")) {
@@ -116,7 +117,9 @@ void scanMacros(MacroText& text, MacroSlots& slots) {
       continue;
     }
     const ParsedName parsed = parseMacroName(rest);
-    const MacroName& name = slots.intern(parsed.name);
+    // The same name comes again and again: source code calls EOL for each line.
+    if (last == nullptr || last->text != parsed.name) last = &slots.intern(parsed.name);
+    const MacroName& name = *last;
     const auto token = static_cast<TextIndex>(text.tokens.size());
     if (!parsed.isClosed) text.wrongNames.push_back(token);
     if (name.kind == MacroKind::doList || name.kind == MacroKind::ifNotEmpty) {

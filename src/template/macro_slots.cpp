@@ -1,6 +1,8 @@
 #include "template/macro_slots.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <iterator>
 #include <utility>
 
@@ -106,6 +108,13 @@ bool isReadOnlyName(std::string_view name) {
 }
 
 const MacroName& MacroSlots::intern(std::string_view name) {
+  const std::uint64_t address = reinterpret_cast<std::uintptr_t>(name.data());
+  const MacroName*& recent = recent_[address * 0x9E3779B97F4A7C15U >> (64 - kRecentBits)];
+  if (recent == nullptr || recent->text != name) recent = &findOrAdd(name);
+  return *recent;
+}
+
+const MacroName& MacroSlots::findOrAdd(std::string_view name) {
   const auto found = names_.find(name);
   if (found != names_.end()) return *found->second;
   auto slot = slots_.find(name);
@@ -139,6 +148,12 @@ void MacroSlots::setText(MacroSlot& slot, std::string_view text) {
   slot.text->isScanned = false;
   slot.list.reset();
   slot.holds = MacroSlot::Holds::text;
+}
+
+void MacroSlots::setNumber(MacroSlot& slot, int number) {
+  std::array<char, 16> digits;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+  setText(slot, {digits.data(), static_cast<std::size_t>(end.ptr - digits.data())});
 }
 
 void MacroSlots::setList(MacroSlot& slot, std::shared_ptr<const MacroList> list) {

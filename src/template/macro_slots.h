@@ -2,6 +2,7 @@
 // that was scanned once finds the macros it calls without a search.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -59,6 +60,7 @@ class MacroSlots {
   const MacroSlot* findSlot(std::string_view name) const;
 
   void setText(MacroSlot& slot, std::string_view text);
+  void setNumber(MacroSlot& slot, int number);
   void setList(MacroSlot& slot, std::shared_ptr<const MacroList> list);
   void unsetAll();
 
@@ -71,7 +73,13 @@ class MacroSlots {
  private:
   void retire(MacroSlot& slot);
 
+  const MacroName& findOrAdd(std::string_view name);
+
   std::unordered_map<std::string_view, std::unique_ptr<MacroName>> names_;  // by spelling
+  // The last ones that were asked for, by where their names stand: most are literals of the
+  // program.
+  static constexpr int kRecentBits = 9;
+  std::array<const MacroName*, 1 << kRecentBits> recent_{};
   std::unordered_map<std::string, MacroSlot, CaseInsensitiveHash, CaseInsensitiveEqual> slots_;
   std::vector<std::unique_ptr<MacroText>> retired_;
   int runs_ = 0;

@@ -32,7 +32,7 @@ void fuzz(const std::string& data) {
   table.setMacroValue("MEMBER-NAME", "Add $MEMBER-TEXT$ <&>");
   table.setMacroValue("MEMBER-TEXT", "a\rb $$ $");
   table.setMacroValue("PARAM-LIST",
-                      std::make_shared<MacroList>(MacroList{"Kind\rWhat.\r", "Mode\r"}));
+                      std::make_shared<MacroList>(MacroList{{"Kind\rWhat.\r", "Mode\r"}}));
   for (const char* name : {"tamrik-method-body", "tamrik-index-body", "tamrik-description", "A"}) {
     table.reuse(table.evaluateMacro(name));
   }

@@ -34,10 +34,15 @@ struct FakeLinks : LinkResolver {
     const LinkTarget* target = find(std::string(link));
     return target == nullptr ? LinkTarget() : *target;
   }
+  NamedLink linkOf(const void* wrapper) override {
+    const auto& [link, target] = *static_cast<const decltype(targets)::value_type*>(wrapper);
+    const std::string_view name = target.member.empty() ? target.module : target.member;
+    return {link, name, target.module, target.needsModule, topicOf(link)};
+  }
   void setModuleLists(const LinkTarget& target, MacroTable& macros) override {
     macros.setMacroValue(
         "METHODS-LINK-LIST",
-        std::make_shared<MacroList>(MacroList{std::string(target.module) + ".Run\rRun"}));
+        std::make_shared<MacroList>(MacroList{{std::string(target.module) + ".Run\rRun"}}));
   }
 
   void add(const std::string& link, int helpId, bool needsModule = false) {
@@ -73,7 +78,7 @@ struct Macros {
   }
   void setList(std::string_view name, std::vector<std::string> items) {
     for (std::string& item : items) item = lines(item);
-    table.setMacroValue(name, std::make_shared<MacroList>(std::move(items)));
+    table.setMacroValue(name, std::make_shared<MacroList>(MacroList{std::move(items)}));
   }
   /// The expansion of `text`, as the text of a template section, with "|" for CR.
   std::string expand(const std::string& text) {
