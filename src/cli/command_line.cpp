@@ -49,6 +49,8 @@ void addCompile(CLI::App& app, CompileOptions& options) {
   command.add_flag("--fail-on-warnings", options.failsOnWarnings,
                    "Exit with status 3 if there was a warning or an error");
   command.add_flag("--open", options.opens, "Open the finished documentation");
+  command.add_flag("--timings", options.printsTimes,
+                   "Print on the error output what the phases of the compile took");
 }
 
 void addComment(CLI::App& app, CommentOptions& options) {

@@ -1,4 +1,5 @@
 #include <fstream>
+#include <iomanip>
 
 #include "base/paths.h"
 #include "cli/commands.h"
@@ -92,6 +93,30 @@ bool saveAll(HostIde& ide, Terminal& terminal) {
   return failures.empty();
 }
 
+/// In seconds of the clock on the wall.
+void printTimes(const CompileTimes& times, std::ostream& out) {
+  struct Named {
+    CompilePhase phase;
+    const char* name;
+  };
+  constexpr Named kNamed[] = {
+      {CompilePhase::reading, "reading"},     {CompilePhase::analysis, "analysis"},
+      {CompilePhase::expansion, "expansion"}, {CompilePhase::writing, "writing"},
+      {CompilePhase::programs, "programs"},   {CompilePhase::other, "other"},
+  };
+  double total = 0;
+  const auto print = [&](const char* name, double seconds) {
+    out << std::left << std::setw(10) << name << std::right << std::setw(10) << seconds << " s\n";
+  };
+  out << std::fixed << std::setprecision(3);
+  for (const Named& named : kNamed) {
+    const double seconds = times.of(named.phase).count();
+    print(named.name, seconds);
+    total += seconds;
+  }
+  print("all", total);
+}
+
 }  // namespace
 
 int compileCommand(const CompileOptions& options, const Streams& streams) {
@@ -105,10 +130,14 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
     }
     terminal.setLog(log);
   }
+  CompileTimes times;
+  times.enter(CompilePhase::reading);
   const std::unique_ptr<HostIde> ide = openProject(options, terminal);
+  times.enter(CompilePhase::other);
   if (!ide) return kFailed;
   Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
   session.runsPrograms = options.runsPrograms;
+  if (options.printsTimes) session.times = &times;
   bool worked = compileAll(session, *ide, options, terminal);
   if (options.saves) worked = saveAll(*ide, terminal) && worked;
   if (log.is_open() && !log.flush()) {
@@ -116,6 +145,10 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
     worked = false;
   }
   if (options.opens && worked) worked = session.progressDlg.showDocumentation();
+  if (options.printsTimes) {
+    times.enter(CompilePhase::other);
+    printTimes(times, streams.err);
+  }
   if (!worked) return kFailed;
   return options.failsOnWarnings && terminal.hadWarnings() ? kHadWarnings : kDone;
 }

@@ -22,6 +22,7 @@ struct CompileOptions : ProjectOptions {
   bool quiet = false;
   bool failsOnWarnings = false;
   bool opens = false;
+  bool printsTimes = false;
 };
 
 struct SettingsOptions : ProjectOptions {

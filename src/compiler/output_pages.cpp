@@ -12,6 +12,7 @@ OutputPages::OutputPages(Session& session, store& store, VBE& ide)
 // A failure has been reported by the writer; an answer that gives up shows at the next checkpoint.
 void OutputPages::put(Write write, std::string_view name, std::string_view extension,
                       std::string text) {
+  const PhaseScope phase(session_.times, CompilePhase::writing);
   std::string path = session_.settings.outputPath;
   path.append(name).append(extension);
   if (write == Write::append) {
@@ -88,7 +89,10 @@ void OutputPages::closingSteps() {
   show("external programs...");
   // Expanded in any case: what the section does to counters and the log mustn't depend on a switch.
   const std::string commands = store_.evaluateMacro("tamrik-exec-after");
-  if (session_.runsPrograms) ExternalPrograms(session_).runExternalPrograms(commands);
+  if (session_.runsPrograms) {
+    const PhaseScope phase(session_.times, CompilePhase::programs);
+    ExternalPrograms(session_).runExternalPrograms(commands);
+  }
   if (session_.settings.comContextID) {
     ide_.ActiveVBProject().setHelpFile(store_.evaluateMacro("tamrik-help-file"));
   }

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "compiler/compile_times.h"
 #include "compiler/file_error_dialog.h"
 #include "compiler/progress_dlg.h"
 #include "compiler/progress_log.h"
@@ -38,6 +39,7 @@ class Session {
   bool lastGroupProject = false;   // the project in work is the last of its group
   std::string groupLogText;        // the log of the group so far
   bool runsPrograms = true;        // whether a template's external programs run
+  CompileTimes* times = nullptr;   // told of the phases of compiles, unless null
 
   ProgressDlg progressDlg;
   ProgressLog log;

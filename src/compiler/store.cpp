@@ -49,21 +49,29 @@ void store::compile(VBE& VBInstance) {
   session_.log.ShowProgress("Analysing the project...", "");
   macros.resetRunState();
   comments.nextHelpId = 100;
-  if (!analyse()) return;
-  for (const WrapperRef& wrapper : wrappers.all) {
-    wrapper->needsModule = lists.needsModuleName(*wrapper);
-  }
-  compiledList = makeIndex(wrappers);
-  macros.setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(compiledList));
-  makeContents(compiledList, macros);
+  if (!analyseAndList()) return;
   publishPaths();
   publishGroup(VBInstance);
+  const PhaseScope phase(session_.times, CompilePhase::expansion);
   OutputPages pages(session_, *this, VBInstance);
   if (macros.evaluateMacro("SPLIT") == "0") {
     pages.compileSingleFile();
   } else {
     pages.compileFiles();
   }
+}
+
+/// Finds out all that pages tell of each other.
+bool store::analyseAndList() {
+  const PhaseScope phase(session_.times, CompilePhase::analysis);
+  if (!analyse()) return false;
+  for (const WrapperRef& wrapper : wrappers.all) {
+    wrapper->needsModule = lists.needsModuleName(*wrapper);
+  }
+  compiledList = makeIndex(wrappers);
+  macros.setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(compiledList));
+  makeContents(compiledList, macros);
+  return true;
 }
 
 bool store::analyse() {

@@ -52,6 +52,7 @@ class store {
 
  private:
   void clearCollections();
+  bool analyseAndList();
   bool analyse();
   void publishPaths();
   void publishGroup(VBE& ide);
