@@ -41,12 +41,12 @@ std::optional<LineRange> getModuleCommentRange(const ModuleLines& module) {
   return LineRange{first, last};
 }
 
-CommentLines commentBody(const ModuleLines& module, const LineRange& range) {
-  CommentLines body;
-  body.reserve(static_cast<std::size_t>(std::max(0, range.last - range.first)));
-  for (int line = range.first + 1; line <= range.last; ++line) {
-    body.emplace_back(module.line(line));
-  }
+Comment commentBody(const ModuleLines& module, const LineRange& range) {
+  Comment body;
+  std::size_t bytes = 0;
+  for (int line = range.first + 1; line <= range.last; ++line) bytes += module.line(line).size();
+  body.reserve(static_cast<std::size_t>(std::max(0, range.last - range.first)), bytes);
+  for (int line = range.first + 1; line <= range.last; ++line) body.push_back(module.line(line));
   return body;
 }
 

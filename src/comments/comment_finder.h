@@ -38,6 +38,6 @@ std::optional<LineRange> getCommentRange(const ModuleLines& module, int codeLoca
 std::optional<LineRange> getModuleCommentRange(const ModuleLines& module);
 
 /// The raw lines below the marker.
-CommentLines commentBody(const ModuleLines& module, const LineRange& range);
+Comment commentBody(const ModuleLines& module, const LineRange& range);
 
 }  // namespace tamrikon

@@ -1,17 +1,25 @@
 #include "comments/comment_lines.h"
 
-#include <algorithm>
-#include <utility>
+#include "base/text.h"
 
 namespace tamrikon {
 
-CommentList stripCommentQuotes(CommentLines rawLines) {
-  for (std::string& line : rawLines) {  // in place, as whole projects pass through here
-    line.erase(line.find_last_not_of(' ') + 1);
-    const std::size_t first = std::min(line.find_first_not_of(' '), line.size());
-    line.erase(0, first + (line.compare(first, 1, "'") == 0 ? 1 : 0));
+CommentLines Comment::lines() const {
+  CommentLines lines;
+  lines.reserve(size());
+  for (std::size_t n = 0; n < size(); ++n) lines.emplace_back((*this)[n]);
+  return lines;
+}
+
+CommentList stripCommentQuotes(const Comment& rawLines) {
+  auto body = std::make_shared<Comment>();
+  body->reserve(rawLines.size(), rawLines.text().size());
+  for (std::size_t n = 0; n < rawLines.size(); ++n) {
+    std::string_view line = trim(rawLines[n]);
+    if (line.starts_with('\'')) line.remove_prefix(1);
+    body->push_back(line);
   }
-  return std::make_shared<CommentLines>(std::move(rawLines));
+  return body;
 }
 
 }  // namespace tamrikon

@@ -1,6 +1,5 @@
 #include "compiler/same_comments.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace tamrikon {
@@ -15,8 +14,7 @@ void SameComments::resolveSameComments() {
 
 Wrapper* SameComments::targetOf(const Wrapper& wrapper, bool& points) {
   // Hardly any comment holds the tag, and those that don't needn't be taken apart.
-  points = std::any_of(wrapper.comment->begin(), wrapper.comment->end(),
-                       [](const auto& line) { return line.find("@same") != std::string::npos; });
+  points = wrapper.comment->text().find("@same") != std::string_view::npos;
   if (!points) return nullptr;
   parser_.setComment(wrapper.comment);
   const std::string same = parser_.getSame();

@@ -10,10 +10,10 @@ namespace {
 /// A parser that ignores no indents. It reads nothing else of the settings but the user tags.
 class IndentKeepingParser {
  public:
-  IndentKeepingParser(const CommentLines& lines, const ProjectSettings& settings) {
+  IndentKeepingParser(const Comment& lines, const ProjectSettings& settings) {
     reading_.userName = settings.userName;
     reading_.indentMode = 0;
-    parser_.setComment(std::make_shared<CommentLines>(lines));
+    parser_.setComment(std::make_shared<Comment>(lines));
   }
   IndentKeepingParser(const IndentKeepingParser&) = delete;
   IndentKeepingParser& operator=(const IndentKeepingParser&) = delete;
@@ -27,8 +27,8 @@ class IndentKeepingParser {
 
 }  // namespace
 
-CommentFields parseIntoFields(const CommentLines& commentLines, const ProjectSettings& settings) {
-  const IndentKeepingParser parser(commentLines, settings);
+CommentFields parseIntoFields(const Comment& comment, const ProjectSettings& settings) {
+  const IndentKeepingParser parser(comment, settings);
   const auto text = [&](const std::string& value) { return convertFieldText(value, settings); };
   CommentFields fields;
   std::string description = parser->getDescription();

@@ -32,7 +32,7 @@ struct CommentFields {
 };
 
 /// Takes body lines apart. Blanks in front of a line stay, whatever the settings say of indents.
-CommentFields parseIntoFields(const CommentLines& commentLines, const ProjectSettings& settings);
+CommentFields parseIntoFields(const Comment& comment, const ProjectSettings& settings);
 
 /// What an update takes over from a generated comment.
 struct GeneratedFields {

@@ -42,7 +42,7 @@ EditedComment::EditedComment(CodeModule& module, int line, const ProjectSettings
     raw = WrapperComments(withoutContextId).getComment(*member_);
   }
   hadComment_ = member_->hadComment;
-  commentLines_ = hadComment_ ? *stripCommentQuotes(std::move(*raw)) : generatedLines_;
+  commentLines_ = hadComment_ ? stripCommentQuotes(*raw)->lines() : generatedLines_;
 }
 
 void EditedComment::replace(CommentLines lines, const EditGrouping& group) {

@@ -7,7 +7,7 @@
 namespace tamrikon {
 
 CommentList WrapperComments::getComment(Wrapper& wrapper) {
-  auto comment = std::make_shared<CommentLines>();
+  auto comment = std::make_shared<Comment>();
   tryStep([&] {
     const ModuleLines& lines = wrapper.source().lines();
     const CommentSearch search = findComment(lines, wrapper.CodeLocation());
@@ -20,7 +20,7 @@ CommentList WrapperComments::getComment(Wrapper& wrapper) {
 }
 
 CommentList WrapperComments::getModuleComment(const ModuleSource& source) {
-  auto comment = std::make_shared<CommentLines>();
+  auto comment = std::make_shared<Comment>();
   const auto range = getModuleCommentRange(source.lines());
   if (range) *comment = commentBody(source.lines(), *range);
   return comment;
@@ -33,13 +33,12 @@ void WrapperComments::takeHelpId(Wrapper& wrapper) {
 
 bool WrapperComments::prepareComment(Wrapper& wrapper) const {
   if (wrapper.hadComment) {
-    wrapper.comment = stripCommentQuotes(std::move(*wrapper.comment));
+    wrapper.comment = stripCommentQuotes(*wrapper.comment);
     return true;
   }
   if (!settings_.comNonCommented) return false;
-  return tryStep([&] {
-    wrapper.comment = std::make_shared<CommentLines>(wrapper.generateComment(settings_));
-  });
+  return tryStep(
+      [&] { wrapper.comment = std::make_shared<Comment>(wrapper.generateComment(settings_)); });
 }
 
 }  // namespace tamrikon

@@ -69,7 +69,7 @@ void WrapperIndex::findAmbiguousIn(NamedRun begin, NamedRun end) {
     return areProperties ? static_cast<const void*>(&wrapper.cmo()) : &wrapper;
   };
   // How many wrappers there are of an owner or of all (null), with a comment or any (null).
-  std::map<std::pair<const void*, const CommentLines*>, int> count;
+  std::map<std::pair<const void*, const Comment*>, int> count;
   for (NamedRun named = begin; named != end; ++named) {
     const Wrapper& wrapper = *named->wrapper;
     if (!counts(wrapper)) continue;
@@ -81,7 +81,7 @@ void WrapperIndex::findAmbiguousIn(NamedRun begin, NamedRun end) {
   for (NamedRun named = begin; named != end; ++named) {
     const Wrapper& wrapper = *named->wrapper;
     const void* owner = own(wrapper);
-    const CommentLines* comment = wrapper.comment.get();
+    const Comment* comment = wrapper.comment.get();
     const int others = count[{nullptr, nullptr}] - count[{owner, nullptr}];
     const int sharing = count[{nullptr, comment}] - count[{owner, comment}];
     if (others > 0 && sharing == 0) ambiguous_.insert(&wrapper);

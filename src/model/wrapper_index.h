@@ -54,7 +54,7 @@ class WrapperIndex {
   std::unordered_set<const Wrapper*> ambiguous_;
   std::unordered_map<const CodeModule*, ModuleMembers> members_;
   // Of the comments that several wrappers hold, the modules of these.
-  std::unordered_map<const CommentLines*, KeyedList<std::string_view>> modules_;
+  std::unordered_map<const Comment*, KeyedList<std::string_view>> modules_;
 };
 
 }  // namespace tamrikon

@@ -14,8 +14,8 @@ using Lines = std::vector<std::string>;
 
 class CommentParserTest : public testing::Test {
  protected:
-  const CommentParser& read(Lines body) {
-    parser.setComment(std::make_shared<CommentLines>(std::move(body)));
+  const CommentParser& read(const Lines& body) {
+    parser.setComment(std::make_shared<Comment>(body));
     return parser;
   }
 
