@@ -1,5 +1,8 @@
 #include <fstream>
 #include <iomanip>
+#include <memory>
+#include <utility>
+#include <vector>
 
 #include "base/paths.h"
 #include "cli/commands.h"
@@ -7,6 +10,7 @@
 #include "cli/setting_overrides.h"
 #include "cli/terminal.h"
 #include "compiler/group_compile.h"
+#include "compiler/store.h"
 #include "platform/data_folder.h"
 
 namespace tamrikon {
@@ -117,6 +121,14 @@ void printTimes(const CompileTimes& times, std::ostream& out) {
   print("all", total);
 }
 
+/// Keeps an object to the end of the process, which takes all memory back at once: a large project
+/// is hundreds of thousands of pieces, and to free them one by one takes longer than reading them.
+template <typename T>
+void keepToTheEnd(std::unique_ptr<T> object) {
+  static auto& kept = *new std::vector<std::unique_ptr<T>>();
+  kept.push_back(std::move(object));
+}
+
 }  // namespace
 
 int compileCommand(const CompileOptions& options, const Streams& streams) {
@@ -132,7 +144,7 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
   }
   CompileTimes times;
   times.enter(CompilePhase::reading);
-  const std::unique_ptr<HostIde> ide = openProject(options, terminal);
+  std::unique_ptr<HostIde> ide = openProject(options, terminal);
   times.enter(CompilePhase::other);
   if (!ide) return kFailed;
   Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
@@ -149,6 +161,8 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
     times.enter(CompilePhase::other);
     printTimes(times, streams.err);
   }
+  keepToTheEnd(std::move(session.currentStore));
+  keepToTheEnd(std::move(ide));
   if (!worked) return kFailed;
   return options.failsOnWarnings && terminal.hadWarnings() ? kHadWarnings : kDone;
 }
