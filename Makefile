@@ -51,9 +51,11 @@ fuzz:
 	    -dict=$(CURDIR)/tests/fuzz/words.dict corpus/$$name $(CURDIR)/tests/fuzz/corpus/$$name) || exit 1; \
 	done
 
-bench: release
+# Measures and writes docs/performance.md.
+bench:
 	@scripts/install_packages.sh bench
-	bench/compile_bench.sh build/release/bin/tamrikon
+	@$(MAKE) --no-print-directory release
+	/usr/bin/python3 -B bench/compile_bench.py build/release/bin/tamrikon
 
 # The pictures in docs/screenshots, drawn without a screen.
 screenshots:

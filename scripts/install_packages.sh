@@ -17,7 +17,7 @@ for task in "$@"; do
     package) packages="$packages dpkg-dev file" ;;
     help) packages="$packages python3 python3-markdown fp-utils" ;;
     fuzz) packages="$packages clang" ;;
-    bench) packages="$packages tar universal-ctags" ;;
+    bench) packages="$packages tar universal-ctags doxygen libbenchmark-dev python3" ;;
     *) echo "install_packages.sh: there is no task '$task'" >&2; exit 2 ;;
   esac
 done
