@@ -40,7 +40,7 @@ sanitize:
 # Each fuzz target for so many seconds. What it finds is left in build/fuzz. (A template may use up all
 # the calls that an expansion has, which takes its time here.)
 SECONDS ?= 60
-FUZZERS = template comment declaration source project
+FUZZERS = template comment declaration source settings editor project
 fuzz:
 	@scripts/install_packages.sh build test fuzz
 	cmake --preset fuzz
