@@ -10,8 +10,7 @@ FileErrorAnswer TextFiles::ask(const std::string& path, std::string_view verb, F
   return silent ? FileErrorAnswer::fail : reporter_.reportFileError(path, verb, error);
 }
 
-int TextFiles::put(WriteOperation write, const std::string& path, std::string_view text,
-                   bool silent) {
+void TextFiles::breakLines(std::string_view text) {
   bytes_.clear();
   for (std::string_view rest = text; !rest.empty();) {
     const std::size_t lineLength = rest.find('\r');
@@ -20,7 +19,13 @@ int TextFiles::put(WriteOperation write, const std::string& path, std::string_vi
     bytes_.append("\r\n");
     rest.remove_prefix(lineLength + 1);
   }
+}
+
+void TextFiles::encode() {
   if (!isAscii(bytes_)) bytes_ = page_->encode(bytes_);
+}
+
+int TextFiles::put(WriteOperation write, const std::string& path, bool silent) {
   for (;;) {
     const FileError error = (files_.*write)(path, bytes_);
     if (error == FileError::none) return 0;
@@ -34,15 +39,23 @@ int TextFiles::put(WriteOperation write, const std::string& path, std::string_vi
 }
 
 int TextFiles::writeTextFile(const std::string& path, std::string_view text, bool silent) {
-  return put(&FileSystem::write, path, text, silent);
+  breakLines(text);
+  encode();
+  return put(&FileSystem::write, path, silent);
 }
 
 int TextFiles::replaceTextFile(const std::string& path, std::string_view text, bool silent) {
-  return put(&FileSystem::replaceAtomically, path, text, silent);
+  breakLines(text);
+  const std::string asUtf8 = bytes_;
+  encode();
+  if (decodeText(bytes_, *page_).text != asUtf8) bytes_ = asUtf8;
+  return put(&FileSystem::replaceAtomically, path, silent);
 }
 
 int TextFiles::appendTextFile(const std::string& path, std::string_view text, bool silent) {
-  return put(&FileSystem::append, path, text, silent);
+  breakLines(text);
+  encode();
+  return put(&FileSystem::append, path, silent);
 }
 
 int TextFiles::readTextFile(const std::string& path, bool silent, std::string& text) {

@@ -38,7 +38,8 @@ class TextFiles {
   /// there is no dialog.
   int writeTextFile(const std::string& path, std::string_view text, bool silent);
 
-  /// The same for a file that must never be lost: a failure leaves the old one.
+  /// The same for a file of which nothing may be lost: a failure leaves the old one, and a text
+  /// that the page can't hold, or would be read as another one, is written as UTF-8.
   int replaceTextFile(const std::string& path, std::string_view text, bool silent);
 
   /// As writeTextFile, at the end of the file.
@@ -54,8 +55,10 @@ class TextFiles {
   FileSystem& files() { return files_; }
 
  private:
+  void breakLines(std::string_view text);
+  void encode();
   using WriteOperation = FileError (FileSystem::*)(const std::string&, std::string_view);
-  int put(WriteOperation write, const std::string& path, std::string_view text, bool silent);
+  int put(WriteOperation write, const std::string& path, bool silent);
 
   FileSystem& files_;
   FileErrorReporter& reporter_;
