@@ -27,8 +27,14 @@ std::string fieldText(const SettingField& field) {
   }
   const std::string& text = **std::get_if<std::string*>(&field.value);
   if (field.key == "titlePageText") return escapeEOL(text);
-  if (field.key == "templatePath") return std::string(lastName(text));
   return text;
+}
+
+/// What leads from the folder to the template: its name, also behind folders within that one.
+std::string templateText(const ProjectSettings& settings) {
+  const std::string folder = joinPath(settings.templateFolder, "");
+  const std::string& path = settings.templatePath;
+  return path.starts_with(folder) ? path.substr(folder.size()) : std::string(lastName(path));
 }
 
 }  // namespace
@@ -163,7 +169,9 @@ std::string SettingsFile::settingsLines() const {
     if (!text.empty()) text += '\r';
     text.append(key).append(" = ").append(value);
   };
-  for (const SettingField& field : settingFields(settings_)) addLine(field.key, fieldText(field));
+  for (const SettingField& field : settingFields(settings_)) {
+    addLine(field.key, field.key == "templatePath" ? templateText(settings_) : fieldText(field));
+  }
   for (const CodeModule* module : settings_.comModules) addLine(kModulesKey, module->Name());
   return text;
 }
