@@ -146,7 +146,8 @@ SettingOutcome SettingsFile::apply(std::string_view key, std::string_view value,
     if (key == "titlePageText") {
       text = unescapeEOL(value);
     } else if (key == "templateFolder") {
-      text = withoutTrailingSeparator(value);
+      while (endsInSeparator(value)) value.remove_suffix(1);
+      text = value;
     } else if (key == "templatePath") {
       setTemplatePath(value);
     } else {
