@@ -20,6 +20,14 @@ for package in "$work"/packages/*.deb; do
 done
 dpkg-deb -f "$work"/packages/tamrikon_*.deb Depends | grep -qi qt && fail "the terminal's package needs Qt"
 
+find "$root/usr" -type f '(' -path '*/usr/bin/*' -o -path '*/usr/lib/*' ')' > "$work/binaries.txt"
+while read -r file; do
+  headers=$(readelf -hldW "$file")
+  for wanted in 'Type: *DYN' 'GNU_RELRO' 'FLAGS_1.* NOW' 'GNU_STACK.* RW '; do
+    grep -q "$wanted" <<< "$headers" || fail "$file isn't hardened: no $wanted"
+  done
+done < "$work/binaries.txt"
+
 # Programs find their data in the folder that they were unpacked to.
 cp -r "$source/examples/Inventory" "$work/project"
 PATH=$root/usr/bin:$PATH
