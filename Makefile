@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 DOCS := examples/Inventory/Documentation
 
-.PHONY: run run-workbench help test sanitize fuzz bench screenshots package install format tidy clean
+.PHONY: run run-workbench help test sanitize fuzz valgrind bench screenshots package install format tidy clean
 
 # Builds the program and compiles the documentation of the example projects.
 run: release
@@ -50,6 +50,11 @@ fuzz:
 	  (cd build/fuzz && bin/$${name}_fuzz -max_total_time=$(SECONDS) -timeout=100 -rss_limit_mb=4096 \
 	    -dict=$(CURDIR)/tests/fuzz/words.dict corpus/$$name $(CURDIR)/tests/fuzz/corpus/$$name) || exit 1; \
 	done
+
+# The optimised program under valgrind, on a copy of the example projects.
+valgrind: release
+	@scripts/install_packages.sh valgrind
+	scripts/run_valgrind.sh build/release/bin/tamrikon examples/Inventory
 
 # Measures and writes docs/performance.md.
 bench:

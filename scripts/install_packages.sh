@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that a task needs and that aren't there yet.
-# usage: install_packages.sh [build] [workbench] [test] [package] [help] [fuzz] [bench]
+# usage: install_packages.sh [build] [workbench] [test] [package] [help] [fuzz] [valgrind] [bench]
 set -eu
 
 packages=
@@ -17,6 +17,7 @@ for task in "$@"; do
     package) packages="$packages dpkg-dev file" ;;
     help) packages="$packages python3 python3-markdown fp-utils" ;;
     fuzz) packages="$packages clang" ;;
+    valgrind) packages="$packages valgrind" ;;
     bench) packages="$packages tar universal-ctags doxygen libbenchmark-dev python3" ;;
     *) echo "install_packages.sh: there is no task '$task'" >&2; exit 2 ;;
   esac
