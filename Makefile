@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 DOCS := examples/Inventory/Documentation
 
-.PHONY: run run-workbench help test sanitize fuzz valgrind bench screenshots package install format tidy clean
+.PHONY: run run-workbench help test sanitize fuzz valgrind coverage bench screenshots package install format tidy clean
 
 # Builds the program and compiles the documentation of the example projects.
 run: release
@@ -55,6 +55,15 @@ fuzz:
 valgrind: release
 	@scripts/install_packages.sh valgrind
 	scripts/run_valgrind.sh build/release/bin/tamrikon examples/Inventory
+
+# Which lines and branches the tests reach, by folder; each file's are in build/coverage/report.
+coverage:
+	@scripts/install_packages.sh build workbench test coverage
+	cmake --preset coverage
+	cmake --build --preset coverage -j $(JOBS)
+	find build/coverage -name '*.gcda' -delete
+	ctest --preset coverage
+	scripts/report_coverage.sh build/coverage
 
 # Measures and writes docs/performance.md.
 bench:

@@ -1,6 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that a task needs and that aren't there yet.
-# usage: install_packages.sh [build] [workbench] [test] [package] [help] [fuzz] [valgrind] [bench]
+# usage: install_packages.sh [build] [workbench] [test] [package] [help] [fuzz] [valgrind]
+#   [coverage] [bench]
 set -eu
 
 packages=
@@ -18,6 +19,7 @@ for task in "$@"; do
     help) packages="$packages python3 python3-markdown fp-utils" ;;
     fuzz) packages="$packages clang" ;;
     valgrind) packages="$packages valgrind" ;;
+    coverage) packages="$packages gcovr python3" ;;
     bench) packages="$packages tar universal-ctags doxygen libbenchmark-dev python3" ;;
     *) echo "install_packages.sh: there is no task '$task'" >&2; exit 2 ;;
   esac
