@@ -51,6 +51,7 @@ TEST_F(CommandLineTest, WritesPagesIntoANewFolderAndTheLogToItsStreams) {
   EXPECT_FALSE(folder_.has("Tamrik")) << "the default folder isn't made for nothing";
   EXPECT_EQ(compile({"--no-exec"}).out, "Project: Shop\n");
   EXPECT_EQ(compile({"--quiet"}).out, "");
+  EXPECT_EQ(compile({"--log", "/dev/full"}).status, 1);
 }
 
 TEST_F(CommandLineTest, ShowsAStatusLineOnATerminalAlone) {
@@ -68,6 +69,8 @@ TEST_F(CommandLineTest, TellsWrongUsageFromFailure) {
            Case{{"compile", project_, "--set", "indentMode=1x"}, 2, "indentMode=1x"},
            Case{{"settings", project_, "addsee=1"}, 2, "addsee"},
            Case{{"compile", folder_ / "gone.vbp"}, 1, "gone.vbp"},
+           Case{{"compile", project_, "--output", project_ + "/out"}, 1, "the output folder"},
+           Case{{"compile", project_, "--log", folder_ / "no/log"}, 1, "cannot write the log"},
        }) {
     const ProgramRun run(arguments);
     EXPECT_EQ(run.status, status) << names;

@@ -36,6 +36,7 @@ TEST(ProcDefinition, ParsesProcedures) {
            Case{"Public Event Changed(ByRef Cancel As Boolean)", "Event//Cancel:Boolean"},
            Case{"Public Count As Long", "Event/Long"},
            Case{"Property Get P(ByVal i%)", "Property Get/Variant/byval i:Integer"},
+           Case{"Sub S(a&, b@, c#, d!)", "Sub//a:Long/b:Currency/c:Double/d:Single"},
            Case{"Sub S(a,b)", "Sub//a,b:Variant"},  // the blank is part of the separator
            Case{"Sub S(a(1, 2) As Long)", "Sub//a(1:Variant/2):Long"},
            // One push a round: the list ends behind the g of this one.

@@ -98,6 +98,7 @@ TEST_F(EditCommentTest, WritesOneCommentWhereThereWasNone) {
         {"mShelf", "x", "IKeep\n'**\n'x\nPrivate m"},
         {"Filled", "y", "'one\n'**\n'y\n'@param"},
         {"Property Let", "z", "End Property\n'**\n'z\n'@param"},
+        {"Property Set", "s", "End Property\n'**\n's\n'@param"},
         {"Implements", "", "'**\nImplements"}}) {
     edit(at, [text = text](User& user, EditComment& editor) {
       user.type(editor.basicPage.DescriptionText, text);
@@ -178,9 +179,13 @@ TEST_F(EditCommentTest, EditsSettingsInTheGrid) {
       EXPECT_EQ(grid.cell(0, 0), "");
       user.click(settings.RemoveSetBtn);
     }
+    user.select(page.ParamList, "key");
+    user.click(settings.AddSetBtn);
+    user.clickCell(grid, 1, 0);
+    user.click(settings.RemoveSetBtn);
     user.click(editor.cmdOK);
   });
-  const char* written = "'@set          key B 1 one\n  'two\n  '@set          key C 2 \n  '@return";
+  const char* written = "'@set          key B 1 one\n  'two\n  '@set          key   \n  '@return";
   EXPECT_NE(source().find(written), std::string::npos) << source();
 }
 

@@ -68,7 +68,7 @@ TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
   editReferences("Static a", [this](User& user, ReferencesPage& page) {
     user.type(page.seeAlso.label, "gone");
     onDialog<ReferenceSelectDlg>([](User& u, ReferenceSelectDlg& picker) {
-      EXPECT_EQ(picker.MembersList.count(), 9);
+      EXPECT_EQ(picker.MembersList.count(), 10);
       u.select(picker.MembersList, "Count [PropertyGet]");
       u.click(picker.cmdOK);
     });

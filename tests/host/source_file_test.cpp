@@ -83,6 +83,9 @@ TEST(SourceFile, EditsAroundHiddenLines) {
     const SourceFile again(saved(file), page());
     EXPECT_EQ(visible(file), visible(again));
   }
+  SourceFile file(bytes, page());
+  file.replaceLines(2, 2, "bc");
+  EXPECT_EQ(saved(file), "a\nAttribute a.x = 1\nbc\nAttribute c.x = 1") << "joined by typing";
 }
 
 TEST(MemberAttributes, ReadsTheFirstThatIsNotEmpty) {

@@ -103,6 +103,11 @@ TEST_F(RegistryTest, UnusableFileIsKept) {
   }
   EXPECT_EQ(folder_.get("tamrikon/registry.txt.bak"), "somebody's notes\n");
   EXPECT_EQ(folder_.get("tamrikon/registry.txt.bak2"), "\xFF\xFEW");
+
+  const std::string unended = folder_.get("tamrikon/registry.txt") + "\"z\"=\"no end\"";
+  folder_.put("tamrikon/registry.txt", unended);
+  EXPECT_EQ(userRegistry().put({{kKey, "more", "1"}}), FileError::none);
+  for (const char* name : {"x", "z", "more"}) EXPECT_NE(userRegistry().text(kKey, name), "");
 }
 
 TEST_F(RegistryTest, WritersAtTheSameTimeLoseNothing) {

@@ -93,8 +93,9 @@ TEST_F(FrmAddInTest, OptionsStandForTheirModesAndChooseTheExample) {
     });
     user.click(page.Command11);
   };
+  session_.settings.insertSourceGlobal = 1;
   show("Group4", [&](User& user) {
-    user.choose(page.Option5);
+    EXPECT_TRUE(page.Option5.isSelected());
     expectExample(user, "This is\ran example\r     of current\r'    indent mode");
     user.choose(page.Option2);
     expectExample(user, "This is\r  an example\r  of current\r      indent mode");
