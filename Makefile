@@ -37,18 +37,20 @@ sanitize:
 	cmake --build --preset asan -j $(JOBS)
 	ctest --preset asan
 
-# Each fuzz target for so many seconds. What it finds is left in build/fuzz. (A template may use up all
-# the calls that an expansion has, which takes its time here.)
+# Each fuzz target for so many seconds. What it finds is left in build/fuzz, with its log. (A template
+# may use up all the calls that an expansion has, which takes its time here.)
 SECONDS ?= 60
 FUZZERS = template comment declaration source settings editor project
 fuzz:
 	@scripts/install_packages.sh build test fuzz
 	cmake --preset fuzz
 	cmake --build --preset fuzz -j $(JOBS) --target $(FUZZERS:%=%_fuzz)
-	for name in $(FUZZERS); do \
-	  mkdir -p build/fuzz/corpus/$$name; \
-	  (cd build/fuzz && bin/$${name}_fuzz -max_total_time=$(SECONDS) -timeout=100 -rss_limit_mb=4096 \
-	    -dict=$(CURDIR)/tests/fuzz/words.dict corpus/$$name $(CURDIR)/tests/fuzz/corpus/$$name) || exit 1; \
+	@cd build/fuzz && for name in $(FUZZERS); do \
+	  mkdir -p corpus/$$name; \
+	  bin/$${name}_fuzz -max_total_time=$(SECONDS) -timeout=100 -rss_limit_mb=4096 \
+	    -dict=$(CURDIR)/tests/fuzz/words.dict corpus/$$name $(CURDIR)/tests/fuzz/corpus/$$name \
+	    > $$name.log 2>&1 || { tail -n 40 $$name.log; exit 1; }; \
+	  echo "$$name: $$(tail -n 1 $$name.log)"; \
 	done
 
 # The optimised program under valgrind, on a copy of the example projects.
