@@ -83,21 +83,6 @@ TEST_F(DialogWindowTest, QuittingWhileTheDialogWorksClosesIt) {
   EXPECT_FALSE(dialog.isShown());
 }
 
-TEST_F(DialogWindowTest, ApplicationThatQuitsAsksTheDialog) {
-  int asked = 0;
-  dialog.queryClose = [&] { return ++asked == 2; };
-  QTimer::singleShot(0, qApp, [&] {
-    show([&] {
-      QCoreApplication::quit();
-      EXPECT_TRUE(dialog.isShown());
-      QCoreApplication::quit();
-      EXPECT_FALSE(dialog.isShown());
-    });
-  });
-  QCoreApplication::exec();
-  EXPECT_EQ(asked, 2);
-}
-
 TEST_F(DialogWindowTest, WhatAHandlerThrowsComesOutWhenTheDialogHasGone) {
   dialog.Nothing.onClick = [] { throw std::runtime_error("thrown"); };
   try {
@@ -110,51 +95,6 @@ TEST_F(DialogWindowTest, WhatAHandlerThrowsComesOutWhenTheDialogHasGone) {
     EXPECT_STREQ(failure.what(), "thrown");
   }
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-}
-
-TEST_F(DialogWindowTest, DialogsNestAndEachKeepsItsFocus) {
-  test::SampleDialog inner(toolkit);
-  dialog.Nothing.onClick = [&] {
-    inner.show([&] {
-      EXPECT_EQ(inner.told(), "+Name ");
-      user.typeText("x");
-      EXPECT_EQ(inner.Name.text(), "x");
-    });
-    EXPECT_EQ(dialog.told(), "-Name +Nothing ");
-  };
-  show([&] {
-    user.click(dialog.Nothing);
-    EXPECT_EQ(dialog.told(), "");
-    EXPECT_EQ(dialog.Name.text(), "");
-  });
-}
-
-TEST_F(DialogWindowTest, DialogThatIsShownAgainIsAsItWasLeft) {
-  QSize size;
-  show([&] {
-    user.type(dialog.Name, "kept");
-    user.window().resize(user.window().size() * 2);
-    size = user.window().size();
-  });
-  dialog.setCaption("Once more");
-  show([&] {
-    EXPECT_EQ(user.widget<QLineEdit>(dialog.Name).text(), "kept");
-    EXPECT_EQ(user.window().size(), size);
-    EXPECT_EQ(user.window().windowTitle(), "Once more");
-    dialog.setCaption("Now");
-    EXPECT_EQ(user.window().windowTitle(), "Now");
-  });
-}
-
-TEST_F(DialogWindowTest, DialogStandsInTheMiddleOfItsOwner) {
-  QWidget owner;
-  owner.setGeometry(150, 100, 500, 400);
-  owner.show();
-  toolkit.setOwner(&owner);
-  show([&] {
-    const QPoint off = user.window().geometry().center() - owner.geometry().center();
-    EXPECT_LT(off.manhattanLength(), 10) << "the width of a frame";
-  });
 }
 
 TEST_F(DialogWindowTest, OwnerMayTakeItsDialogWithIt) {

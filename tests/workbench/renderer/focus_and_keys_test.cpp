@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QTabBar>
 
 #include "workbench/renderer/sample_dialog.h"
 
@@ -17,9 +16,6 @@ TEST_F(FocusAndKeysTest, FirstControlGetsTheFocusWhenTheDialogIsActive) {
     EXPECT_EQ(atActivation, "told:");
     EXPECT_EQ(dialog.told(), "+Name ");
   });
-}
-
-TEST_F(FocusAndKeysTest, ActivatedDialogMayMoveTheFocus) {
   dialog.activate = [&] { dialog.Width.setFocus(); };
   dialog.show([&] { EXPECT_EQ(dialog.told(), "+Width "); });
 }
@@ -38,32 +34,6 @@ TEST_F(FocusAndKeysTest, TabFollowsTheLayout) {
     EXPECT_EQ(order, "+Checks +Folders +Combo +Typed +Cells +Nothing +Ok +Cancel +Tabs ");
     user.press(Qt::Key_Backtab);
     EXPECT_EQ(dialog.told(), "key Tabs.key -Tabs +Cancel ");
-  });
-}
-
-TEST_F(FocusAndKeysTest, KeyThatIsHandledGoesNoFurther) {
-  dialog.handledKey = Key::escape;
-  dialog.Name.onKeyDown = [](KeyEvent& event) { event.handled = true; };
-  show([&] {
-    user.press(Key::escape);
-    EXPECT_EQ(dialog.told(), "key ");
-    user.press(Key::enter);
-    user.typeText("x");
-    EXPECT_EQ(dialog.told(), "key ");
-    EXPECT_EQ(dialog.Name.text(), "");
-  });
-}
-
-TEST_F(FocusAndKeysTest, EscapeWithoutACancelButtonDoesNothing) {
-  dialog.Cancel.setEnabled(false);
-  show([&] {
-    user.press(Key::escape);
-    EXPECT_EQ(dialog.told(), "key Name.key ");
-    EXPECT_TRUE(dialog.isShown());
-    dialog.Cancel.setEnabled(true);
-    dialog.Cancel.onClick = [&] { dialog.close(); };
-    user.press(Key::escape);
-    EXPECT_FALSE(dialog.isShown());
   });
 }
 
@@ -94,42 +64,6 @@ TEST_F(FocusAndKeysTest, ControlTabTurnsPagesRoundTheEnds) {
     EXPECT_EQ(dialog.told(), "key Tabs.key Tabs=0 ");
     user.press(Qt::Key_Backtab, Qt::ControlModifier);
     EXPECT_EQ(dialog.told(), "key Tabs.key Tabs=1 ");
-  });
-}
-
-TEST_F(FocusAndKeysTest, OtherWindowsDontTakeTheFocusOfTheDialog) {
-  dialog.Nothing.onClick = [&] {
-    dialog.Width.setFocus();
-    test::whenShown([](QWidget& box) { box.close(); });
-    toolkit.messageBox({"Title", "Text"});
-  };
-  show([&] {
-    user.click(dialog.Nothing);
-    EXPECT_EQ(dialog.told(), "-Name +Nothing -Nothing +Width ");
-    user.typeText("7");
-    EXPECT_EQ(dialog.told(), "Width=780 ");
-  });
-}
-
-TEST_F(FocusAndKeysTest, ControlThatIsHiddenInAHandlerLosesTheFocusAfterIt) {
-  dialog.Nothing.onClick = [&] {
-    dialog.Nothing.setVisible(false);
-    dialog.Name.setText("hidden");
-    EXPECT_EQ(dialog.told(), "-Name +Nothing ");
-  };
-  show([&] {
-    user.click(dialog.Nothing);
-    EXPECT_EQ(dialog.told(), "-Nothing +Ok ");
-  });
-}
-
-TEST_F(FocusAndKeysTest, FocusOnWhatCantBeReachedIsRefused) {
-  show([&] {
-    dialog.List.setFocus();
-    dialog.Cancel.setEnabled(false);
-    dialog.Cancel.setFocus();
-    EXPECT_EQ(dialog.told(), "");
-    EXPECT_EQ(user.window().focusWidget(), &user.widget(dialog.Name));
   });
 }
 

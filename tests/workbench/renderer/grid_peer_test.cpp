@@ -53,17 +53,6 @@ TEST_F(GridPeerTest, BoxLiesOverItsCellAndTakesTheTyping) {
   });
 }
 
-TEST_F(GridPeerTest, EscapeLeavesTheCellAsItWas) {
-  showLists([&] {
-    user.clickCell(dialog.Cells, 1, 0);
-    user.typeText("x");
-    user.press(Key::escape);
-    EXPECT_FALSE(box().isVisible());
-    EXPECT_EQ(dialog.Cells.cell(1, 0), "r1");
-    EXPECT_TRUE(table().hasFocus());
-  });
-}
-
 TEST_F(GridPeerTest, ClickOnAnotherCellTakesTheTextOverFirst) {
   showLists([&] {
     user.clickCell(dialog.Cells, 0, 0);
@@ -91,18 +80,6 @@ TEST_F(GridPeerTest, TypedCharacterOpensTheBoxAndReplacesTheText) {
     dialog.Cells.setFocus();
     user.press(Qt::Key_F2);
     EXPECT_EQ(box().selectedText(), "new");
-  });
-}
-
-TEST_F(GridPeerTest, HighBoxOfTheLastRowsStaysInsideTheGrid) {
-  lines = 4;
-  for (int i = 0; i < 100; ++i) dialog.Cells.addRow({"row", "v"});
-  showLists([&] {
-    dialog.Cells.setCurrent(102, 0);
-    dialog.Cells.onClick();
-    EXPECT_TRUE(table().viewport()->rect().contains(box().geometry()));
-    EXPECT_GT(box().height(), 3 * box().fontMetrics().lineSpacing());
-    EXPECT_EQ(box().geometry().bottom(), table().viewport()->rect().bottom());
   });
 }
 

@@ -1,8 +1,6 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QProgressBar>
-#include <QRadioButton>
-#include <QScrollBar>
 #include <QTreeWidget>
 
 #include "workbench/renderer/sample_dialog.h"
@@ -36,19 +34,6 @@ TEST_F(ListPeersTest, ListFollowsTheProgramAndTellsNothing) {
     dialog.List.setItems({"c", "c"});
     EXPECT_EQ(texts(dialog.List), "c c -");
     EXPECT_EQ(dialog.told(), "");
-  });
-}
-
-TEST_F(ListPeersTest, ScrolledListStaysWhereItIsWhenItemsComeAndGo) {
-  std::vector<std::string> items;
-  for (int i = 0; i < 1000; ++i) items.push_back("item " + std::to_string(i));
-  dialog.List.setItems(items);
-  showLists([&] {
-    QScrollBar& bar = *user.widget<QListWidget>(dialog.List).verticalScrollBar();
-    bar.setValue(500);
-    dialog.List.add("last");
-    dialog.List.remove(990);
-    EXPECT_EQ(bar.value(), 500);
   });
 }
 
@@ -107,25 +92,6 @@ TEST_F(ListPeersTest, DropDownListFollowsTheProgram) {
   });
 }
 
-TEST_F(ListPeersTest, TypedTextThatIsAnItemsIsNoChoice) {
-  showLists([&] {
-    user.type(dialog.Typed, "red");
-    user.click(dialog.Nothing);
-    EXPECT_EQ(dialog.told(),
-              "-List +Typed Typed=r? Typed=re? Typed=red? -Typed +Nothing Nothing=click ");
-    EXPECT_EQ(dialog.Typed.selected(), 0);
-  });
-}
-
-TEST_F(ListPeersTest, ListThatBecomesEditableTakesTextAndKeys) {
-  showLists([&] {
-    dialog.Combo.setEditable(true);
-    user.type(dialog.Combo, "x");
-    user.press(Key::enter);
-    EXPECT_EQ(dialog.told(), "-List +Combo Combo=x? key Combo.key -Combo +Ok Ok=click ");
-  });
-}
-
 TEST_F(ListPeersTest, FolderTreeReadsWhatIsOpened) {
   dialog.Folders.select("/docs/api");
   showLists([&] {
@@ -136,19 +102,6 @@ TEST_F(ListPeersTest, FolderTreeReadsWhatIsOpened) {
     EXPECT_TRUE(tree.selectedItems().isEmpty());
     dialog.Folders.setRoot("/docs");
     EXPECT_EQ(tree.topLevelItem(0)->childCount(), 1);
-    EXPECT_EQ(dialog.told(), "");
-  });
-}
-
-TEST_F(ListPeersTest, OptionsOfAGroupExcludeEachOtherAcrossFrames) {
-  dialog.ByKind.select();
-  show([&] {
-    const auto& byName = user.widget<QRadioButton>(dialog.ByName);
-    const auto& byKind = user.widget<QRadioButton>(dialog.ByKind);
-    EXPECT_TRUE(byKind.isChecked());
-    dialog.ByName.select();
-    EXPECT_TRUE(byName.isChecked());
-    EXPECT_FALSE(byKind.isChecked());
     EXPECT_EQ(dialog.told(), "");
   });
 }

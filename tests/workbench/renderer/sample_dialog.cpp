@@ -75,9 +75,7 @@ void SampleDialog::record(Control& control) {
 }
 
 void SampleDialog::onKeyDown(KeyEvent& event) {
-  if (event.key == Key::other) return;
-  tell("key");
-  event.handled = event.key == handledKey;
+  if (event.key != Key::other) tell("key");
 }
 
 void SampleDialog::show(const std::function<void()>& script) {

@@ -23,7 +23,6 @@ class SampleDialog final : public Dialog {
 
   std::function<void()> activate = [] {};
   std::function<bool()> queryClose = [] { return true; };
-  Key handledKey = Key::other;  // by the dialog; other for none
 
   TabStrip Tabs{*this, "Tabs", {{"text", "Texts", ""}, {"list", "Lists & more", ""}}};
   Label NameLabel{*this, "NameLabel", "Name"};
