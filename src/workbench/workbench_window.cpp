@@ -56,7 +56,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options)
                                                : options.settingsFile,
                 options.settingsFile.isEmpty() ? QSettings::NativeFormat : QSettings::IniFormat),
       recent_(settings_),
-      keeper_(prompts_, options.files != nullptr ? *options.files : nativeFileSystem()),
+      keeper_(prompts_, nativeFileSystem()),
       diskChanges_(keeper_, prompts_),
       actions_(*this),
       tabs_(*new CodeTabs(this)),

@@ -31,9 +31,8 @@ namespace tamrikon {
 
 /// What a test has otherwise than the user.
 struct WorkbenchOptions {
-  QString settingsFile;         // empty: the user's settings
-  Prompts* prompts = nullptr;   // null: boxes above the window
-  FileSystem* files = nullptr;  // null: the machine's
+  QString settingsFile;        // empty: the user's settings
+  Prompts* prompts = nullptr;  // null: boxes above the window
 };
 
 class WorkbenchWindow final : public QMainWindow {

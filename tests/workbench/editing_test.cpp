@@ -1,16 +1,11 @@
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QElapsedTimer>
 #include <QInputMethodEvent>
 #include <QLabel>
-#include <QMimeData>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <random>
 
-#include "base/text.h"
-#include "host/edit_group.h"
 #include "workbench_fixture.h"
 
 namespace tamrikon::test {
@@ -23,19 +18,6 @@ class EditingTest : public WorkbenchTest {
     open();
   }
 };
-
-TEST_F(EditingTest, SavingChangesTheEditedLineAlone) {
-  const std::string before = bytes("Stock/StockItem.cls");
-  CodeEditor& editor = show("StockItem");
-  editor.setSelection({19, 1, 19, 1});
-  const std::string line = fromQt(editor.textCursor().block().text());
-  QTest::keyClicks(&editor, "' ");
-  EXPECT_EQ(tabs().tabText(0), "StockItem*");
-  trigger("save");
-  EXPECT_EQ(bytes("Stock/StockItem.cls"),
-            replaceAll(before, "\r\n" + line + "\r\n", "\r\n' " + line + "\r\n"));
-  EXPECT_EQ(tabs().tabText(0), "StockItem");
-}
 
 TEST_F(EditingTest, HiddenAttributesSurviveTheirDeclarationBeingEdited) {
   CodeEditor& editor = show("StockItems");
@@ -233,23 +215,6 @@ TEST_F(EditingTest, AnyRunOfEditsKeepsEditorAndModuleTheSame) {
   while (module.undo()) continue;
   EXPECT_EQ(module.Lines(1, module.CountOfLines()), before);
   expectSame(editor, module);
-}
-
-TEST_F(EditingTest, EditsInAGroupAreUndoneTogether) {
-  CodeEditor& editor = show("StockText");
-  HostModule& text = module("StockText");
-  {
-    const EditGroup oneStep(text);
-    text.InsertLines(1, "' one");
-    text.InsertLines(5, "' two");
-  }
-  QApplication::processEvents();
-  const auto& undo = *window_->findChild<QAction*>("undo");
-  EXPECT_TRUE(undo.isEnabled());
-  trigger("undo");
-  EXPECT_FALSE(undo.isEnabled());
-  EXPECT_FALSE(text.isChanged());
-  expectSame(editor, text);
 }
 
 TEST_F(EditingTest, ALineMovedByDraggingLeavesThoseBetweenAlone) {

@@ -1,7 +1,3 @@
-#include <QMenu>
-#include <QMenuBar>
-#include <QToolBar>
-#include <QToolButton>
 #include <vector>
 
 #include "workbench_fixture.h"
@@ -55,6 +51,7 @@ TEST_F(IdeSurfaceTest, ItemsOfAddInsAreRealOnes) {
     events->Click = [&] {
       ++clicks;
       first.Delete();  // as a last wish
+      events.reset();
     };
     action->trigger();
     EXPECT_EQ(clicks, 1);
@@ -67,21 +64,6 @@ TEST_F(IdeSurfaceTest, ItemsOfAddInsAreRealOnes) {
   EXPECT_EQ(vbe().CommandBars().Item(5), nullptr);
   EXPECT_THROW(vbe().Events().CommandBarEvents(nullptr), IdeError);
   EXPECT_THROW(vbe().CommandBars().Item(3)->Controls().Add(ControlType::button, 9), IdeError);
-}
-
-TEST_F(IdeSurfaceTest, HandlersMayDropTheirSource) {
-  CommandBarControl& item =
-      vbe().CommandBars().Item("Add-Ins")->Controls().Add(ControlType::button);
-  int clicks = 0;
-  auto events = vbe().Events().CommandBarEvents(&item);
-  events->Click = [&] {
-    ++clicks;
-    events.reset();
-  };
-  auto* menu = window_->findChild<QMenu*>("addInsMenu");
-  menu->actions().back()->trigger();
-  menu->actions().back()->trigger();
-  EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(IdeSurfaceTest, PanesAreTheCodeWindows) {
@@ -149,17 +131,6 @@ TEST_F(IdeSurfaceTest, EventsTellOfProjects) {
   events.reset();  // a source may outlive the window
 }
 
-TEST_F(IdeSurfaceTest, StaysWhenThereIsNoProject) {
-  VBE& before = vbe();
-  trigger("closeProject");
-  EXPECT_EQ(&vbe(), &before);
-  EXPECT_EQ(vbe().VBProjects().Count(), 0);
-  EXPECT_THROW(vbe().ActiveVBProject(), IdeError);
-  EXPECT_EQ(vbe().ActiveCodePane(), nullptr);
-  open("Stock.vbp");
-  EXPECT_EQ(vbe().ActiveVBProject().Name(), "Stock");
-}
-
 TEST_F(IdeSurfaceTest, ColoursThatChangeAreToldToTheWindowProcedure) {
   AddInHost& host = window_->addInHost();
   const std::uintptr_t window = vbe().MainWindow().HWnd();
@@ -211,19 +182,6 @@ TEST_F(IdeSurfaceTest, SelectionsOutsideTheTextAreMovedIntoIt) {
   vbe().MainWindow().Close();
   EXPECT_EQ(window_->ide(), nullptr);
   EXPECT_FALSE(window_->isVisible());
-}
-
-TEST_F(IdeSurfaceTest, PopUpMenuOpensByKeyAndMouse) {
-  auto* menu = window_->findChild<QMenu*>("codeWindowMenu");
-  CodeEditor& editor = show("Warehouse");
-  for (const auto reason : {QContextMenuEvent::Keyboard, QContextMenuEvent::Mouse}) {
-    const QPoint place(60, 100);
-    QContextMenuEvent event(reason, place, editor.viewport()->mapToGlobal(place));
-    QApplication::sendEvent(editor.viewport(), &event);
-    EXPECT_TRUE(menu->isVisible());
-    menu->hide();
-  }
-  EXPECT_GT(editor.caretLine(), 1);  // a click moves it, so that the commands are about that place
 }
 
 }  // namespace

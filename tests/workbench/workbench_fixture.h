@@ -60,7 +60,6 @@ class WorkbenchTest : public testing::Test {
     WorkbenchOptions options;
     options.settingsFile = toQt(folder_ / "settings.ini");
     options.prompts = &prompts_;
-    options.files = files_;
     window_ = std::make_unique<WorkbenchWindow>(options);
     window_->show();
     window_->activateWindow();
@@ -88,7 +87,6 @@ class WorkbenchTest : public testing::Test {
 
   TempFolder folder_;
   ScriptedPrompts prompts_;
-  FileSystem* files_ = nullptr;
   std::unique_ptr<WorkbenchWindow> window_;
 };
 
