@@ -12,6 +12,8 @@ namespace {
 // No system has longer paths, nor any with more folders; the search calls itself once a folder.
 constexpr std::size_t kMaxLength = 32767;
 constexpr int kMaxDepth = 256;
+// Where folders are links to each other, there is no end of ways to go.
+constexpr int kMaxDetours = 1000;
 
 /// Whether the platform itself takes the path as absolute; a drive letter may mean nothing to it.
 bool isAbsoluteHere(const std::string& nativePath) {
@@ -51,6 +53,7 @@ std::string PathLookup::findIgnoringCase(std::string_view root, std::string_view
   const auto candidates = names.find(name);
   if (candidates == names.end()) return {};
   for (const std::string& candidate : candidates->second) {
+    if (&candidate != &candidates->second.front() && ++detours_ > kMaxDetours) return {};
     std::string path = joinPath(root, candidate);
     if (!rest.empty()) {
       std::string found = findIgnoringCase(path, rest, depth + 1);

@@ -35,6 +35,7 @@ class PathLookup {
 
   FileSystem& files_;
   std::unordered_map<std::string, Names> folders_;
+  int detours_ = 0;  // names taken though another one fitted as well
 };
 
 }  // namespace tamrikon

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <tuple>
@@ -99,6 +100,18 @@ TEST(Opening, FindsFilesAsTheyWereWrittenElsewhere) {
             "warning: cannot read ~/Proj/Gone/../../Api/none.bas|warning: cannot read ~/Proj/sub|"
             "warning: cannot read ~/Proj/no.res|warning: cannot read //server/d$/no.doc|"
             "warning: cannot read ~/Proj/|warning: cannot read K:/no.frm|");
+}
+
+TEST(Opening, EndsWhereFoldersAreLinksToEachOther) {
+  const test::TempFolder folder;
+  std::string path;
+  for (int n = 0; n < 200; ++n) path += "a\\";
+  for (const char* name : {"a", "A"}) std::filesystem::create_symlink(".", folder / name);
+  folder.put("P.VBP", "Module=M; " + path + "gone.bas\nModule=N; n.bas\n");
+  folder.put("N.BAS", "");
+  const Opened opened = openIn(folder, "P.VBP");
+  ASSERT_TRUE(opened.ide) << opened.why;
+  EXPECT_EQ(opened.components(), "1, 1 N");
 }
 
 TEST(Opening, GuessesTheCodePage) {
