@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <new>
 
 #include "cli/commands.h"
 #include "cli/setting_overrides.h"
@@ -135,11 +136,21 @@ int runTamrikon(const std::vector<std::string>& arguments, const Streams& stream
   } catch (const CLI::ParseError& outcome) {
     return app.exit(outcome, streams.out, streams.err) == 0 ? kDone : kWrongUsage;
   }
-  if (app.got_subcommand("compile")) return compileCommand(compile, streams);
-  if (app.got_subcommand("comment")) return commentCommand(comment, streams);
-  if (app.got_subcommand("example")) return exampleCommand(example, streams);
-  if (app.got_subcommand("settings")) return settingsCommand(settings, streams);
-  return templatesCommand(templatesCodePage, streams);
+  const auto run = [&] {
+    if (app.got_subcommand("compile")) return compileCommand(compile, streams);
+    if (app.got_subcommand("comment")) return commentCommand(comment, streams);
+    if (app.got_subcommand("example")) return exampleCommand(example, streams);
+    if (app.got_subcommand("settings")) return settingsCommand(settings, streams);
+    return templatesCommand(templatesCodePage, streams);
+  };
+  try {
+    const int status = run();
+    if (streams.out.flush()) return status;
+    streams.err << "tamrikon: cannot write the output\n";
+  } catch (const std::bad_alloc&) {
+    streams.err << "tamrikon: there is not enough memory\n";
+  }
+  return kFailed;
 }
 
 }  // namespace tamrikon

@@ -180,6 +180,10 @@ TEST_F(CommandLineTest, LivesThroughAnyTemplate) {
 }
 
 TEST_F(CommandLineTest, ReportsAFullDisk) {
+  const ProgramRun unheard({"settings", project_},
+                           [](Streams& streams) { streams.out.setstate(std::ios::badbit); });
+  EXPECT_EQ(unheard.status, 1);
+  EXPECT_EQ(unheard.err, "tamrikon: cannot write the output\n");
   folder_.put("deep/out/x", "");
   folder_.put("t/own.tmkt",
               "$PROJECT-EXT$ .p\n$tamrik-project-body$\nx\n$end-tamrik-project-body$");
