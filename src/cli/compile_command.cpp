@@ -151,7 +151,8 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
   session.runsPrograms = options.runsPrograms;
   if (options.printsTimes) session.times = &times;
   bool worked = compileAll(session, *ide, options, terminal);
-  if (options.saves) worked = saveAll(*ide, terminal) && worked;
+  // A compile that was stopped has changed only some of the attributes.
+  if (options.saves && worked) worked = saveAll(*ide, terminal);
   if (log.is_open() && !log.flush()) {
     terminal.complain("tamrikon: cannot write the log " + options.logFile);
     worked = false;
