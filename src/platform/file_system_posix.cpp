@@ -56,7 +56,10 @@ class Descriptor {
 
   void open(const std::string& path, int flags) {
     close();
-    number_ = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+    // A pipe that nobody is at the other end of isn't waited for, only a lease of another program.
+    number_ = ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666);
+    const bool isLeased = number_ < 0 && errno == EWOULDBLOCK;
+    if (isLeased) number_ = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
   }
   bool isOpen() const { return number_ >= 0; }
   int number() const { return number_; }
@@ -83,7 +86,11 @@ bool writeAll(int descriptor, std::string_view bytes) {
   return true;
 }
 
+/// No text of people is longer; a file with a hole, or one that the system makes up, may be.
+constexpr std::size_t kMaxRead = std::size_t{256} << 20;
+
 bool readAll(int descriptor, std::string& bytes, std::size_t expected) {
+  if (expected > kMaxRead) return errno = EFBIG, false;
   bytes.resize(expected + 1);  // one more, so that the end shows without another round
   std::size_t size = 0;
   for (;;) {
@@ -93,6 +100,7 @@ bool readAll(int descriptor, std::string& bytes, std::size_t expected) {
     if (done < 0) return false;
     if (done == 0) break;
     size += static_cast<std::size_t>(done);
+    if (size > kMaxRead) return errno = EFBIG, false;
   }
   bytes.resize(size);
   return true;
@@ -123,7 +131,7 @@ class PosixFileSystem final : public FileSystem {
     if (!file.isOpen()) return errorOf(errno, native);
     struct stat status {};
     if (::fstat(file.number(), &status) != 0) return errorOf(errno);
-    if (S_ISDIR(status.st_mode)) return errorOf(EISDIR);
+    if (!S_ISREG(status.st_mode)) return FileError::pathFileAccess;
     const auto expected = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
     if (!readAll(file.number(), bytes, expected)) {
       const int number = errno;

@@ -90,6 +90,16 @@ TEST(FileSystem, IsFileTakesOnlyWhatEnds) {
   EXPECT_TRUE(nativeFileSystem().isFile(folder / "file"));
   EXPECT_FALSE(nativeFileSystem().isFile(folder / ""));
   EXPECT_FALSE(nativeFileSystem().isFile(folder / "pipe"));
+
+  std::filesystem::resize_file(folder.put("hole", ""), std::uintmax_t{1} << 40);
+  for (const std::string& path : {folder / "pipe", folder / "hole", std::string("/dev/zero")}) {
+    std::string bytes = "old";
+    EXPECT_EQ(nativeFileSystem().read(path, bytes), FileError::pathFileAccess) << path;
+    EXPECT_EQ(bytes, "");
+  }
+  const std::string page(1 << 20, 'p');  // more than a pipe holds
+  EXPECT_NE(nativeFileSystem().write(folder / "pipe", page), FileError::none);
+  EXPECT_NE(nativeFileSystem().append(folder / "pipe", page), FileError::none);
 }
 
 TEST(FileSystem, FoldersAndFilesAreListedApart) {
