@@ -168,14 +168,12 @@ class PosixFileSystem final : public FileSystem {
     Descriptor file(native, O_WRONLY | O_CREAT | O_APPEND);
     if (!file.isOpen()) return errorOf(errno, native);
     const off_t oldLength = ::lseek(file.number(), 0, SEEK_END);
-    if (!writeAll(file.number(), bytes)) {
-      const int number = errno;
-      // A part that stayed would stand twice after the next try. If even this fails, the device is
-      // the one to blame, and its error is reported.
-      const bool restored = oldLength >= 0 && ::ftruncate(file.number(), oldLength) == 0;
-      return restored ? errorOf(number) : errorOf(errno);
-    }
-    return file.close() ? FileError::none : errorOf(errno);
+    if (writeAll(file.number(), bytes) && file.close()) return FileError::none;
+    const int number = errno;
+    // A part that stayed would stand twice after the next try. If even this fails, the device is
+    // the one to blame, and its error is reported.
+    const bool restored = oldLength >= 0 && ::truncate(native.c_str(), oldLength) == 0;
+    return restored ? errorOf(number) : errorOf(errno);
   }
 
   FileError replaceAtomically(const std::string& path, std::string_view bytes) override {
@@ -255,11 +253,12 @@ class PosixFileSystem final : public FileSystem {
   static int fillReplacement(int descriptor, const std::string& oldPath, std::string_view bytes) {
     struct stat old {};
     const bool hadOld = ::stat(oldPath.c_str(), &old) == 0;
+    // A file that nothing can be learnt of would lose its permissions.
+    int failure = hadOld || errno == ENOENT ? 0 : errno;
     const mode_t mask = ::umask(0);
     ::umask(mask);
     const mode_t mode = hadOld ? (old.st_mode & 07777) : (0666 & ~mask);
-    int failure = 0;
-    if (hadOld && ::access(oldPath.c_str(), W_OK) != 0) failure = errno;
+    if (failure == 0 && hadOld && ::access(oldPath.c_str(), W_OK) != 0) failure = errno;
     // A foreign owner can be kept by root alone; for others the file becomes their own.
     if (failure == 0 && hadOld && ::fchown(descriptor, old.st_uid, old.st_gid) != 0) errno = 0;
     if (failure == 0 && ::fchmod(descriptor, mode) != 0) failure = errno;
