@@ -1,15 +1,25 @@
 #include "ide/module_lines.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 #include "base/vb_text.h"
 
 namespace tamrikon {
+namespace {
+
+// Visual Basic takes 25 lines of 1023 characters. A longer one can declare thousands of names, of
+// which each would be given all of it.
+constexpr std::size_t kLongestStatement = 1 << 16;
+
+}  // namespace
 
 ModuleLines::ModuleLines(const CodeModule& module) : shared_(module.ShareLines()) {
   bool continues = false;
   for (int number = 1; number <= count(); ++number) {
     if (!continues) statementStarts_.push_back(number);
     continues = isContinued(line(number));
+    textSize_ += line(number).size();
   }
 }
 
@@ -37,7 +47,10 @@ std::string ModuleLines::getDeclaration(int line) const {
     const bool continues = isContinued(text);
     if (continues) text.remove_suffix(1);
     result += trimLeading(text);
-    if (!continues) break;
+    if (!continues || result.size() > kLongestStatement) break;
+  }
+  if (result.size() > kLongestStatement) {
+    result.resize(std::min(result.rfind(' ', kLongestStatement), kLongestStatement));
   }
   return result;
 }

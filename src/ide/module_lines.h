@@ -17,6 +17,8 @@ class ModuleLines {
   ModuleLines(const ModuleLines&) = delete;
   ModuleLines& operator=(const ModuleLines&) = delete;
 
+  /// Bytes, without line ends.
+  std::size_t textSize() const { return textSize_; }
   int count() const { return static_cast<int>(shared_.lines.size()); }
   std::string_view line(int number) const;
 
@@ -28,7 +30,7 @@ class ModuleLines {
   int statementStartLine(int line) const;
 
   /// The statement that `line` belongs to, on one line: leading blanks and the underscores at line
-  /// ends are cut, the blank before an underscore stays.
+  /// ends are cut, the blank before an underscore stays. Of more than 64 KB, the start.
   std::string getDeclaration(int line) const;
 
   /// The lines joined by CR, with none behind the last. Empty lines at the start leave no trace.
@@ -36,6 +38,7 @@ class ModuleLines {
 
  private:
   SharedLines shared_;
+  std::size_t textSize_ = 0;
   std::vector<int> statementStarts_;  // by logical line - 1
 };
 

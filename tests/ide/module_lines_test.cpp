@@ -41,5 +41,11 @@ TEST(ModuleLines, JoinsADeclarationWithOneBlankAtEachSeam) {
   EXPECT_EQ(module.getDeclaration(6), "Dim last, ");  // nothing follows
 }
 
+TEST(ModuleLines, CutsADeclarationThatNoProgramHas) {
+  const std::string name(20'000, 'n');
+  const FakeModule source({"Dim " + name + ", _", name + ", _", name + ", _", name});
+  EXPECT_EQ(ModuleLines(source).getDeclaration(1), "Dim " + name + ", " + name + ", " + name + ",");
+}
+
 }  // namespace
 }  // namespace tamrikon
