@@ -11,6 +11,7 @@ namespace tamrikon {
 namespace {
 
 constexpr std::size_t kLastBit = 63;  // that the pairs from there on share
+constexpr std::size_t kFairGrowth = 16;
 
 std::size_t byteOf(char c) {
   return static_cast<unsigned char>(c);
@@ -74,6 +75,8 @@ void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
     }
     const Pair& pair = pairs_[i];
     if ((possible & pair.self) == 0) continue;
+    // Pairs that make the text longer and longer have to pay for each walk through it.
+    if (work_.size() / kFairGrowth > text.size() && !budget.takeText(work_.size())) break;
     if (pair.isExact) {
       replaceExact(pair, maxLength);
     } else {

@@ -40,5 +40,15 @@ TEST(ReplaceTable, StopsAtTheEndOfTheBudget) {
   }
 }
 
+TEST(ReplaceTable, TakesEachWalkThroughATextThatGrewFromTheBudget) {
+  std::vector<std::string> table;
+  for (int i = 0; i < 10; ++i) table.insert(table.end(), {"a", "aa"});
+  for (int i = 0; i < 1000; ++i) table.insert(table.end(), {"a", "b", "b", "a"});
+  ExpansionBudget budget(0, 100'000);
+  std::string result;
+  ReplaceTable(table).appendReplaced("a", result, budget);
+  EXPECT_LT(budget.textLeft(), 1024U);
+}
+
 }  // namespace
 }  // namespace tamrikon
