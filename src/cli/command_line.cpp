@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <new>
+#include <stdexcept>
 
 #include "cli/commands.h"
 #include "cli/setting_overrides.h"
@@ -147,6 +148,8 @@ int runTamrikon(const std::vector<std::string>& arguments, const Streams& stream
     const int status = run();
     if (streams.out.flush()) return status;
     streams.err << "tamrikon: cannot write the output\n";
+  } catch (const std::length_error& tooMuch) {
+    streams.err << "tamrikon: " << tooMuch.what() << '\n';
   } catch (const std::bad_alloc&) {
     streams.err << "tamrikon: there is not enough memory\n";
   }

@@ -57,6 +57,9 @@ void ProgressDlg::startCompile() {
     session_.currentStore->loadSrc(session_.settings.templatePath, false);
     session_.currentStore->compile(*VBInstance);
     outcome_ = session_.cancelRequested ? CompileOutcome::aborted : CompileOutcome::finished;
+  } catch (const std::length_error& tooMuch) {
+    session_.log.logMessage(std::string("ERROR: ") + tooMuch.what());
+    outcome_ = CompileOutcome::failed;
   } catch (const std::exception&) {
     outcome_ = CompileOutcome::failed;
   }

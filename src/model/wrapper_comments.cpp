@@ -1,16 +1,45 @@
 #include "model/wrapper_comments.h"
 
+#include <stdexcept>
 #include <utility>
 
-#include "comments/comment_finder.h"
-
 namespace tamrikon {
+namespace {
+
+constexpr std::size_t kMaxCopied = std::size_t{256} << 20;
+
+std::size_t sizeOf(const ModuleLines& lines, const LineRange& range) {
+  std::size_t size = 0;
+  for (int line = range.first; line <= range.last; ++line) {
+    size += sizeof(std::string) + lines.line(line).size();
+  }
+  return size;
+}
+
+}  // namespace
+
+/// The names of a statement share what stands above it, which may be long.
+const CommentSearch& WrapperComments::searchAbove(const ModuleLines& lines, int codeLocation) {
+  if (searchedLines_ != &lines || searchedLocation_ != codeLocation) {
+    search_ = findComment(lines, codeLocation);
+    searchedLines_ = &lines;
+    searchedLocation_ = codeLocation;
+    const bool isFound = search_.end == CommentSearch::End::foundMarker;
+    searchedSize_ = isFound ? sizeOf(lines, search_.range) : 0;
+  } else {
+    copied_ += searchedSize_;
+    if (copied_ > kMaxCopied) {
+      throw std::length_error("A comment that is too long stands above too many names.");
+    }
+  }
+  return search_;
+}
 
 CommentList WrapperComments::getComment(Wrapper& wrapper) {
   auto comment = std::make_shared<Comment>();
   tryStep([&] {
     const ModuleLines& lines = wrapper.source().lines();
-    const CommentSearch search = findComment(lines, wrapper.CodeLocation());
+    const CommentSearch& search = searchAbove(lines, wrapper.CodeLocation());
     if (search.end == CommentSearch::End::withoutMarker) return;
     if (search.end == CommentSearch::End::foundMarker) *comment = commentBody(lines, search.range);
     wrapper.hadComment = !comment->empty();

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "comments/comment_finder.h"
 #include "model/wrapper.h"
 
 namespace tamrikon {
@@ -17,7 +18,8 @@ class WrapperComments {
 
   /// The raw lines of a member's comment. Sets `hadComment`, unless what stands above the
   /// declaration is no structured comment, and gives the wrapper the next help id, which goes to
-  /// the IDE as well if the settings want it. Each call takes a number.
+  /// the IDE as well if the settings want it. Each call takes a number. Throws std::length_error if
+  /// copies for several names of one statement take up too much memory.
   CommentList getComment(Wrapper& wrapper);
 
   /// The raw lines of a module's comment; nothing else changes.
@@ -31,7 +33,14 @@ class WrapperComments {
   bool prepareComment(Wrapper& wrapper) const;
 
  private:
+  const CommentSearch& searchAbove(const ModuleLines& lines, int codeLocation);
+
   const ProjectSettings& settings_;
+  const ModuleLines* searchedLines_ = nullptr;  // of the last search
+  int searchedLocation_ = 0;
+  CommentSearch search_;
+  std::size_t searchedSize_ = 0;  // of the comment that it found, in bytes
+  std::size_t copied_ = 0;        // of comments that were given out more than once
 };
 
 }  // namespace tamrikon

@@ -179,6 +179,16 @@ TEST_F(CommandLineTest, LivesThroughAnyTemplate) {
   EXPECT_EQ(run.err, "tamrikon: there is no template " + template_ + "\n");
 }
 
+TEST_F(CommandLineTest, StopsWhereNamesWouldCopyALongCommentTooOften) {
+  std::string source = "'**\n'" + std::string(8 << 20, 'x') + "\nPublic a";
+  for (int n = 0; n < 40; ++n) source += ", a" + std::to_string(n);
+  folder_.put("Cart.cls", source);
+  const std::string why = "A comment that is too long stands above too many names.\n";
+  EXPECT_EQ(compile({}).out, "Project: Shop\nERROR: " + why);
+  EXPECT_EQ(ProgramRun({"comment", project_, "--missing"}).err, "tamrikon: " + why);
+  EXPECT_EQ(folder_.get("Cart.cls"), source);
+}
+
 TEST_F(CommandLineTest, ReportsAFullDisk) {
   const ProgramRun unheard({"settings", project_},
                            [](Streams& streams) { streams.out.setstate(std::ios::badbit); });
