@@ -1,18 +1,33 @@
 #include "compiler/output_pages.h"
 
+#include <stdexcept>
+
 #include "compiler/external_programs.h"
 #include "compiler/topic_order.h"
 #include "model/index_contents.h"
 
 namespace tamrikon {
+namespace {
+
+// Whatever a template adds to each page: thousands of pages of megabytes, before it counts.
+constexpr std::size_t kFreeSize = std::size_t{2} << 30;
+constexpr std::size_t kMaxGrowth = 1000;
+
+}  // namespace
 
 OutputPages::OutputPages(Session& session, store& store, VBE& ide)
-    : session_(session), store_(store), ide_(ide), projectName_(ide.ActiveVBProject().Name()) {}
+    : session_(session),
+      store_(store),
+      ide_(ide),
+      projectName_(ide.ActiveVBProject().Name()),
+      maxWritten_(kFreeSize + kMaxGrowth * store.sourceSize()) {}
 
 // A failure has been reported by the writer; an answer that gives up shows at the next checkpoint.
 void OutputPages::put(Write write, std::string_view name, std::string_view extension,
                       std::string text) {
   const PhaseScope phase(session_.times, CompilePhase::writing);
+  written_ += text.size();
+  if (written_ > maxWritten_) throw std::length_error("The pages take up too much space.");
   std::string path = session_.settings.outputPath;
   path.append(name).append(extension);
   if (write == Write::append) {

@@ -11,6 +11,8 @@
 
 namespace tamrikon {
 
+/// Pages that are out of all proportion to the sources end the compile: std::length_error is
+/// thrown.
 class OutputPages {
  public:
   /// All of them must outlive this object. The project is the active one.
@@ -45,6 +47,8 @@ class OutputPages {
   store& store_;
   VBE& ide_;
   const std::string projectName_;
+  const std::size_t maxWritten_;
+  std::size_t written_ = 0;  // bytes of all pages
   std::size_t topicsDone_ = 0;
 };
 

@@ -44,6 +44,9 @@ class store {
   /// The wrappers that get a topic, in the order of all wrappers.
   std::vector<WrapperRef> compiledList;
 
+  /// The bytes of the sources that were analysed.
+  std::size_t sourceSize() const { return sources_.textSize(); }
+
   /// What the making of a page needs.
   PageContext pageContext();
 

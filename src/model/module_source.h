@@ -55,6 +55,13 @@ class SourceCache {
   ModuleSource& of(CodeModule& module);
   void clear() { sources_.clear(); }
 
+  /// The bytes of all of them.
+  std::size_t textSize() const {
+    std::size_t size = 0;
+    for (const auto& [module, source] : sources_) size += source->lines().textSize();
+    return size;
+  }
+
  private:
   std::unordered_map<const CodeModule*, std::unique_ptr<ModuleSource>> sources_;
 };
