@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
 DOCS := examples/Inventory/Documentation
 
-.PHONY: run run-workbench help test sanitize fuzz valgrind coverage bench screenshots package install format tidy clean
+.PHONY: run run-workbench help test sanitize fuzz kill hostile valgrind coverage bench screenshots package install format tidy clean
 
 # Builds the program and compiles the documentation of the example projects.
 run: release
@@ -52,6 +52,15 @@ fuzz:
 	    > $$name.log 2>&1 || { tail -n 40 $$name.log; exit 1; }; \
 	  echo "$$name: $$(tail -n 1 $$name.log)"; \
 	done
+
+# The program killed so often while it saves sources: none may be lost.
+RUNS ?= 200
+kill: release
+	TAMRIKON=build/release/bin/tamrikon RUNS=$(RUNS) /usr/bin/python3 -B tests/faults/kill_test.py
+
+# Time and memory for input that is made to hurt.
+hostile: release
+	/usr/bin/python3 -B bench/hostile_input.py build/release/bin/tamrikon
 
 # The optimised program under valgrind, on a copy of the example projects.
 valgrind: release
