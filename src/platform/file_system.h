@@ -13,8 +13,8 @@ class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
-  /// Reads the whole file, of at most 256 MB. On failure `bytes` is empty; a pipe or a device, which
-  /// may never end, is one.
+  /// Reads the whole file. On failure `bytes` is empty. Files above 256 MB fail, and pipes and
+  /// devices, which may never end.
   virtual FileError read(const std::string& path, std::string& bytes) = 0;
 
   /// Replaces or creates the file; one that has these bytes already keeps its time. After a failure
