@@ -56,7 +56,7 @@ void fuzz(const std::string& data) {
     if (lines.empty() || edited.isModule()) continue;
     const EditedComment written(module, edited.member().CodeLocation(), settings);
     for (std::string& body : lines) body.insert(0, body.starts_with("**") ? "' " : "'");
-    test::demand(written.commentLines() == *stripCommentQuotes(std::move(lines)),
+    test::demand(written.commentLines() == stripCommentQuotes(lines)->lines(),
                  "what was written isn't found");
   }
   while (edits-- > 0) module.undo();
