@@ -25,13 +25,19 @@ FileOnDisk::FileOnDisk(std::string path, std::string_view bytes)
 
 FileOnDisk::Stamp FileOnDisk::stampOf(std::string_view bytes) {
   std::uint64_t hash = 0xCBF29CE484222325U;
-  for (std::size_t i = 0; i < bytes.size(); i += sizeof hash) {
+  const auto take = [&](std::string_view part) {
     std::uint64_t word = 0;
-    std::memcpy(&word, bytes.data() + i, std::min(sizeof word, bytes.size() - i));
+    std::memcpy(&word, part.data(), part.size());
     hash = (hash ^ word) * 0x9E3779B97F4A7C15U;
     hash ^= hash >> 29;
+  };
+  const std::size_t size = bytes.size();
+  // The size of a whole word is known to the compiler.
+  for (; bytes.size() >= sizeof hash; bytes.remove_prefix(sizeof hash)) {
+    take({bytes.data(), sizeof hash});
   }
-  return {bytes.size(), hash};
+  if (!bytes.empty()) take(bytes);
+  return {size, hash};
 }
 
 bool FileOnDisk::isChanged(FileSystem& files) const {

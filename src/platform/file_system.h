@@ -51,7 +51,7 @@ class FileSystem {
   virtual std::string absolute(const std::string& path) = 0;
 };
 
-/// The files of the machine. It has no state of its own.
+/// The files of the machine, for whichever thread.
 FileSystem& nativeFileSystem();
 
 }  // namespace tamrikon

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -144,12 +145,15 @@ class PosixFileSystem final : public FileSystem {
   FileError write(const std::string& path, std::string_view bytes) override {
     const std::string native = checkedPath(path);
     if (native.empty()) return FileError::badFileName;
-    // Most files are new, and then nothing needs to be asked or compared.
-    Descriptor file(native, O_WRONLY | O_CREAT | O_EXCL);
-    if (file.isOpen()) {
+    // Of a new file nothing needs to be asked or compared, and where one is new the next one mostly
+    // is.
+    const bool triesOld = findsOldFiles_;
+    Descriptor file(native, triesOld ? O_RDWR : O_WRONLY | O_CREAT | O_EXCL);
+    if (file.isOpen() && !triesOld) {
       return writeAll(file.number(), bytes) && file.close() ? FileError::none : errorOf(errno);
     }
-    file.open(native, O_RDWR | O_CREAT);
+    findsOldFiles_ = file.isOpen() || errno == EEXIST;
+    if (!file.isOpen()) file.open(native, O_RDWR | O_CREAT);
     if (!file.isOpen() && errno == EACCES) file.open(native, O_WRONLY | O_CREAT);
     if (!file.isOpen()) return errorOf(errno, native);
     struct stat status {};
@@ -244,6 +248,9 @@ class PosixFileSystem final : public FileSystem {
   }
 
  private:
+  // Whether the last write() met a file. A guess about the next one, whichever thread makes it.
+  std::atomic<bool> findsOldFiles_ = false;
+
   /// The native path, or empty if it can't name a file: the system would stop reading at a NUL.
   static std::string checkedPath(const std::string& path) {
     return path.find('\0') == std::string::npos ? nativePath(path) : std::string();

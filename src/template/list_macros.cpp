@@ -32,8 +32,13 @@ void Expansion::expandConstruct(const MacroName& tag) {
   const auto construct =
       std::lower_bound(source.constructs.begin(), source.constructs.end(), tagToken,
                        [](const Construct& c, TextIndex token) { return c.tag < token; });
-  const MacroName* argument = findArgument(*construct, tag);
-  if (argument == nullptr || !findEndMarker(*construct, tag)) return;
+  const MacroName* argument = construct->soundArgument;
+  const bool isSound =
+      argument != nullptr && source.tokens[construct->endMarker].start < frames_.back().end;
+  if (!isSound) {
+    argument = findArgument(*construct, tag);
+    if (argument == nullptr || !findEndMarker(*construct, tag)) return;
+  }
   frames_.back().offset = source.tokens[construct->endMarker].end;
   frames_.back().token = construct->endMarker + 1;
   if (tag.kind == MacroKind::ifNotEmpty) {
@@ -64,10 +69,7 @@ const MacroName* Expansion::findArgument(const Construct& construct, const Macro
     if (source.isWrong(token)) log(wrongNameWarning(source.written(token)));
     argument = token.name;
   }
-  if (argument != nullptr && !argument->text.empty() && argument->kind != MacroKind::doList &&
-      argument->kind != MacroKind::ifNotEmpty) {
-    return argument;
-  }
+  if (argument != nullptr && isArgument(*argument)) return argument;
   log("WARNING (config file): Wrong argument \"" + (argument == nullptr ? "" : argument->text) +
       "\" of " + tag.text + " macro.");
   frame.offset = construct.lineEnd + 1;
@@ -91,7 +93,6 @@ bool Expansion::findEndMarker(const Construct& construct, const MacroName& tag) 
 void Expansion::reportSearch(const Construct& construct, bool isFound) {
   const Frame& frame = frames_.back();
   const MacroText& source = *frame.source;
-  if (source.wrongNames.empty()) return;
   auto wrong =
       std::lower_bound(source.wrongNames.begin(), source.wrongNames.end(), construct.bodyToken);
   for (; wrong != source.wrongNames.end(); ++wrong) {

@@ -23,6 +23,16 @@ void findTagLines(MacroText& text) {
   }
 }
 
+/// Notes which constructs can be expanded without a further look.
+void findSoundArguments(MacroText& text) {
+  if (!text.wrongNames.empty()) return;
+  for (Construct& construct : text.constructs) {
+    if (construct.endMarker == kNowhere || construct.tag + 1 >= construct.bodyToken) continue;
+    const MacroName* argument = text.tokens[construct.tag + 1].name;
+    if (isArgument(*argument)) construct.soundArgument = argument;
+  }
+}
+
 /// Pairs the tags of one kind with their end markers, in one pass: the search of a tag begins
 /// behind its line, counts the tags and end markers that it meets, and stops at a lone "$".
 class MarkerMatcher {
@@ -92,6 +102,10 @@ class MarkerMatcher {
 
 }  // namespace
 
+bool isArgument(const MacroName& name) {
+  return !name.text.empty() && name.kind != MacroKind::doList && name.kind != MacroKind::ifNotEmpty;
+}
+
 ParsedName parseMacroName(std::string_view text) {
   std::size_t end = 1;
   while (end < text.size() && !endsName(text[end])) ++end;
@@ -123,7 +137,7 @@ void scanMacros(MacroText& text, MacroSlots& slots) {
     const auto token = static_cast<TextIndex>(text.tokens.size());
     if (!parsed.isClosed) text.wrongNames.push_back(token);
     if (name.kind == MacroKind::doList || name.kind == MacroKind::ifNotEmpty) {
-      text.constructs.push_back({token, kNowhere, kNowhere, kNowhere, kNowhere});
+      text.constructs.push_back({token, kNowhere, kNowhere, kNowhere, kNowhere, nullptr});
     }
     const std::size_t end = offset + parsed.length();
     text.tokens.push_back({static_cast<TextIndex>(offset), static_cast<TextIndex>(end), &name});
@@ -133,6 +147,7 @@ void scanMacros(MacroText& text, MacroSlots& slots) {
   findTagLines(text);
   MarkerMatcher(text, MacroKind::doList, MacroKind::endDoList).run();
   MarkerMatcher(text, MacroKind::ifNotEmpty, MacroKind::endIfNotEmpty).run();
+  findSoundArguments(text);
 }
 
 }  // namespace tamrikon

@@ -22,6 +22,9 @@ struct ParsedName {
 /// name at a blank, a tab, a CR or the end.
 ParsedName parseMacroName(std::string_view text);
 
+/// Whether a DOLIST or IFNOTEMPTY takes this macro.
+bool isArgument(const MacroName& name);
+
 /// The message about a wrong name; `written` is the name with its opening "$".
 std::string wrongNameWarning(std::string_view written);
 

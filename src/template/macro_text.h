@@ -31,6 +31,9 @@ struct Construct {
   TextIndex bodyToken;   // first token behind that CR
   TextIndex endMarker;   // token that ends the construct, or kNowhere
   TextIndex elseMarker;  // token of the ELSEIF that divides the branches, or kNowhere
+
+  /// The argument, if nothing is wrong in the whole text and the construct is complete.
+  const MacroName* soundArgument = nullptr;
 };
 
 /// The rest of the fields is filled by scanMacros(). As no macro name crosses a line end and no
