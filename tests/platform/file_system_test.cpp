@@ -56,6 +56,17 @@ TEST(FileSystem, FileThatHasTheBytesKeepsItsTime) {
   }
 }
 
+TEST(FileSystem, OldAndNewFilesComeInAnyOrder) {
+  const test::TempFolder folder;
+  const std::string letters = "onnoonon";  // each file an old or a new one
+  for (std::size_t n = 0; n < letters.size(); ++n) {
+    const std::string name = std::to_string(n);
+    if (letters[n] == 'o') folder.put(name, "a longer text than the new one");
+    EXPECT_EQ(nativeFileSystem().write(folder / name, "page"), FileError::none);
+    EXPECT_EQ(folder.get(name), "page") << n;
+  }
+}
+
 TEST(FileSystem, ReplacingKeepsPermissionsAndLinks) {
   const test::TempFolder folder;
   const std::string target = folder.put("real/target", "old");
