@@ -30,7 +30,7 @@ void SourceFile::read(std::string bytes) {
   const SourceHead head = readSourceHead(*text_);
   headBlock_ = std::string_view(*text_).substr(0, head.attributesStart);
   blockClass_ = head.blockClass;
-  lines_.clear();
+  lines_ = std::make_shared<Lines>();
   isAsRead_ = true;
   tails_.clear();
   attributes_.clear();
@@ -44,13 +44,13 @@ void SourceFile::readLines(std::size_t attributesStart, std::size_t codeStart) {
   for (LineReader reader(headBlock_); reader.next(); ++origin) headBlockEnd_ = reader.end();
   headBlock_.remove_suffix(textOf(headBlockEnd_).size());
   const std::size_t guess = (text_->size() - codeStart) / 24;
-  lines_.reserve(guess);
+  lines_->reserve(guess);
   tails_.reserve(guess);
   LineReader reader(*text_, attributesStart);
   for (std::size_t start = attributesStart; reader.next(); start = reader.offset()) {
     const bool isInHead = start < codeStart;
-    if (!isInHead && !(isAttributeLine(reader.line()) && !lines_.empty())) {
-      lines_.push_back(reader.line());
+    if (!isInHead && !(isAttributeLine(reader.line()) && !lines_->empty())) {
+      lines_->push_back(reader.line());
       tails_.push_back({origin++, 0, reader.end()});
       continue;
     }
@@ -64,6 +64,8 @@ void SourceFile::readLines(std::size_t attributesStart, std::size_t codeStart) {
     const std::uint32_t group = isInHead ? 0 : groupBehind(tails_.back());
     groups_[group].push_back(newAttribute(attribute));
   }
+  lines_->shrink_to_fit();
+  tails_.shrink_to_fit();
 }
 
 std::uint32_t SourceFile::groupBehind(LineTail& tail) {
@@ -80,7 +82,7 @@ std::uint32_t SourceFile::newAttribute(const SourceAttribute& attribute) {
 }
 
 std::string SourceFile::text(int first, int count) const {
-  const auto begin = lines_.begin() + (first - 1);
+  const auto begin = lines_->begin() + (first - 1);
   const auto end = begin + count;
   std::size_t size = 0;
   for (auto line = begin; line != end; ++line) size += line->size() + 2;
@@ -95,17 +97,17 @@ std::string SourceFile::text(int first, int count) const {
 
 SharedLines SourceFile::shareLines() const {
   if (isAsRead_) return {text_, lines_};
-  const auto copy = std::make_shared<std::string>();
+  const auto text = std::make_shared<std::string>();
   std::size_t size = 0;
-  for (const std::string_view line : lines_) size += line.size();
-  copy->reserve(size);  // the lines are views of it
-  SharedLines shared{copy, {}};
-  shared.lines.reserve(lines_.size());
-  for (const std::string_view line : lines_) {
-    shared.lines.emplace_back(copy->data() + copy->size(), line.size());
-    *copy += line;
+  for (const std::string_view line : *lines_) size += line.size();
+  text->reserve(size);  // the lines are views of it
+  const auto lines = std::make_shared<Lines>();
+  lines->reserve(lines_->size());
+  for (const std::string_view line : *lines_) {
+    lines->emplace_back(text->data() + text->size(), line.size());
+    *text += line;
   }
-  return shared;
+  return {text, lines};
 }
 
 const std::vector<std::uint32_t>& SourceFile::attributesBehind(int line) const {
@@ -116,7 +118,7 @@ const std::vector<std::uint32_t>& SourceFile::attributesBehind(int line) const {
 }
 
 bool SourceFile::runsOn(std::size_t index, bool ranOn) const {
-  if (index + 1 == lines_.size() || !isContinued(lines_[index])) return false;
+  if (index + 1 == lines_->size() || !isContinued((*lines_)[index])) return false;
   const auto isNew = [](const LineTail& tail) { return tail.origin == kNoOrigin; };
   return ranOn || isNew(tails_[index]) || isNew(tails_[index + 1]);
 }
@@ -133,8 +135,8 @@ std::optional<std::string> SourceFile::bytes(LackingCharacter& lacking) const {
   fits = fits && addGroup(0);
   std::vector<std::uint32_t> waiting;  // groups that go behind the end of a statement
   bool ranOn = false;
-  for (std::size_t i = 0; fits && i < lines_.size(); ++i) {
-    fits = writer.add(lines_[i], tails_[i].origin, tails_[i].end);
+  for (std::size_t i = 0; fits && i < lines_->size(); ++i) {
+    fits = writer.add((*lines_)[i], tails_[i].origin, tails_[i].end);
     if (tails_[i].group != 0) waiting.push_back(tails_[i].group);
     ranOn = runsOn(i, ranOn);
     if (ranOn) continue;

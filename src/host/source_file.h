@@ -32,10 +32,10 @@ class SourceFile {
   /// cleared.
   void reload(std::string bytes);
 
-  int lineCount() const { return static_cast<int>(lines_.size()); }
+  int lineCount() const { return static_cast<int>(lines_->size()); }
 
   /// The visible lines. The views hold until the next edit.
-  const std::vector<std::string_view>& lines() const { return lines_; }
+  const std::vector<std::string_view>& lines() const { return *lines_; }
 
   /// The same for ever: their text is copied only if a line was edited since the file was read.
   SharedLines shareLines() const;
@@ -94,6 +94,7 @@ class SourceFile {
 
  private:
   class SavedStateWatch;
+  using Lines = std::vector<std::string_view>;
 
   void read(std::string bytes);
   void readLines(std::size_t attributesStart, std::size_t codeStart);
@@ -118,8 +119,8 @@ class SourceFile {
   std::string_view headBlock_;  // what stands before the head's attributes
   LineEnd headBlockEnd_ = LineEnd::none;
   std::string_view blockClass_;
-  std::vector<std::string_view> lines_;
-  bool isAsRead_ = true;         // all lines are views of text_
+  std::shared_ptr<Lines> lines_ = std::make_shared<Lines>();
+  bool isAsRead_ = true;         // all lines are views of text_, and others may share them
   std::vector<LineTail> tails_;  // beside lines_
   std::vector<SourceAttribute> attributes_;
   std::vector<std::vector<std::uint32_t>> groups_;  // of attributes; the first is that of the head

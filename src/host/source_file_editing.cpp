@@ -80,7 +80,7 @@ void SourceFile::deleteLines(int first, int count) {
 
 void SourceFile::replaceLines(int first, int count, std::string_view text, EditKind kind) {
   const std::vector<std::string_view> pieces = dividedLines(text);
-  const std::span<const std::string_view> old(lines_.data() + (first - 1),
+  const std::span<const std::string_view> old(lines_->data() + (first - 1),
                                               static_cast<std::size_t>(count));
   const LineMatch match = matchLines(old, pieces);
   const std::size_t same = match.prefix + match.suffix;
@@ -113,7 +113,7 @@ std::vector<SourceLine> SourceFile::replacement(int first, int count, std::strin
   }
   const auto start = static_cast<std::size_t>(first - 1);
   const auto size = static_cast<std::size_t>(count);
-  const std::span<const std::string_view> old(lines_.data() + start, size);
+  const std::span<const std::string_view> old(lines_->data() + start, size);
   const std::vector<std::size_t> successors = successorsOf(old, pieces);
   std::vector<bool> isTaken(lines.size());
   for (std::size_t i = 0; i < size; ++i) {
@@ -128,7 +128,7 @@ std::vector<SourceLine> SourceFile::replacement(int first, int count, std::strin
       isTaken[successors[i]] = true;
     }
   }
-  if (start + size == lines_.size() && !tails_.empty()) lines.back().tail.end = tails_.back().end;
+  if (start + size == lines_->size() && !tails_.empty()) lines.back().tail.end = tails_.back().end;
   return lines;
 }
 
@@ -147,7 +147,7 @@ void SourceFile::retype(EditStep& step, int line, std::string_view text) {
   const std::vector<SourceLine>& old = std::get<LinesChange>(step.changes.front()).other;
   const bool isBack = !old.empty() && old.front().text == text;
   const std::string_view kept = step.keep(std::string(text));
-  lines_[index] = kept;
+  (*lines_)[index] = kept;
   tails_[index].origin = isBack ? old.front().tail.origin : kNoOrigin;
   step.texts.erase(step.texts.begin(), step.texts.end() - 1);
   ++revision_;
@@ -214,20 +214,23 @@ void SourceFile::tell(const SourceChange& change) {
 }
 
 void SourceFile::swap(LinesChange& change) {
-  isAsRead_ = false;
+  if (isAsRead_) {
+    isAsRead_ = false;
+    if (lines_.use_count() > 1) lines_ = std::make_shared<Lines>(*lines_);
+  }
   const auto start = change.first - 1;
   const auto count = static_cast<std::ptrdiff_t>(change.count);
   const auto inserted = static_cast<std::ptrdiff_t>(change.other.size());
   const std::ptrdiff_t both = std::min(count, inserted);
   const auto take = [&](std::ptrdiff_t i) {
     const auto index = static_cast<std::size_t>(start + i);
-    std::swap(lines_[index], change.other[static_cast<std::size_t>(i)].text);
+    std::swap((*lines_)[index], change.other[static_cast<std::size_t>(i)].text);
     std::swap(tails_[index], change.other[static_cast<std::size_t>(i)].tail);
   };
-  const auto lines = lines_.begin() + start + both;
+  const auto lines = lines_->begin() + start + both;
   const auto tails = tails_.begin() + start + both;
   if (inserted > both) {
-    lines_.insert(lines, static_cast<std::size_t>(inserted - both), {});
+    lines_->insert(lines, static_cast<std::size_t>(inserted - both), {});
     tails_.insert(tails, static_cast<std::size_t>(inserted - both), {});
   } else {
     change.other.resize(static_cast<std::size_t>(count));
@@ -237,7 +240,7 @@ void SourceFile::swap(LinesChange& change) {
     change.other.resize(static_cast<std::size_t>(both));
     change.other.shrink_to_fit();
   } else {
-    lines_.erase(lines, lines + (count - both));
+    lines_->erase(lines, lines + (count - both));
     tails_.erase(tails, tails + (count - both));
   }
   change.count = static_cast<int>(inserted);
@@ -262,11 +265,11 @@ void SourceFile::reload(std::string bytes) {
   const SavedStateWatch watch(*this);
   const std::string before = text(1, lineCount());
   const std::vector<std::string_view> old =
-      lines_.empty() ? std::vector<std::string_view>() : dividedLines(before);
+      lines_->empty() ? std::vector<std::string_view>() : dividedLines(before);
   read(std::move(bytes));
   history_.clear();
   ++revision_;
-  const LineMatch match = matchLines(old, lines_);
+  const LineMatch match = matchLines(old, *lines_);
   const int same = static_cast<int>(match.prefix + match.suffix);
   const int removed = static_cast<int>(old.size()) - same;
   const int inserted = lineCount() - same;

@@ -84,7 +84,7 @@ class CodePane {
 /// The lines of a module together with what keeps their text alive.
 struct SharedLines {
   std::shared_ptr<const void> memory;
-  std::vector<std::string_view> lines;
+  std::shared_ptr<const std::vector<std::string_view>> lines;
 };
 
 class CodeModule {

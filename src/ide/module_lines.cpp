@@ -25,7 +25,7 @@ ModuleLines::ModuleLines(const CodeModule& module) : shared_(module.ShareLines()
 
 std::string_view ModuleLines::line(int number) const {
   if (number < 1 || number > count()) return {};
-  return shared_.lines[static_cast<std::size_t>(number - 1)];
+  return (*shared_.lines)[static_cast<std::size_t>(number - 1)];
 }
 
 int ModuleLines::toPhysicalLine(int logicalLine) const {

@@ -19,7 +19,7 @@ class ModuleLines {
 
   /// Bytes, without line ends.
   std::size_t textSize() const { return textSize_; }
-  int count() const { return static_cast<int>(shared_.lines.size()); }
+  int count() const { return static_cast<int>(shared_.lines->size()); }
   std::string_view line(int number) const;
 
   /// The first line of the statement that a logical line stands for: logical lines count a

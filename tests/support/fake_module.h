@@ -45,7 +45,7 @@ struct FakeModule : CodeModule {
   SharedLines ShareLines() const override {
     onCall();
     const auto copy = std::make_shared<std::vector<std::string>>(lines);
-    return {copy, {copy->begin(), copy->end()}};
+    return {copy, std::make_shared<std::vector<std::string_view>>(copy->begin(), copy->end())};
   }
   void InsertLines(int line, const std::string& text) override {
     onCall();
