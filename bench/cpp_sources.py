@@ -1,7 +1,11 @@
-"""Turns a generated project into C++ headers with the same classes, members and comment texts."""
+"""Turns a generated project into C++ headers with the same classes, members and comment texts.
+
+    cpp_sources.py PROJECT FOLDER
+"""
 
 import pathlib
 import re
+import sys
 
 TYPES = {"Long": "long", "String": "std::string", "Boolean": "bool", "Currency": "double", "Date": "double"}
 DECLARATION = re.compile(
@@ -56,8 +60,12 @@ def header(source):
     return "#pragma once\n#include <string>\n" + top + "class " + source.stem + " {\n" + "".join(text) + "};\n"
 
 
-def write(project, folder):
-    folder = pathlib.Path(folder)
+def main():
+    project, folder = map(pathlib.Path, sys.argv[1:])
     folder.mkdir()
-    for source in sorted(pathlib.Path(project, "Source").iterdir()):
+    for source in sorted((project / "Source").iterdir()):
         (folder / (source.stem + ".h")).write_text(header(source), encoding="ascii")
+
+
+if __name__ == "__main__":
+    main()
