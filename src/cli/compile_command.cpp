@@ -1,6 +1,7 @@
 #include <fstream>
 #include <iomanip>
 #include <memory>
+#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -109,16 +110,18 @@ void printTimes(const CompileTimes& times, std::ostream& out) {
       {CompilePhase::programs, "programs"},   {CompilePhase::other, "other"},
   };
   double total = 0;
+  std::ostringstream text;
+  text << std::fixed << std::setprecision(3);
   const auto print = [&](const char* name, double seconds) {
-    out << std::left << std::setw(10) << name << std::right << std::setw(10) << seconds << " s\n";
+    text << std::left << std::setw(10) << name << std::right << std::setw(10) << seconds << " s\n";
   };
-  out << std::fixed << std::setprecision(3);
   for (const Named& named : kNamed) {
     const double seconds = times.of(named.phase).count();
     print(named.name, seconds);
     total += seconds;
   }
   print("all", total);
+  out << text.str();
 }
 
 /// Keeps an object to the end of the process, which takes all memory back at once: a large project
