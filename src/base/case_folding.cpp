@@ -181,13 +181,20 @@ bool isCaseless(char32_t codePoint) {
 }
 
 std::string lowered(std::string_view text) {
-  std::string result(text);
+  std::string result;
+  appendLowered(result, text);
+  return result;
+}
+
+void appendLowered(std::string& result, std::string_view text) {
+  const std::size_t begin = result.size();
+  result += text;
   std::size_t offset = 0;
   for (; offset < text.size() && isAsciiByte(text[offset]); ++offset) {
-    result[offset] = asciiLower(text[offset]);
+    result[begin + offset] = asciiLower(text[offset]);
   }
-  if (offset == text.size()) return result;  // as it mostly is
-  result.resize(offset);
+  if (offset == text.size()) return;  // as it mostly is
+  result.resize(begin + offset);
   while (offset < text.size()) {
     const std::size_t start = offset;
     const char32_t codePoint = readCodePoint(text, offset);
@@ -197,7 +204,6 @@ std::string lowered(std::string_view text) {
       appendCodePoint(result, lowerCase(codePoint));
     }
   }
-  return result;
 }
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {

@@ -17,6 +17,9 @@ bool isCaseless(char32_t codePoint);
 /// `text` with each letter in lower case. Its length in bytes can differ from that of `text`.
 std::string lowered(std::string_view text);
 
+/// The same at the end of `result`, of which `text` must be no part.
+void appendLowered(std::string& result, std::string_view text);
+
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 bool startsWithIgnoringCase(std::string_view text, std::string_view prefix);
 

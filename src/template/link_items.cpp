@@ -7,7 +7,6 @@
 #include <string>
 
 #include "base/case_folding.h"
-#include "base/utf8.h"
 
 namespace tamrikon {
 namespace {
@@ -31,21 +30,13 @@ LinkTarget targetOf(std::string_view reference, LinkResolver* resolver) {
 class SortKeys {
  public:
   explicit SortKeys(const std::vector<LinkItem>& items) {
-    const bool isPlain = std::all_of(items.begin(), items.end(),
-                                     [](const LinkItem& item) { return isAscii(item.label); });
     ends_.reserve(items.size());
     for (const LinkItem& item : items) {
-      if (isPlain) {
-        texts_ += item.label;
-      } else {
-        texts_ += lowered(item.label);
-      }
+      appendLowered(texts_, item.label);
       texts_ += '\r';
       appendNumber(item.target.helpId);
       ends_.push_back(texts_.size());
     }
-    if (!isPlain) return;
-    for (char& c : texts_) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
   }
 
   std::string_view operator[](std::size_t n) const {
