@@ -25,7 +25,7 @@ using Lines = CommentLines;
 
 CommentList bodyOf(Lines written) {
   for (std::string& line : written) line.insert(0, "'");
-  return stripCommentQuotes(std::move(written));
+  return stripCommentQuotes(written);
 }
 
 /// What the editor would write over a comment that stands in the source.

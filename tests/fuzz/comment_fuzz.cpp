@@ -4,6 +4,7 @@
 #include "editor/comment_fields.h"
 #include "editor/compose_comment.h"
 #include "fuzz/fuzz_target.h"
+#include "fuzz/layout.h"
 #include "platform/text_decoding.h"
 
 namespace {
@@ -12,7 +13,7 @@ namespace {
 tamrikon::CommentLines rewritten(tamrikon::CommentLines lines,
                                  const tamrikon::ProjectSettings& settings) {
   for (std::string& line : lines) line.insert(0, "'");
-  const tamrikon::CommentList body = tamrikon::stripCommentQuotes(std::move(lines));
+  const tamrikon::CommentList body = tamrikon::stripCommentQuotes(lines);
   return composeComment(parseIntoFields(*body, settings), settings);
 }
 
@@ -21,16 +22,14 @@ tamrikon::CommentLines rewritten(tamrikon::CommentLines lines,
 void fuzz(const std::string& data) {
   using namespace tamrikon;
   if (data.empty()) return;
-  ProjectSettings settings;
-  settings.wordWrapLength = static_cast<std::int16_t>(data[0]);
-  settings.autoInsertEOL = static_cast<std::int16_t>(data[0] & 1);
+  ProjectSettings settings = test::layoutFrom(data[0]);
   settings.indentMode = static_cast<std::int16_t>(data[0] >> 1 & 1);
   CommentLines raw;
   // No line of a source holds a CR.
   for (const std::string_view line : splitLines(std::string_view(data).substr(1))) {
     raw.emplace_back(line);
   }
-  const CommentList comment = stripCommentQuotes(std::move(raw));
+  const CommentList comment = stripCommentQuotes(raw);
   CommentParser parser(settings);
   parser.setComment(comment);
   parser.getSettingsList();

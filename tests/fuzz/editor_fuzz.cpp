@@ -7,6 +7,7 @@
 #include "editor/compose_comment.h"
 #include "editor/edited_comment.h"
 #include "fuzz/fuzz_target.h"
+#include "fuzz/layout.h"
 #include "fuzz/memory_files.h"
 #include "host/edit_group.h"
 #include "host/host_ide.h"
@@ -28,9 +29,7 @@ std::vector<std::string> codeOf(const tamrikon::CodeModule& module) {
 void fuzz(const std::string& data) {
   using namespace tamrikon;
   if (data.empty()) return;
-  ProjectSettings settings;
-  settings.wordWrapLength = static_cast<std::int16_t>(data[0]);
-  settings.autoInsertEOL = static_cast<std::int16_t>(data[0] & 1);
+  const ProjectSettings settings = test::layoutFrom(data[0]);
   test::MemoryFiles disk;
   disk.files = {{"/p/P.vbp", "Class=C; C.cls\n"}, {"/p/C.cls", data.substr(1)}};
   std::string why;
