@@ -4,9 +4,11 @@
 
 #include "cli/command_line.h"
 #include "platform/interrupt.h"
+#include "platform/large_pages.h"
 #include "platform/standard_streams.h"
 
 int main(int argc, char** argv) {
+  tamrikon::preferLargePages();
   std::ios::sync_with_stdio(false);
   tamrikon::InterruptWatch interrupts;
   tamrikon::Streams streams(std::cout, std::cerr);
