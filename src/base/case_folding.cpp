@@ -189,12 +189,15 @@ std::string lowered(std::string_view text) {
 void appendLowered(std::string& result, std::string_view text) {
   const std::size_t begin = result.size();
   result += text;
-  std::size_t offset = 0;
-  for (; offset < text.size() && isAsciiByte(text[offset]); ++offset) {
-    result[begin + offset] = asciiLower(text[offset]);
+  char* const copy = result.data() + begin;
+  unsigned char bits = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    bits |= static_cast<unsigned char>(text[i]);
+    copy[i] = asciiLower(text[i]);
   }
-  if (offset == text.size()) return;  // as it mostly is
-  result.resize(begin + offset);
+  if (bits < 0x80) return;  // as it mostly is
+  result.resize(begin);
+  std::size_t offset = 0;
   while (offset < text.size()) {
     const std::size_t start = offset;
     const char32_t codePoint = readCodePoint(text, offset);

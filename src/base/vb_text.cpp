@@ -36,7 +36,10 @@ std::string_view stripLineComment(std::string_view text) {
 }
 
 std::size_t firstWhitespace(std::string_view text) {
-  return text.find_first_of(" \t") + 1;
+  // Words are short: a search for each character that may end them would cost more.
+  const auto end =
+      std::find_if(text.begin(), text.end(), [](char c) { return c == ' ' || c == '\t'; });
+  return end == text.end() ? 0 : static_cast<std::size_t>(end - text.begin()) + 1;
 }
 
 std::size_t firstWhitespaceOutsideStrings(std::string_view text) {

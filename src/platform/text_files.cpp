@@ -1,6 +1,6 @@
 #include "platform/text_files.h"
 
-#include "base/utf8.h"
+#include "platform/line_breaks.h"
 #include "platform/text_decoding.h"
 
 namespace tamrikon {
@@ -12,17 +12,11 @@ FileErrorAnswer TextFiles::ask(const std::string& path, std::string_view verb, F
 
 void TextFiles::breakLines(std::string_view text) {
   bytes_.clear();
-  for (std::string_view rest = text; !rest.empty();) {
-    const std::size_t lineLength = rest.find('\r');
-    bytes_.append(rest, 0, lineLength);
-    if (lineLength == std::string_view::npos) break;
-    bytes_.append("\r\n");
-    rest.remove_prefix(lineLength + 1);
-  }
+  isAscii_ = appendWithLineBreaks(bytes_, text);
 }
 
 void TextFiles::encode() {
-  if (!isAscii(bytes_)) bytes_ = page_->encode(bytes_);
+  if (!isAscii_) bytes_ = page_->encode(bytes_);
 }
 
 int TextFiles::put(WriteOperation write, const std::string& path, bool silent) {

@@ -64,6 +64,7 @@ class TextFiles {
   FileErrorReporter& reporter_;
   const CodePage* page_ = CodePage::find(1252);
   std::string bytes_;  // of the file in work; kept for the next one, as pages come by thousands
+  bool isAscii_ = true;
 };
 
 }  // namespace tamrikon
