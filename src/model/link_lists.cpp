@@ -18,11 +18,29 @@ const WrapperIndex& LinkLists::index() {
 }
 
 LinkListRef LinkLists::getAppliesList(const Wrapper& wrapper) {
+  const KeyedList<std::string_view>* const modules = index().sharingModules(wrapper);
+  if (modules == nullptr) return ownModuleList(wrapper);
   auto list = std::make_shared<MacroList>();
-  for (const std::string_view module : index().modulesOf(wrapper)) {
+  for (const std::string_view module : *modules) {
     list->texts.emplace_back(module).push_back('\r');
   }
   return list;
+}
+
+/// One for all members of a module, whose pages mostly come one after the other.
+LinkListRef LinkLists::ownModuleList(const Wrapper& wrapper) {
+  if (ownModule_ == &wrapper.cmo()) return ownModuleList_;
+  const std::string& name = wrapper.source().name();
+  const Wrapper* const module = findWrapper(wrappers_.all, name);
+  auto list = std::make_shared<MacroList>();
+  if (module != nullptr && &module->cmo() == &wrapper.cmo()) {
+    list->topics.push_back({module});
+  } else {
+    list->texts.push_back(name + '\r');
+  }
+  ownModule_ = &wrapper.cmo();
+  ownModuleList_ = std::move(list);
+  return ownModuleList_;
 }
 
 LinkListRef LinkLists::getPropsList(const Wrapper& wrapper) {

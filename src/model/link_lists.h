@@ -38,13 +38,19 @@ class LinkLists {
   bool needsModuleName(const Wrapper& wrapper) { return index().needsModuleName(wrapper); }
 
   /// To be called whenever wrappers or their comments have changed.
-  void forget() { index_.reset(); }
+  void forget() {
+    index_.reset();
+    ownModule_ = nullptr;
+  }
 
  private:
   const WrapperIndex& index();
+  LinkListRef ownModuleList(const Wrapper& wrapper);
 
   const WrapperCollections& wrappers_;
   std::unique_ptr<WrapperIndex> index_;
+  const CodeModule* ownModule_ = nullptr;  // that the list was last made for
+  LinkListRef ownModuleList_;
 };
 
 }  // namespace tamrikon

@@ -21,11 +21,12 @@ std::string MemberWrapper::wantedSource(PageContext& context) const {
 // The order in which the macros are set shows: a user tag may bear the name of one of them.
 std::string MemberWrapper::compile(PageContext& context) {
   MacroTable& macros = context.macros;
+  const bool appliesNowhere = !hasParameters() && isStandardModule(source().type());
+  // Asked for while the parser doesn't share the comment yet.
+  LinkListRef applies = appliesNowhere ? macroList({}) : context.lists.getAppliesList(*this);
   CommentParser& parser = context.parser;
   parser.setComment(comment);
-  const bool appliesNowhere = !hasParameters() && isStandardModule(source().type());
-  macros.setMacroValue("APPLIES-LINK-LIST",
-                       appliesNowhere ? macroList({}) : context.lists.getAppliesList(*this));
+  macros.setMacroValue("APPLIES-LINK-LIST", std::move(applies));
   macros.setMacroValue("SEE-LINK-LIST", macroList(parser.getSeeList()));
   if (hasParameters()) macros.setMacroValue("PARAM-LIST", macroList(parser.getParamList()));
   auto tables = parser.getSettingsList();

@@ -131,10 +131,11 @@ const WrapperIndex::ModuleMembers& WrapperIndex::membersOf(const CodeModule& mod
   return found == members_.end() ? none : found->second;
 }
 
-std::vector<std::string_view> WrapperIndex::modulesOf(const Wrapper& wrapper) const {
+const KeyedList<std::string_view>* WrapperIndex::sharingModules(const Wrapper& wrapper) const {
+  if (wrapper.comment.use_count() == 1) return nullptr;  // saves the search for most of them
   const auto shared = modules_.find(wrapper.comment.get());
-  if (shared == modules_.end()) return {wrapper.source().name()};
-  return {shared->second.begin(), shared->second.end()};
+  if (shared == modules_.end() || shared->second.size() < 2) return nullptr;
+  return &shared->second;
 }
 
 }  // namespace tamrikon

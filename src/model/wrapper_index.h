@@ -25,8 +25,9 @@ class WrapperIndex {
   /// The documented members of a module; empty lists for one that has none.
   const ModuleMembers& membersOf(const CodeModule& module) const;
 
-  /// The names of the modules in which the comment of `wrapper` applies, each once.
-  std::vector<std::string_view> modulesOf(const Wrapper& wrapper) const;
+  /// The names of the modules in which the comment of `wrapper` applies, each once, or null if that
+  /// is no other than its own.
+  const KeyedList<std::string_view>* sharingModules(const Wrapper& wrapper) const;
 
   /// Whether another wrapper of the same sort bears the same name and none of those shares the
   /// comment. Properties of one module don't clash, nor do methods of classes with functions of
