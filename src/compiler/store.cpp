@@ -25,7 +25,12 @@ int store::loadSrc(const std::string& file, bool silent) {
 }
 
 PageContext store::pageContext() {
-  return {macros, parser_, session_.settings, wrappers, lists};
+  PageContext context{macros, parser_, session_.settings, wrappers, lists, {}};
+  // The table ignores case, so that the names need no capitals.
+  for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {
+    context.userTagMacros[tag] = "MEMBER-" + session_.settings.userName[tag];
+  }
+  return context;
 }
 
 void store::clearCollections() {

@@ -151,8 +151,14 @@ ModuleAnalysis::ModuleAnalysis(const std::vector<std::string_view>& lines,
 }
 
 const MemberRecord* ModuleAnalysis::find(std::string_view name) const {
+  // Several questions are asked about each member.
+  if (lastFound_ < members_.size() && members_[lastFound_].name == name) {
+    return &members_[lastFound_];
+  }
   const auto found = byName_.find(name);
-  return found == byName_.end() ? nullptr : &members_[found->second];
+  if (found == byName_.end()) return nullptr;
+  lastFound_ = found->second;
+  return &members_[lastFound_];
 }
 
 const ProcedureRecord* ModuleAnalysis::procedureAt(int line) const {

@@ -64,7 +64,8 @@ class ModuleAnalysis {
   std::vector<ProcedureRecord> procedures_;
   int declarationLines_ = 0;
   std::unordered_map<std::string_view, std::size_t, CaseInsensitiveHash, CaseInsensitiveEqual>
-      byName_;  // the keys are views into members_
+      byName_;                         // the keys are views into members_
+  mutable std::size_t lastFound_ = 0;  // index of a member, if it has any
 };
 
 }  // namespace tamrikon

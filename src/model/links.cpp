@@ -16,17 +16,16 @@ void Links::warn(const Wrapper* context, const LinkFault& fault, std::string_vie
 Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link) {
   if (link.starts_with('"')) return nullptr;
   // A canonical link, as the program itself makes them, needs no taking apart.
-  if (Wrapper* named = findWrapper(wrappers_.all, link);
-      named != nullptr && link.ends_with(named->traits().linkMark)) {
-    return named;
-  }
+  Wrapper* const named = link.starts_with('.') ? nullptr : findWrapper(wrappers_.all, link);
+  if (named != nullptr && link.ends_with(named->traits().linkMark)) return named;
   const std::size_t dot = link.find('.');
   const std::size_t apostrophe = link.find('\'');
   if (dot == std::string_view::npos && apostrophe != std::string_view::npos) {
     warn(context, {"link", "", " has wrong syntax."}, link);
     return nullptr;
   }
-  std::string key(link.substr(0, dot));
+  std::string& key = key_;
+  key = link.substr(0, dot);
   if (key.empty() && context != nullptr) key = context->source().name();
   std::string_view kind;
   if (dot != std::string_view::npos) {
@@ -41,7 +40,7 @@ Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link
     }
     key.append(".").append(member).append(kind);
   }
-  Wrapper* found = findWrapper(wrappers_.all, key);
+  Wrapper* found = key == link ? named : findWrapper(wrappers_.all, key);
   if (kind.empty()) {
     for (const std::string_view mark : {"'set", "'let", "'get"}) {
       if (found == nullptr) found = findWrapper(wrappers_.all, key + std::string(mark));

@@ -53,6 +53,7 @@ class Links final : public LinkResolver {
   const WrapperCollections& wrappers_;
   LinkLists& lists_;
   MessageLog& log_;
+  std::string key_;  // of the link in work; keeps its memory
 };
 
 }  // namespace tamrikon

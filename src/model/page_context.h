@@ -1,6 +1,9 @@
 // What the making of a page needs beside the wrapper.
 #pragma once
 
+#include <array>
+#include <string>
+
 #include "comments/comment_parser.h"
 #include "model/link_lists.h"
 #include "model/wrapper_collections.h"
@@ -15,6 +18,8 @@ struct PageContext {
   const ProjectSettings& settings;
   const WrapperCollections& wrappers;
   LinkLists& lists;
+  std::array<std::string, ProjectSettings::kUserTags>
+      userTagMacros;  // their names, as all pages use them
 };
 
 }  // namespace tamrikon

@@ -28,8 +28,7 @@ void setTagMacros(PageContext& context) {
                                             "MEMBER-USER4", "MEMBER-USER5"};
   for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {
     const std::string text = context.parser.getUser(tag + 1);
-    // The table ignores case, so that the name needs no capitals.
-    macros.setMacroValue("MEMBER-" + context.settings.userName[tag], text);
+    macros.setMacroValue(context.userTagMacros[tag], text);
     macros.setMacroValue(kNumbered[tag], text);
   }
 }
