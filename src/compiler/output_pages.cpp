@@ -19,6 +19,7 @@ OutputPages::OutputPages(Session& session, store& store, VBE& ide)
     : session_(session),
       store_(store),
       ide_(ide),
+      context_(store.pageContext()),
       projectName_(ide.ActiveVBProject().Name()),
       maxWritten_(kFreeSize + kMaxGrowth * store.sourceSize()) {}
 
@@ -78,11 +79,6 @@ bool OutputPages::wantsTopic(const Wrapper& wrapper) const {
   return isForm(type) ? session_.settings.comForm : session_.settings.comObject;
 }
 
-std::string OutputPages::topicText(Wrapper& wrapper) {
-  PageContext context = store_.pageContext();
-  return wrapper.compile(context);
-}
-
 bool OutputPages::putTopics() {
   const std::string extension = store_.evaluateMacro("MEMBER-EXT");
   for (const WrapperRef& wrapper : store_.compiledList) {
@@ -93,7 +89,7 @@ bool OutputPages::putTopics() {
     session_.log.ShowProgress(module, isModule ? std::string() : wrapper->name());
     if (wantsTopic(*wrapper)) {
       const std::string name = isModule ? module : module + "-" + wrapper->name();
-      put(Write::replace, name, extension, topicText(*wrapper));
+      put(Write::replace, name, extension, wrapper->compile(context_));
     }
     session_.progressDlg.setProgress(++topicsDone_, store_.compiledList.size());
   }
@@ -158,7 +154,7 @@ void OutputPages::appendWrapperPage(Wrapper& wrapper, const std::string& extensi
   store_.links.compiledWrapper = &wrapper;
   const bool isModule = wrapper.kind() == WrapperKind::module;
   session_.log.ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
-  if (wantsTopic(wrapper)) put(Write::append, projectName_, extension, topicText(wrapper));
+  if (wantsTopic(wrapper)) put(Write::append, projectName_, extension, wrapper.compile(context_));
   session_.progressDlg.setProgress(++topicsDone_, store_.compiledList.size());
 }
 

@@ -37,7 +37,6 @@ class OutputPages {
   void closingSteps();
 
   bool wantsTopic(const Wrapper& wrapper) const;
-  std::string topicText(Wrapper& wrapper);
 
   bool appendGroupPages(std::string& extension);
   bool appendTopics(const std::string& extension);
@@ -46,6 +45,7 @@ class OutputPages {
   Session& session_;
   store& store_;
   VBE& ide_;
+  PageContext context_;
   const std::string projectName_;
   const std::size_t maxWritten_;
   std::size_t written_ = 0;  // bytes of all pages

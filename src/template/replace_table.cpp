@@ -72,7 +72,7 @@ void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
     return;
   }
   const std::size_t maxLength = text.size() + budget.textLeft();
-  work_ = text;
+  std::string_view replaced = text;
   for (std::size_t i = 0; i < pairs_.size(); ++i) {
     // On to the next pair that can begin anywhere: most of a table find nothing.
     if (i < kLastBit) {
@@ -83,41 +83,46 @@ void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
     const Pair& pair = pairs_[i];
     if ((possible & pair.self) == 0) continue;
     // Pairs that make the text longer and longer have to pay for each walk through it.
-    if (work_.size() / kFairGrowth > text.size() && !budget.takeText(work_.size())) break;
-    if (pair.isExact) {
-      replaceExact(pair, maxLength);
-    } else {
-      replaceGeneral(pair, maxLength);
-    }
+    if (replaced.size() / kFairGrowth > text.size() && !budget.takeText(replaced.size())) break;
+    replaced = pair.isExact ? replaceExact(pair, replaced, maxLength)
+                            : replaceGeneral(pair, replaced, maxLength);
     possible |= pair.enables;
   }
-  result += work_;
-  if (work_.size() > text.size()) budget.takeText(work_.size() - text.size());
+  result += replaced;
+  if (replaced.size() > text.size()) budget.takeText(replaced.size() - text.size());
 }
 
-void ReplaceTable::replaceExact(const Pair& pair, std::size_t maxLength) {
-  std::size_t at = work_.find(pair.find);
-  if (at == std::string::npos) return;
+std::string_view ReplaceTable::replaceExact(const Pair& pair, std::string_view text,
+                                            std::size_t maxLength) {
+  const std::string_view find = pair.find;
+  const auto next = [&](std::size_t from) {
+    return find.size() == 1 ? text.find(find.front(), from) : text.find(find, from);
+  };
+  std::size_t at = next(0);
+  if (at == std::string_view::npos) return text;
   std::size_t copied = 0;
   next_.clear();
-  for (; at != std::string::npos; at = work_.find(pair.find, copied)) {
-    next_.append(work_, copied, at - copied).append(pair.with);
-    if (next_.size() > maxLength) return;
-    copied = at + pair.find.size();
+  for (; at != std::string_view::npos; at = next(copied)) {
+    next_.append(text.substr(copied, at - copied)).append(pair.with);
+    if (next_.size() > maxLength) return text;
+    copied = at + find.size();
   }
-  if (next_.size() + work_.size() - copied > maxLength) return;
-  next_.append(work_, copied);
+  if (next_.size() + text.size() - copied > maxLength) return text;
+  next_.append(text.substr(copied));
   work_.swap(next_);
+  return work_;
 }
 
-void ReplaceTable::replaceGeneral(const Pair& pair, std::size_t maxLength) {
+std::string_view ReplaceTable::replaceGeneral(const Pair& pair, std::string_view text,
+                                              std::size_t maxLength) {
   // Only where each character being a match would be too much does it pay to count them.
-  if (!pair.with.empty() && work_.size() > maxLength / pair.with.size()) {
-    const std::size_t without = replaceIgnoringCase(work_, pair.find, "").size();
-    const std::size_t matches = replaceIgnoringCase(work_, pair.find, ".").size() - without;
-    if (matches > (maxLength - without) / pair.with.size()) return;
+  if (!pair.with.empty() && text.size() > maxLength / pair.with.size()) {
+    const std::size_t without = replaceIgnoringCase(text, pair.find, "").size();
+    const std::size_t matches = replaceIgnoringCase(text, pair.find, ".").size() - without;
+    if (matches > (maxLength - without) / pair.with.size()) return text;
   }
-  work_ = replaceIgnoringCase(work_, pair.find, pair.with);
+  work_ = replaceIgnoringCase(text, pair.find, pair.with);
+  return work_;
 }
 
 std::string replaceStrings(std::string_view text, const std::vector<std::string>& table) {

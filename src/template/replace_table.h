@@ -36,14 +36,15 @@ class ReplaceTable {
   };
 
   PairSet beginningIn(std::string_view text) const;
-  void replaceExact(const Pair& pair, std::size_t maxLength);
-  void replaceGeneral(const Pair& pair, std::size_t maxLength);
+  // What the pair makes of `text`: that itself, or a view of work_.
+  std::string_view replaceExact(const Pair& pair, std::string_view text, std::size_t maxLength);
+  std::string_view replaceGeneral(const Pair& pair, std::string_view text, std::size_t maxLength);
 
   std::vector<Pair> pairs_;
   std::array<PairSet, 256> beginWith_{};  // by byte: the pairs of which a match can begin there
 
-  // The text on its way through the pairs, and the one that a pair makes of it. They are kept, as
-  // pages bring thousands of short texts.
+  // What the last pair that found something made of the text, and what the next one makes of that.
+  // They are kept, as pages bring thousands of short texts.
   std::string work_;
   std::string next_;
 };
