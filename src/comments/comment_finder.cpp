@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "base/text.h"
 
@@ -42,12 +44,10 @@ std::optional<LineRange> getModuleCommentRange(const ModuleLines& module) {
 }
 
 Comment commentBody(const ModuleLines& module, const LineRange& range) {
-  Comment body;
-  std::size_t bytes = 0;
-  for (int line = range.first + 1; line <= range.last; ++line) bytes += module.line(line).size();
-  body.reserve(static_cast<std::size_t>(std::max(0, range.last - range.first)), bytes);
+  std::vector<std::string_view> body;
+  body.reserve(static_cast<std::size_t>(std::max(0, range.last - range.first)));
   for (int line = range.first + 1; line <= range.last; ++line) body.push_back(module.line(line));
-  return body;
+  return {module.memory(), std::move(body)};
 }
 
 }  // namespace tamrikon

@@ -1,25 +1,42 @@
 #include "comments/comment_lines.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 
 namespace tamrikon {
 
-CommentLines Comment::lines() const {
-  CommentLines lines;
-  lines.reserve(size());
-  for (std::size_t n = 0; n < size(); ++n) lines.emplace_back((*this)[n]);
-  return lines;
+Comment::Comment(const CommentLines& lines) {
+  const auto copy = std::make_shared<const CommentLines>(lines);
+  lines_.assign(copy->begin(), copy->end());
+  memory_ = copy;
+}
+
+void Comment::push_back(std::string_view line) {
+  struct Added {
+    std::shared_ptr<const void> others;
+    std::string line;
+  };
+  const auto added = std::make_shared<const Added>(Added{std::move(memory_), std::string(line)});
+  lines_.push_back(added->line);
+  memory_ = added;
+}
+
+bool Comment::contains(std::string_view part) const {
+  return std::any_of(lines_.begin(), lines_.end(), [&](std::string_view line) {
+    return line.find(part) != std::string_view::npos;
+  });
 }
 
 CommentList stripCommentQuotes(const Comment& rawLines) {
-  auto body = std::make_shared<Comment>();
-  body->reserve(rawLines.size(), rawLines.text().size());
+  std::vector<std::string_view> body;
+  body.reserve(rawLines.size());
   for (std::size_t n = 0; n < rawLines.size(); ++n) {
     std::string_view line = trim(rawLines[n]);
     if (line.starts_with('\'')) line.remove_prefix(1);
-    body->push_back(line);
+    body.push_back(line);
   }
-  return body;
+  return std::make_shared<Comment>(rawLines.memory(), std::move(body));
 }
 
 }  // namespace tamrikon

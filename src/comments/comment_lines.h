@@ -2,10 +2,10 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tamrikon {
@@ -13,38 +13,33 @@ namespace tamrikon {
 /// Raw lines are as they stand in the source; body lines have lost indentation and quote.
 using CommentLines = std::vector<std::string>;
 
-/// Such lines in one text: the model holds those of whole projects.
+/// The same as views, for the model, which holds the comments of whole projects: most of them are
+/// nowhere but in the sources.
 class Comment {
  public:
   Comment() = default;
-  Comment(const CommentLines& lines) {
-    for (const std::string& line : lines) push_back(line);
-  }
 
-  void push_back(std::string_view line) {
-    text_ += line;
-    ends_.push_back(static_cast<std::uint32_t>(text_.size()));
-  }
-  /// Makes room for so many lines and bytes.
-  void reserve(std::size_t lines, std::size_t bytes) {
-    ends_.reserve(lines);
-    text_.reserve(bytes);
-  }
+  /// Copies the lines.
+  Comment(const CommentLines& lines);
 
-  std::size_t size() const { return ends_.size(); }
-  bool empty() const { return ends_.empty(); }
-  /// All lines, with nothing between them.
-  std::string_view text() const { return text_; }
-  std::string_view operator[](std::size_t n) const {
-    const std::size_t start = n == 0 ? 0 : ends_[n - 1];
-    return std::string_view(text_).substr(start, ends_[n] - start);
-  }
+  /// `memory` keeps alive what the lines are views of.
+  Comment(std::shared_ptr<const void> memory, std::vector<std::string_view> lines)
+      : memory_(std::move(memory)), lines_(std::move(lines)) {}
 
-  CommentLines lines() const;
+  /// Adds a copy of `line`.
+  void push_back(std::string_view line);
+
+  std::size_t size() const { return lines_.size(); }
+  bool empty() const { return lines_.empty(); }
+  std::string_view operator[](std::size_t n) const { return lines_[n]; }
+  /// Whether a line contains `part`.
+  bool contains(std::string_view part) const;
+  CommentLines lines() const { return {lines_.begin(), lines_.end()}; }
+  const std::shared_ptr<const void>& memory() const { return memory_; }
 
  private:
-  std::string text_;
-  std::vector<std::uint32_t> ends_;  // of the lines in text_
+  std::shared_ptr<const void> memory_;
+  std::vector<std::string_view> lines_;
 };
 
 /// A comment that several members can share: equal pointers, not equal lines, say that they do.

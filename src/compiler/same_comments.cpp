@@ -14,7 +14,7 @@ void SameComments::resolveSameComments() {
 
 Wrapper* SameComments::targetOf(const Wrapper& wrapper, bool& points) {
   // Hardly any comment holds the tag, and those that don't needn't be taken apart.
-  points = wrapper.comment->text().find("@same") != std::string_view::npos;
+  points = wrapper.comment->contains("@same");
   if (!points) return nullptr;
   parser_.setComment(wrapper.comment);
   const std::string same = parser_.getSame();

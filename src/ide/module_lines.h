@@ -2,6 +2,7 @@
 // edits the module makes a new one.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,9 @@ class ModuleLines {
   std::size_t textSize() const { return textSize_; }
   int count() const { return static_cast<int>(shared_.lines->size()); }
   std::string_view line(int number) const;
+
+  /// What keeps the text of the lines alive, for those who keep some of them.
+  const std::shared_ptr<const void>& memory() const { return shared_.memory; }
 
   /// The first line of the statement that a logical line stands for: logical lines count a
   /// statement with its continuation lines as one.
