@@ -60,16 +60,22 @@ bool OutputPages::groupPages() {
 }
 
 void OutputPages::compileFiles() {
-  if (!groupPages()) return;
+  if (putFiles()) closingSteps();
+}
+
+/// Nothing holds the folder any more when the closing steps begin.
+bool OutputPages::putFiles() {
+  const auto folder = session_.files.files().keepOpen(session_.settings.outputPath);
+  if (!groupPages()) return false;
   putPage("project file...", "PROJECT-EXT", "tamrik-project-body", projectName_);
-  if (!store_.checkpoint()) return;
+  if (!store_.checkpoint()) return false;
   putPage("contents...", "CONTENTS-EXT", "tamrik-contents-body", projectName_);
-  if (!store_.checkpoint()) return;
+  if (!store_.checkpoint()) return false;
   putPage("index...", "INDEX-EXT", "tamrik-index-body", projectName_);
-  if (!store_.checkpoint()) return;
+  if (!store_.checkpoint()) return false;
   putPage("title page...", "MEMBER-EXT", "tamrik-title-body", projectName_ + "+title");
-  if (!store_.checkpoint()) return;
-  if (putTopics()) closingSteps();
+  if (!store_.checkpoint()) return false;
+  return putTopics();
 }
 
 bool OutputPages::wantsTopic(const Wrapper& wrapper) const {

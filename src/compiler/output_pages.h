@@ -31,6 +31,7 @@ class OutputPages {
   void put(Write write, std::string_view name, std::string_view extension, std::string text);
   void putPage(std::string_view progress, std::string_view extensionMacro, std::string_view section,
                const std::string& name);
+  bool putFiles();
   bool groupPages();
   bool putTopics();
   void setProjectName();

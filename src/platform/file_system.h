@@ -1,6 +1,7 @@
 // Files as whole byte sequences. Paths may have either separator.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,6 +47,12 @@ class FileSystem {
 
   /// The names in a folder, in no particular order; empty if it can't be read.
   virtual std::vector<std::string> list(const std::string& folder) = 0;
+
+  /// Keeps the folder open as long as the result lives. Files right in it, named by a path that
+  /// begins as `folder` does, are found without a walk down that path: a tenth of what it takes to
+  /// write a small one. Only for the calling thread, which also ends it; the last of several
+  /// counts. Null if the folder can't be opened or there is nothing to gain.
+  virtual std::shared_ptr<const void> keepOpen(const std::string&) { return nullptr; }
 
   /// `path` made absolute against the current folder, "." and ".." resolved textually.
   virtual std::string absolute(const std::string& path) = 0;

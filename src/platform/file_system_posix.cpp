@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <utility>
 
 #include "base/paths.h"
 #include "platform/file_system.h"
@@ -47,6 +48,48 @@ FileError errorOf(int number, const std::string& nativePath) {
   return errorOf(number);
 }
 
+/// A folder that files are opened from.
+class KeptFolder {
+ public:
+  explicit KeptFolder(std::string path)
+      : path_(std::move(path)),
+        number_(::open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
+        outer_(std::exchange(current, this)) {}
+  KeptFolder(const KeptFolder&) = delete;
+  KeptFolder& operator=(const KeptFolder&) = delete;
+  ~KeptFolder() {
+    current = outer_;
+    if (number_ >= 0) ::close(number_);
+  }
+
+  bool isOpen() const { return number_ >= 0; }
+
+  /// As ::open(), by way of the folder that the thread keeps open, if the file is right in it.
+  static int open(const std::string& path, int flags) {
+    const char* const name = current == nullptr ? nullptr : current->nameIn(path);
+    const int number = name == nullptr ? -1 : ::openat(current->number_, name, flags, 0666);
+    // A folder that was removed meanwhile may be there again.
+    const bool isMissed = name == nullptr || (number < 0 && errno == ENOENT);
+    return isMissed ? ::open(path.c_str(), flags, 0666) : number;
+  }
+
+ private:
+  /// The last name of `path` if the rest is this folder, otherwise null.
+  const char* nameIn(const std::string& path) const {
+    const bool isIn = path.size() > path_.size() && path.starts_with(path_) &&
+                      path.find('/', path_.size()) == std::string::npos;
+    return isIn ? path.c_str() + path_.size() : nullptr;
+  }
+
+  static thread_local const KeptFolder* current;
+
+  const std::string path_;  // up to and with its last separator
+  const int number_;
+  const KeptFolder* const outer_;
+};
+
+thread_local const KeptFolder* KeptFolder::current = nullptr;
+
 /// A file descriptor that closes itself.
 class Descriptor {
  public:
@@ -58,9 +101,9 @@ class Descriptor {
   void open(const std::string& path, int flags) {
     close();
     // A pipe that nobody is at the other end of isn't waited for, only a lease of another program.
-    number_ = ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, 0666);
+    number_ = KeptFolder::open(path, flags | O_CLOEXEC | O_NONBLOCK);
     const bool isLeased = number_ < 0 && errno == EWOULDBLOCK;
-    if (isLeased) number_ = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+    if (isLeased) number_ = KeptFolder::open(path, flags | O_CLOEXEC);
   }
   bool isOpen() const { return number_ >= 0; }
   int number() const { return number_; }
@@ -239,6 +282,13 @@ class PosixFileSystem final : public FileSystem {
       names.push_back(entries->path().filename().string());
     }
     return names;
+  }
+
+  std::shared_ptr<const void> keepOpen(const std::string& folder) override {
+    const std::string native = checkedPath(folder);
+    if (native.empty()) return nullptr;
+    auto kept = std::make_shared<const KeptFolder>(joinPath(native, ""));
+    return kept->isOpen() ? kept : nullptr;
   }
 
   std::string absolute(const std::string& path) override {

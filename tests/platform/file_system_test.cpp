@@ -67,6 +67,31 @@ TEST(FileSystem, OldAndNewFilesComeInAnyOrder) {
   }
 }
 
+TEST(FileSystem, FolderThatIsKeptOpenHidesNothing) {
+  const test::TempFolder folder;
+  folder.put("pages/sub/old", "x");
+  folder.put("other/old", "x");
+  FileSystem& files = nativeFileSystem();
+  EXPECT_EQ(files.keepOpen(folder / "none"), nullptr);
+  const auto outer = files.keepOpen(folder / "pages");
+  for (const std::string name : {"pages/a", "pages/sub/b", "pages//c", "other/d", "pages2"}) {
+    EXPECT_EQ(files.write(folder / name, name), FileError::none) << name;
+    EXPECT_EQ(folder.get(name), name);
+  }
+  {
+    const auto inner = files.keepOpen(folder / "other/");
+    std::filesystem::remove_all(folder / "other");
+    EXPECT_EQ(files.write(folder / "other/e", "e"), FileError::pathNotFound);
+    EXPECT_EQ(files.createFolder(folder / "other"), FileError::none);
+    EXPECT_EQ(files.write(folder / "other/e", "e"), FileError::none);
+    EXPECT_EQ(folder.get("other/e"), "e");
+  }
+  std::string bytes;
+  EXPECT_EQ(files.read(folder / "pages/a", bytes), FileError::none);
+  EXPECT_EQ(files.append(folder / "pages/a", "+"), FileError::none);
+  EXPECT_EQ(folder.get("pages/a"), "pages/a+");
+}
+
 TEST(FileSystem, ReplacingKeepsPermissionsAndLinks) {
   const test::TempFolder folder;
   const std::string target = folder.put("real/target", "old");

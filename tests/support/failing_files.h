@@ -48,6 +48,9 @@ class FailingFiles final : public FileSystem {
   std::vector<std::string> list(const std::string& folder) override {
     return fault.strikes(folder) ? std::vector<std::string>() : files_.list(folder);
   }
+  std::shared_ptr<const void> keepOpen(const std::string& folder) override {
+    return files_.keepOpen(folder);
+  }
   std::string absolute(const std::string& path) override { return files_.absolute(path); }
 
  private:
