@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -10,21 +12,42 @@
 
 namespace tamrikon {
 
-template <typename T>
+/// Keeps the keys of a list beside its values.
+class KeptKeys {
+ public:
+  void add(std::string_view key) {
+    texts_ += key;
+    ends_.push_back(static_cast<std::uint32_t>(texts_.size()));
+  }
+
+  template <typename T>
+  std::string_view of(const T&, std::size_t n) const {
+    const std::size_t start = n == 0 ? 0 : ends_[n - 1];
+    return std::string_view(texts_).substr(start, ends_[n] - start);
+  }
+
+ private:
+  std::string texts_;  // all keys, one behind the other
+  std::vector<std::uint32_t> ends_;
+};
+
+/// `Keys` is another class with these operations where the values have their keys themselves.
+template <typename T, typename Keys = KeptKeys>
 class KeyedList {
  public:
   /// Adds `value` under `key`. False, and no change, if the key is there already.
   bool add(T value, std::string_view key) {
-    if (!keys_.insert(key)) return false;
+    if (!index_.insert(key, keyOf())) return false;
+    keys_.add(key);
     values_.push_back(std::move(value));
     return true;
   }
 
-  bool contains(std::string_view key) const { return keys_.find(key) != KeyIndex::kNone; }
+  bool contains(std::string_view key) const { return find(key) != nullptr; }
 
   /// The value under `key`, or null.
   const T* find(std::string_view key) const {
-    const std::size_t number = keys_.find(key);
+    const std::size_t number = index_.find(key, keyOf());
     return number == KeyIndex::kNone ? nullptr : &values_[number];
   }
   T* find(std::string_view key) {
@@ -40,8 +63,13 @@ class KeyedList {
   auto end() const { return values_.end(); }
 
  private:
+  auto keyOf() const {
+    return [this](std::size_t n) { return keys_.of(values_[n], n); };
+  }
+
   std::vector<T> values_;
-  KeyIndex keys_;  // numbers the keys as their values stand here
+  Keys keys_;
+  KeyIndex index_;  // numbers the keys as their values stand here
 };
 
 }  // namespace tamrikon

@@ -17,7 +17,7 @@ Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link
   if (link.starts_with('"')) return nullptr;
   // A canonical link, as the program itself makes them, needs no taking apart.
   Wrapper* const named = link.starts_with('.') ? nullptr : findWrapper(wrappers_.all, link);
-  if (named != nullptr && link.ends_with(named->traits().linkMark)) return named;
+  if (named != nullptr && link == named->link()) return named;
   const std::size_t dot = link.find('.');
   const std::size_t apostrophe = link.find('\'');
   if (dot == std::string_view::npos && apostrophe != std::string_view::npos) {

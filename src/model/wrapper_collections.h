@@ -6,7 +6,13 @@
 
 namespace tamrikon {
 
-using WrapperList = KeyedList<WrapperRef>;
+/// Wrappers know their keys.
+struct LinkKeys {
+  void add(std::string_view) {}
+  std::string_view of(const WrapperRef& wrapper, std::size_t) const { return wrapper->link(); }
+};
+
+using WrapperList = KeyedList<WrapperRef, LinkKeys>;
 
 /// All lists keep the order in which the wrappers were found.
 struct WrapperCollections {
