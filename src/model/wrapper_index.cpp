@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <map>
-#include <utility>
 
 namespace tamrikon {
 
@@ -68,23 +66,27 @@ void WrapperIndex::findAmbiguousIn(NamedRun begin, NamedRun end) {
   const auto own = [&](const Wrapper& wrapper) {
     return areProperties ? static_cast<const void*>(&wrapper.cmo()) : &wrapper;
   };
-  // How many wrappers there are of an owner or of all (null), with a comment or any (null).
-  std::map<std::pair<const void*, const Comment*>, int> count;
+  std::vector<Holder>& holders = holders_;  // those that count, by comment
+  holders.clear();
   for (NamedRun named = begin; named != end; ++named) {
     const Wrapper& wrapper = *named->wrapper;
-    if (!counts(wrapper)) continue;
-    for (const void* owner : {static_cast<const void*>(nullptr), own(wrapper)}) {
-      ++count[{owner, nullptr}];
-      ++count[{owner, wrapper.comment.get()}];
-    }
+    if (counts(wrapper)) holders.push_back({wrapper.comment.get(), own(wrapper)});
   }
+  if (holders.empty()) return;
+  std::sort(holders.begin(), holders.end());
+  const auto byOwner = [](const Holder& a, const Holder& b) { return a.owner < b.owner; };
+  const auto all = std::minmax_element(holders.begin(), holders.end(), byOwner);
   for (NamedRun named = begin; named != end; ++named) {
     const Wrapper& wrapper = *named->wrapper;
-    const void* owner = own(wrapper);
-    const Comment* comment = wrapper.comment.get();
-    const int others = count[{nullptr, nullptr}] - count[{owner, nullptr}];
-    const int sharing = count[{nullptr, comment}] - count[{owner, comment}];
-    if (others > 0 && sharing == 0) ambiguous_.insert(&wrapper);
+    const auto isOther = [&](const Holder& holder) { return holder.owner != own(wrapper); };
+    if (!isOther(*all.first) && !isOther(*all.second)) continue;
+    // Of one comment they stand by owner.
+    const Holder any{wrapper.comment.get(), nullptr};
+    const auto [first, last] =
+        std::equal_range(holders.begin(), holders.end(), any,
+                         [](const Holder& a, const Holder& b) { return a.comment < b.comment; });
+    const bool isShared = first != last && (isOther(*first) || isOther(*(last - 1)));
+    if (!isShared) ambiguous_.insert(&wrapper);
   }
 }
 

@@ -2,6 +2,7 @@
 // which names are unique, which comments are shared, which members a module has.
 #pragma once
 
+#include <compare>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -43,6 +44,12 @@ class WrapperIndex {
     Group group;
     const Wrapper* wrapper;
   };
+  /// Who has a comment, as far as names clash: a wrapper, or for properties all of a module.
+  struct Holder {
+    const Comment* comment;
+    const void* owner;
+    auto operator<=>(const Holder&) const = default;
+  };
   using NamedRun = std::vector<Named>::const_iterator;
 
   static Group groupOf(const Wrapper& wrapper);
@@ -53,6 +60,7 @@ class WrapperIndex {
   void collectModules(const WrapperList& all);
 
   std::unordered_set<const Wrapper*> ambiguous_;
+  std::vector<Holder> holders_;  // of the name in work; keeps its memory
   std::unordered_map<const CodeModule*, ModuleMembers> members_;
   // Of the comments that several wrappers hold, the modules of these.
   std::unordered_map<const Comment*, KeyedList<std::string_view>> modules_;
