@@ -56,7 +56,10 @@ std::string ModuleLines::getDeclaration(int line) const {
 }
 
 std::string ModuleLines::getLinesText(int firstLine, int lastLine) const {
+  std::size_t size = 0;
+  for (int number = firstLine; number <= lastLine; ++number) size += line(number).size() + 1;
   std::string result;
+  result.reserve(size);
   for (int number = firstLine; number <= lastLine; ++number) {
     if (!result.empty()) result += '\r';
     result += line(number);

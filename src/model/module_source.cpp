@@ -1,12 +1,14 @@
 #include "model/module_source.h"
 
+#include <algorithm>
+
 namespace tamrikon {
 
 ModuleSource::ModuleSource(CodeModule& module)
     : module_(module), lines_(module), name_(module.Name()), type_(module.Parent().Type()) {
   const Members& members = module.Members();
   const int count = members.Count();
-  members_.reserve(static_cast<std::size_t>(count));
+  members_.reserve(static_cast<std::size_t>(count));  // the names are views of it
   for (int number = 1; number <= count; ++number) {
     const std::size_t index = members_.size();
     const bool told = tryStep([&] {
@@ -16,11 +18,12 @@ ModuleSource::ModuleSource(CodeModule& module)
     });
     if (!told) continue;
     const ModuleMember& added = members_.back();
-    if (added.type != MemberType::property) byLine_.emplace(added.line, index);
+    if (added.type != MemberType::property) byLine_.emplace_back(added.line, index);
     if (added.type == MemberType::property || added.type == MemberType::method) {
       byName_.emplace(added.name, index);
     }
   }
+  std::sort(byLine_.begin(), byLine_.end());
 }
 
 const ModuleSource::ModuleMember* ModuleSource::procedureMember(const std::string& name,
@@ -36,8 +39,9 @@ const ModuleSource::ModuleMember* ModuleSource::procedureMember(const std::strin
 }
 
 const ModuleSource::ModuleMember* ModuleSource::memberAtLine(int line) const {
-  const auto found = byLine_.find(line);
-  return found == byLine_.end() ? nullptr : &members_[found->second];
+  const auto found =
+      std::lower_bound(byLine_.begin(), byLine_.end(), std::pair(line, std::size_t{0}));
+  return found == byLine_.end() || found->first != line ? nullptr : &members_[found->second];
 }
 
 ModuleSource& SourceCache::of(CodeModule& module) {

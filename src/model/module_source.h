@@ -4,7 +4,9 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "ide/ide.h"
@@ -16,6 +18,8 @@ class ModuleSource {
  public:
   /// `module` must outlive this object.
   explicit ModuleSource(CodeModule& module);
+  ModuleSource(const ModuleSource&) = delete;
+  ModuleSource& operator=(const ModuleSource&) = delete;
 
   CodeModule& module() const { return module_; }
   const ModuleLines& lines() const { return lines_; }
@@ -45,8 +49,8 @@ class ModuleSource {
   std::string name_;
   ComponentType type_;
   std::vector<ModuleMember> members_;
-  std::unordered_multimap<std::string, std::size_t> byName_;
-  std::unordered_map<int, std::size_t> byLine_;
+  std::unordered_multimap<std::string_view, std::size_t> byName_;
+  std::vector<std::pair<int, std::size_t>> byLine_;  // ascending
 };
 
 /// The sources of a compile: each module is read once.
