@@ -15,7 +15,7 @@ std::string MemberWrapper::wantedSource(PageContext& context) const {
   const bool wanted =
       mode == kAlways || (mode == kWhereAskedFor && !context.parser.getIncludeSource().empty());
   if (!wanted) return {};
-  return replaceAll(doubleDollars(pageSource(context)), "\r", "$EOL$");
+  return pageSource(context);
 }
 
 // The order in which the macros are set shows: a user tag may bear the name of one of them.
@@ -41,7 +41,7 @@ std::string MemberWrapper::compile(PageContext& context) {
   setTagMacros(context);
   tryStep([&] { setScopeMacros(context, member_.Scope()); });
   tryStep([&] { macros.setMacroValue("MEMBER-DECLARATION", doubleDollars(declaration())); });
-  tryStep([&] { macros.setMacroValue("MEMBER-SOURCECODE", wantedSource(context)); });
+  tryStep([&] { macros.setMacroLines("MEMBER-SOURCECODE", wantedSource(context)); });
   writeIdeDescription(context, *this);
   macros.setMacroValue("MEMBER-NEEDS-MODULE", needsModule ? "1" : "");
   return macros.evaluateMacro(traits().section);

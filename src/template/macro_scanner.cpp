@@ -117,10 +117,7 @@ std::string wrongNameWarning(std::string_view written) {
 }
 
 void scanMacros(MacroText& text, MacroSlots& slots) {
-  text.tokens.clear();
-  text.constructs.clear();
-  text.wrongNames.clear();
-  text.isScanned = true;
+  text.beginScan();
   const std::string_view all = text.text;
   std::size_t offset = 0;
   const MacroName* last = nullptr;

@@ -6,6 +6,8 @@
 #include <iterator>
 #include <utility>
 
+#include "base/text.h"
+
 namespace tamrikon {
 namespace {
 
@@ -142,12 +144,38 @@ void MacroSlots::retire(MacroSlot& slot) {
 }
 
 void MacroSlots::setText(MacroSlot& slot, std::string_view text) {
+  // From page to page most values are as they were, and what was found in them with them.
+  if (slot.holds == MacroSlot::Holds::text && slot.text->text == text) return;
+  newText(slot).text = text;
+}
+
+/// The slot's text, which is to be filled.
+MacroText& MacroSlots::newText(MacroSlot& slot) {
   retire(slot);
   if (!slot.text) slot.text = std::make_unique<MacroText>();
-  slot.text->text = text;
   slot.text->isScanned = false;
   slot.list.reset();
   slot.holds = MacroSlot::Holds::text;
+  return *slot.text;
+}
+
+void MacroSlots::setLines(MacroSlot& slot, std::string_view lines) {
+  constexpr std::string_view kEol = "$EOL$";
+  const MacroName& eol = intern(kEol.substr(1, kEol.size() - 2));
+  MacroText& value = newText(slot);
+  value.text.clear();
+  value.beginScan();
+  std::string doubled;
+  if (lines.find('$') != std::string_view::npos) lines = doubled = doubleDollars(lines);
+  for (;;) {
+    const std::size_t end = lines.find('\r');
+    value.text += lines.substr(0, end);
+    if (end == std::string_view::npos) return;
+    lines.remove_prefix(end + 1);
+    const auto start = static_cast<TextIndex>(value.text.size());
+    value.text += kEol;
+    value.tokens.push_back({start, static_cast<TextIndex>(value.text.size()), &eol});
+  }
 }
 
 void MacroSlots::setNumber(MacroSlot& slot, int number) {

@@ -60,6 +60,9 @@ class MacroSlots {
   const MacroSlot* findSlot(std::string_view name) const;
 
   void setText(MacroSlot& slot, std::string_view text);
+  /// Sets `lines` with each "$" doubled and each CR as a call of EOL. The calls needn't be looked
+  /// for then: a page has one for each line of source code.
+  void setLines(MacroSlot& slot, std::string_view lines);
   void setNumber(MacroSlot& slot, int number);
   void setList(MacroSlot& slot, std::shared_ptr<const MacroList> list);
   void unsetAll();
@@ -72,6 +75,7 @@ class MacroSlots {
 
  private:
   void retire(MacroSlot& slot);
+  MacroText& newText(MacroSlot& slot);
 
   const MacroName& findOrAdd(std::string_view name);
 

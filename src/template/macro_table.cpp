@@ -121,6 +121,12 @@ void MacroTable::setMacroValue(std::string_view macro, std::string_view text) {
   slots.setText(*slots.intern(macro).slot, text);
 }
 
+void MacroTable::setMacroLines(std::string_view macro, std::string_view lines) {
+  if (memory_->isCleared) return;
+  MacroSlots& slots = memory_->state.slots;
+  slots.setLines(*slots.intern(macro).slot, lines);
+}
+
 void MacroTable::setMacroValue(std::string_view macro, std::shared_ptr<const MacroList> list) {
   if (memory_->isCleared) return;
   MacroSlots& slots = memory_->state.slots;

@@ -44,6 +44,9 @@ class MacroTable {
 
   void setMacroValue(std::string_view macro, std::string_view text);
 
+  /// Sets a text that the expansion gives back as it is, but for its CRs: each calls EOL.
+  void setMacroLines(std::string_view macro, std::string_view lines);
+
   /// `list` may be null, which counts as an empty list.
   void setMacroValue(std::string_view macro, std::shared_ptr<const MacroList> list);
 

@@ -47,6 +47,13 @@ struct MacroText {
   std::size_t users = 0;              // expansions in progress that read this text
   std::size_t lastResult = 0;         // length of the last finished expansion, in bytes
 
+  /// Forgets what was found in an earlier text.
+  void beginScan() {
+    isScanned = true;
+    tokens.clear();
+    constructs.clear();
+    wrongNames.clear();
+  }
   std::string_view written(const MacroToken& token) const {
     return std::string_view(text).substr(token.start, token.end - token.start);
   }

@@ -68,6 +68,28 @@ TEST(EvaluateMacro, ATextInWorkMayBeOverwritten) {
             "one;two; rest two");
 }
 
+TEST(MacroTable, LinesComeBackAsTheyWere) {
+  for (const auto& [lines, body, expanded] : {
+           std::tuple("", "", ""),
+           {"a", "a", "a"},
+           {"a\r\rb\r", "a$EOL$$EOL$b$EOL$", "a//b/"},
+           {"Left$(s)$\r$B$", "Left$$(s)$$$EOL$$$B$$", "Left$(s)$/$B$"},
+       }) {
+    Macros macros;
+    macros.set("B", "b");
+    macros.set("eol", "/");
+    macros.set("SOURCE", "$DOLIST$ $L$\r$B$$END-DOLIST$ $lone");
+    macros.expand("$SOURCE$");
+    macros.log.messages.clear();
+    macros.table.setMacroLines("source", lines);
+    EXPECT_EQ(macros.table.getMacroBody("SOURCE"), body);
+    EXPECT_EQ(macros.expand("$SOURCE$"), expanded);
+    macros.set("SOURCE", body);
+    EXPECT_EQ(macros.expand("$SOURCE$"), expanded);
+    EXPECT_EQ(macros.log.messages, Messages());
+  }
+}
+
 TEST(MacroTable, CountsFromOneInANewRun) {
   Macros macros;
   EXPECT_EQ(macros.expand("$NEXT-ID$$INC-COUNTER$"), "1");
