@@ -13,6 +13,9 @@ namespace {
 constexpr std::size_t kFreeSize = std::size_t{2} << 30;
 constexpr std::size_t kMaxGrowth = 1000;
 
+// Topics that are appended one by one take a compile a fifth more time.
+constexpr std::size_t kEnoughToAppend = std::size_t{1} << 16;
+
 }  // namespace
 
 OutputPages::OutputPages(Session& session, store& store, VBE& ide)
@@ -25,7 +28,7 @@ OutputPages::OutputPages(Session& session, store& store, VBE& ide)
 
 // A failure has been reported by the writer; an answer that gives up shows at the next checkpoint.
 void OutputPages::put(Write write, std::string_view name, std::string_view extension,
-                      std::string text) {
+                      std::string_view text) {
   const PhaseScope phase(session_.times, CompilePhase::writing);
   written_ += text.size();
   if (written_ > maxWritten_) throw std::length_error("The pages take up too much space.");
@@ -36,7 +39,6 @@ void OutputPages::put(Write write, std::string_view name, std::string_view exten
   } else {
     session_.files.writeTextFile(path, text, false);
   }
-  store_.macros.reuse(std::move(text));
 }
 
 void OutputPages::putPage(std::string_view progress, std::string_view extensionMacro,
@@ -95,7 +97,9 @@ bool OutputPages::putTopics() {
     session_.log.ShowProgress(module, isModule ? std::string() : wrapper->name());
     if (wantsTopic(*wrapper)) {
       const std::string name = isModule ? module : module + "-" + wrapper->name();
-      put(Write::replace, name, extension, wrapper->compile(context_));
+      std::string page = wrapper->compile(context_);
+      put(Write::replace, name, extension, page);
+      store_.macros.reuse(std::move(page));
     }
     session_.progressDlg.setProgress(++topicsDone_, store_.compiledList.size());
   }
@@ -149,18 +153,29 @@ void OutputPages::compileSingleFile() {
 }
 
 bool OutputPages::appendTopics(const std::string& extension) {
+  std::string text;
   for (const std::vector<WrapperRef>& stretch : topicOrder(store_.compiledList)) {
     if (!store_.checkpoint()) return false;
-    for (const WrapperRef& wrapper : stretch) appendWrapperPage(*wrapper, extension);
+    for (const WrapperRef& wrapper : stretch) {
+      addTopic(*wrapper, text);
+      if (text.size() < kEnoughToAppend) continue;
+      put(Write::append, projectName_, extension, text);
+      text.clear();
+    }
   }
+  if (!text.empty()) put(Write::append, projectName_, extension, text);
   return true;
 }
 
-void OutputPages::appendWrapperPage(Wrapper& wrapper, const std::string& extension) {
+void OutputPages::addTopic(Wrapper& wrapper, std::string& text) {
   store_.links.compiledWrapper = &wrapper;
   const bool isModule = wrapper.kind() == WrapperKind::module;
   session_.log.ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
-  if (wantsTopic(wrapper)) put(Write::append, projectName_, extension, wrapper.compile(context_));
+  if (wantsTopic(wrapper)) {
+    std::string topic = wrapper.compile(context_);
+    text += topic;
+    store_.macros.reuse(std::move(topic));
+  }
   session_.progressDlg.setProgress(++topicsDone_, store_.compiledList.size());
 }
 

@@ -28,7 +28,7 @@ class OutputPages {
   enum class Write { replace, append };
 
   void show(std::string_view name) { session_.log.ShowProgress(name, ""); }
-  void put(Write write, std::string_view name, std::string_view extension, std::string text);
+  void put(Write write, std::string_view name, std::string_view extension, std::string_view text);
   void putPage(std::string_view progress, std::string_view extensionMacro, std::string_view section,
                const std::string& name);
   bool putFiles();
@@ -41,7 +41,7 @@ class OutputPages {
 
   bool appendGroupPages(std::string& extension);
   bool appendTopics(const std::string& extension);
-  void appendWrapperPage(Wrapper& wrapper, const std::string& extension);
+  void addTopic(Wrapper& wrapper, std::string& text);
 
   Session& session_;
   store& store_;
