@@ -31,6 +31,9 @@ class SortKeys {
  public:
   explicit SortKeys(const std::vector<LinkItem>& items) {
     ends_.reserve(items.size());
+    std::size_t length = 0;
+    for (const LinkItem& item : items) length += item.label.size() + kFairNumber;
+    texts_.reserve(length);
     for (const LinkItem& item : items) {
       appendLowered(texts_, item.label);
       texts_ += '\r';
@@ -45,6 +48,8 @@ class SortKeys {
   }
 
  private:
+  static constexpr std::size_t kFairNumber = 8;  // its length, with the CR before it
+
   void appendNumber(int number) {
     std::array<char, 16> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number);
@@ -57,74 +62,71 @@ class SortKeys {
 
 }  // namespace
 
-std::size_t LinkItems::LabelParts::length() const {
-  const std::size_t brackets = kBeforeModule.size() + kBehindModule.size();
-  return name.size() + (module.empty() ? 0 : module.size() + brackets) + word.size();
+void LinkItems::addTail(std::string_view module, std::string_view word) {
+  if (module.empty() && word.empty()) return;
+  tails_.push_back({static_cast<std::uint32_t>(items_.size() - 1), module, word});
 }
 
-void LinkItems::add(const LinkItem& item, const LabelParts& label) {
-  items_.push_back(item);
-  if (label.length() > 0) {
-    parts_.push_back(label);
-    return;
-  }
+/// Gives the last item the label that one without a label gets.
+void LinkItems::makeUpLabel() {
+  LinkItem& item = items_.back();
   const LinkTarget& target = item.target;
   const bool isModule = target.member.empty();
-  parts_.push_back({isModule ? target.module : target.member,
-                    target.needsModule && !isModule ? target.module : std::string_view(),
-                    {}});
+  item.label = isModule ? target.module : target.member;
+  if (target.needsModule && !isModule) addTail(target.module, {});
 }
 
 bool LinkItems::addText(std::string_view text, LinkResolver* resolver) {
   const std::size_t cr = text.find('\r');
   if (cr == std::string_view::npos) return false;
   const std::string_view reference = text.substr(0, cr);
-  add({reference, targetOf(reference, resolver), {}}, {text.substr(cr + 1), {}, {}});
+  items_.push_back({reference, targetOf(reference, resolver), text.substr(cr + 1)});
+  if (items_.back().label.empty()) makeUpLabel();
   return true;
 }
 
 void LinkItems::addTopic(const TopicItem& topic, LinkResolver* resolver) {
   NamedLink link;
   if (resolver != nullptr) link = resolver->linkOf(topic.wrapper);
-  LabelParts label;
+  items_.push_back({link.link, link.target, link.name});
   if (topic.hasLabel) {
-    label = {link.name, link.needsModule ? link.module : std::string_view(), topic.word};
+    addTail(link.needsModule ? link.module : std::string_view(), topic.word);
+  } else {
+    makeUpLabel();
   }
-  add({link.link, link.target, {}}, label);
 }
 
-void LinkItems::makeLabels() {
+void LinkItems::joinLabels() {
+  const std::size_t brackets = kBeforeModule.size() + kBehindModule.size();
   std::size_t length = 0;
-  for (const LabelParts& label : parts_) length += label.isName() ? 0 : label.length();
+  for (const LabelTail& tail : tails_) {
+    length += items_[tail.item].label.size() + tail.module.size() + brackets + tail.word.size();
+  }
   labels_.reserve(length);  // the labels are views of it
   const auto append = [&](std::string_view part) {
     labels_.insert(labels_.end(), part.begin(), part.end());
   };
-  for (std::size_t n = 0; n < items_.size(); ++n) {
-    const LabelParts& label = parts_[n];
-    items_[n].label = label.name;
-    if (label.isName()) continue;
+  for (const LabelTail& tail : tails_) {
     const std::size_t start = labels_.size();
-    append(label.name);
-    if (!label.module.empty()) {
+    append(items_[tail.item].label);
+    if (!tail.module.empty()) {
       append(kBeforeModule);
-      append(label.module);
+      append(tail.module);
       append(kBehindModule);
     }
-    append(label.word);
-    items_[n].label = {labels_.data() + start, labels_.size() - start};
+    append(tail.word);
+    items_[tail.item].label = {labels_.data() + start, labels_.size() - start};
   }
-  parts_ = {};
+  tails_ = {};
 }
 
 bool LinkItems::sort(const MacroList& list, LinkResolver* resolver) {
   items_.reserve(list.size());
-  parts_.reserve(list.size());
   for (const std::string_view text : list.texts) {
     if (!addText(text, resolver)) return false;
   }
   for (const TopicItem& topic : list.topics) addTopic(topic, resolver);
-  makeLabels();
+  joinLabels();
   if (items_.size() < 2) return true;
   const SortKeys keys(items_);
   order_.resize(items_.size());

@@ -37,25 +37,23 @@ class LinkItems {
   const LinkItem& operator[](std::size_t n) const { return items_[order_.empty() ? n : order_[n]]; }
 
  private:
-  // A label, which is made if it has more than a name.
-  struct LabelParts {
-    std::string_view name;
+  // What a label has behind its name.
+  struct LabelTail {
+    std::uint32_t item;
     std::string_view module;  // empty if it isn't told
     std::string_view word;
-
-    bool isName() const { return module.empty() && word.empty(); }
-    std::size_t length() const;
   };
 
   bool addText(std::string_view text, LinkResolver* resolver);
   void addTopic(const TopicItem& topic, LinkResolver* resolver);
-  void add(const LinkItem& item, const LabelParts& label);
-  void makeLabels();
+  void addTail(std::string_view module, std::string_view word);
+  void makeUpLabel();
+  void joinLabels();
 
   std::vector<LinkItem> items_;
   std::vector<std::uint32_t> order_;  // empty if the items stand in it
-  std::vector<LabelParts> parts_;     // beside items_
-  std::vector<char> labels_;          // those that were made, one behind the other
+  std::vector<LabelTail> tails_;
+  std::vector<char> labels_;  // those with tails, one behind the other
 };
 
 }  // namespace tamrikon
