@@ -117,6 +117,7 @@ inline void Expansion::leave() {
 }
 
 inline void Expansion::appendLiteral(std::string_view text, bool translate) {
+  if (text.empty()) return;  // as half of them are
   if (translate && state_.replaceOn) {
     state_.replaceTable.appendReplaced(text, result_, budget_);
   } else {

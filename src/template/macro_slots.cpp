@@ -143,20 +143,20 @@ void MacroSlots::retire(MacroSlot& slot) {
   if (slot.text && slot.text->users > 0) retired_.push_back(std::move(slot.text));
 }
 
-void MacroSlots::setText(MacroSlot& slot, std::string_view text) {
-  // From page to page most values are as they were, and what was found in them with them.
-  if (slot.holds == MacroSlot::Holds::text && slot.text->text == text) return;
-  newText(slot).text = text;
-}
-
 /// The slot's text, which is to be filled.
-MacroText& MacroSlots::newText(MacroSlot& slot) {
+inline MacroText& MacroSlots::newText(MacroSlot& slot) {
   retire(slot);
   if (!slot.text) slot.text = std::make_unique<MacroText>();
   slot.text->isScanned = false;
   slot.list.reset();
   slot.holds = MacroSlot::Holds::text;
   return *slot.text;
+}
+
+void MacroSlots::setText(MacroSlot& slot, std::string_view text) {
+  // From page to page most values are as they were, and what was found in them with them.
+  if (slot.holds == MacroSlot::Holds::text && slot.text->text == text) return;
+  newText(slot).text = text;
 }
 
 void MacroSlots::setLines(MacroSlot& slot, std::string_view lines) {
