@@ -16,6 +16,26 @@
 
 namespace tamrikon {
 
+/// A text, or part of a text, in work.
+struct ExpansionFrame {
+  enum class Role : std::uint8_t { macro, branch, listBody };
+  MacroText* source;
+  TextIndex offset;  // how far it is expanded
+  TextIndex end;     // of the part
+  TextIndex token;   // the next one
+  Role role;
+  bool translate;
+};
+
+/// The list that a frame is the body of.
+struct ListFrame {
+  ListWalk walk;
+  std::size_t resultStart;  // where the construct's value begins in the result
+  TextIndex bodyStart;
+  TextIndex bodyEnd;
+  TextIndex bodyToken;
+};
+
 /// What the expansions of one macro table share.
 struct ExpansionState {
   explicit ExpansionState(MessageLog& messageLog) : log(messageLog), items(slots) {}
@@ -28,7 +48,10 @@ struct ExpansionState {
   std::int64_t nextId = 1;
   std::int64_t counter = 1;
   bool replaceOn = false;
-  std::string spare;  // memory for the next result
+  // Memory for the next expansion.
+  std::string spare;
+  std::vector<ExpansionFrame> spareFrames;
+  std::vector<ListFrame> spareLists;
 };
 
 /// One outermost call, with its budget. The texts in work stand on a stack of its own, so that no
@@ -39,8 +62,16 @@ class Expansion {
   Expansion(ExpansionState& state, MacroTable& table, const ExpansionBudget& budget = {})
       : state_(state), table_(table), budget_(budget) {
     state_.slots.beginUse();
+    frames_.swap(state_.spareFrames);
+    lists_.swap(state_.spareLists);
   }
-  ~Expansion() { state_.slots.endUse(); }
+  ~Expansion() {
+    state_.slots.endUse();
+    frames_.clear();
+    lists_.clear();
+    frames_.swap(state_.spareFrames);
+    lists_.swap(state_.spareLists);
+  }
   Expansion(const Expansion&) = delete;
   Expansion& operator=(const Expansion&) = delete;
 
@@ -51,23 +82,7 @@ class Expansion {
   std::string expandText(std::string_view text);
 
  private:
-  // A text, or part of a text, in work.
-  struct Frame {
-    enum class Role : std::uint8_t { macro, branch, listBody };
-    MacroText* source;
-    TextIndex offset;  // how far it is expanded
-    TextIndex end;     // of the part
-    TextIndex token;   // the next one
-    Role role;
-    bool translate;
-  };
-  struct ListFrame {
-    ListWalk walk;
-    std::size_t resultStart;  // where the construct's value begins in the result
-    TextIndex bodyStart;
-    TextIndex bodyEnd;
-    TextIndex bodyToken;
-  };
+  using Frame = ExpansionFrame;
 
   void run();
   const MacroToken* nextToken(const Frame& frame);
