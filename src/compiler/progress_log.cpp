@@ -10,10 +10,10 @@ void ProgressLog::logMessage(const std::string& text) {
 }
 
 void ProgressLog::ShowProgress(std::string_view name, std::string_view detail) {
-  std::string line = "Compiling: ";
-  line.append(name);
-  if (!detail.empty()) line.append(".").append(detail);
-  dialog_.setStatusLine(line);
+  status_ = "Compiling: ";
+  status_.append(name);
+  if (!detail.empty()) status_.append(".").append(detail);
+  dialog_.setStatusLine(status_);
 }
 
 }  // namespace tamrikon

@@ -25,6 +25,7 @@ class ProgressLog final : public MessageLog {
 
  private:
   ProgressDlg& dialog_;
+  std::string status_;  // keeps its memory: each topic is shown
 };
 
 }  // namespace tamrikon
