@@ -1,86 +1,93 @@
 #include "compiler/topic_order.h"
 
 #include <algorithm>
-#include <array>
-#include <string>
+#include <compare>
+#include <cstddef>
 #include <unordered_map>
-#include <unordered_set>
-#include <utility>
 
-#include "base/case_folding.h"
+#include "base/sort_keys.h"
 #include "model/link_lists.h"
 
 namespace tamrikon {
 namespace {
 
+/// The wrappers as they stand in an alphabet of their labels.
 std::vector<WrapperRef> sortWrappersByLabel(const std::vector<WrapperRef>& wrappers) {
-  std::vector<std::pair<std::string, WrapperRef>> keyed;
-  keyed.reserve(wrappers.size());
+  SortKeys keys;
   for (const WrapperRef& wrapper : wrappers) {
-    keyed.emplace_back(lowered(LinkLists::indexLabel(*wrapper)), wrapper);
+    keys.append(LinkLists::indexLabel(*wrapper));
+    keys.endKey();
   }
-  std::stable_sort(keyed.begin(), keyed.end(),
-                   [](const auto& a, const auto& b) { return a.first < b.first; });
   std::vector<WrapperRef> sorted;
-  sorted.reserve(keyed.size());
-  for (auto& [label, wrapper] : keyed) sorted.push_back(std::move(wrapper));
+  sorted.reserve(wrappers.size());
+  for (const std::size_t n : keys.order()) sorted.push_back(wrappers[n]);
   return sorted;
 }
 
-/// Where a member stands behind its module.
-std::size_t groupOf(WrapperKind kind) {
-  switch (kind) {
-    case WrapperKind::method: return 0;
-    case WrapperKind::propGet:
-    case WrapperKind::propLet:
-    case WrapperKind::propSet: return 1;
-    case WrapperKind::event: return 2;
-    case WrapperKind::constant: return 3;
-    default: return 4;
-  }
-}
-
-std::size_t groupOfModule(ComponentType type) {
+std::size_t groupOf(ComponentType type) {
   if (isStandardModule(type)) return 2;
   return isForm(type) ? 0 : 1;
+}
+
+/// Where a topic stands in the stretch of its module.
+std::size_t groupOf(WrapperKind kind) {
+  switch (kind) {
+    case WrapperKind::module: return 0;
+    case WrapperKind::method: return 1;
+    case WrapperKind::propGet:
+    case WrapperKind::propLet:
+    case WrapperKind::propSet: return 2;
+    case WrapperKind::event: return 3;
+    case WrapperKind::constant: return 4;
+    case WrapperKind::variable: break;
+  }
+  return 5;
+}
+
+struct Place {
+  std::size_t stretch;
+  std::size_t group;
+  std::size_t inAlphabet;
+  auto operator<=>(const Place&) const = default;
+};
+
+using Stretches = std::unordered_map<const CodeModule*, std::size_t>;
+
+/// The numbers of the stretches that begin with a module.
+Stretches stretchesOf(const std::vector<WrapperRef>& sorted) {
+  std::vector<const Wrapper*> modules;
+  for (const WrapperRef& wrapper : sorted) {
+    if (wrapper->kind() == WrapperKind::module) modules.push_back(wrapper.get());
+  }
+  std::stable_sort(modules.begin(), modules.end(), [](const Wrapper* a, const Wrapper* b) {
+    return groupOf(a->source().type()) < groupOf(b->source().type());
+  });
+  Stretches stretches;
+  for (const Wrapper* module : modules) stretches.emplace(&module->cmo(), stretches.size());
+  return stretches;
 }
 
 }  // namespace
 
 std::vector<std::vector<WrapperRef>> topicOrder(const std::vector<WrapperRef>& wrappers) {
   const std::vector<WrapperRef> sorted = sortWrappersByLabel(wrappers);
-  std::array<std::vector<WrapperRef>, 3> modules;
-  std::unordered_map<const CodeModule*, std::array<std::vector<WrapperRef>, 5>> members;
-  for (const WrapperRef& wrapper : sorted) {
-    if (wrapper->kind() == WrapperKind::module) {
-      modules[groupOfModule(wrapper->source().type())].push_back(wrapper);
-    } else {
-      members[&wrapper->cmo()][groupOf(wrapper->kind())].push_back(wrapper);
-    }
+  const Stretches stretches = stretchesOf(sorted);
+  std::vector<Place> places;
+  places.reserve(sorted.size());
+  for (std::size_t n = 0; n < sorted.size(); ++n) {
+    const Wrapper& wrapper = *sorted[n];
+    const auto found = stretches.find(&wrapper.cmo());
+    const bool isAlone = found == stretches.end() ||
+                         (isProperty(wrapper.kind()) && isStandardModule(wrapper.source().type()));
+    places.push_back({isAlone ? stretches.size() + n : found->second, groupOf(wrapper.kind()), n});
   }
+  std::sort(places.begin(), places.end());
   std::vector<std::vector<WrapperRef>> order;
-  std::unordered_set<const Wrapper*> placed;
-  const auto place = [&](const WrapperRef& wrapper) {
-    placed.insert(wrapper.get());
-    order.back().push_back(wrapper);
-  };
-  for (const std::vector<WrapperRef>& kind : modules) {
-    for (const WrapperRef& module : kind) {
-      order.emplace_back();
-      place(module);
-      const auto found = members.find(&module->cmo());
-      if (found == members.end()) continue;
-      const bool skipsProperties = isStandardModule(module->source().type());
-      for (std::size_t group = 0; group < found->second.size(); ++group) {
-        if (skipsProperties && group == groupOf(WrapperKind::propGet)) continue;
-        for (const WrapperRef& member : found->second[group]) place(member);
-      }
-    }
-  }
-  for (const WrapperRef& wrapper : sorted) {
-    if (placed.count(wrapper.get()) != 0) continue;
-    order.emplace_back();
-    place(wrapper);
+  std::size_t stretch = 0;
+  for (const Place& place : places) {
+    if (order.empty() || place.stretch != stretch) order.emplace_back();
+    stretch = place.stretch;
+    order.back().push_back(sorted[place.inAlphabet]);
   }
   return order;
 }

@@ -56,9 +56,13 @@ LinkListRef LinkLists::getEventsList(const Wrapper& wrapper) {
 }
 
 std::string LinkLists::indexLabel(const Wrapper& wrapper) {
-  std::string label = wrapper.name();
-  if (wrapper.needsModule) label.append(" (").append(wrapper.source().name()).append(")");
-  return label.append(wrapper.traits().word);
+  const std::string& module = wrapper.source().name();
+  const std::string_view word = wrapper.traits().word;
+  std::string label;
+  label.reserve(wrapper.name().size() + module.size() + word.size() + 3);
+  label = wrapper.name();
+  if (wrapper.needsModule) label.append(" (").append(module).append(")");
+  return label.append(word);
 }
 
 LinkListRef LinkLists::makeLinkList(const std::vector<WrapperRef>& wrappers) {

@@ -1,12 +1,9 @@
 #include "template/link_items.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
-#include <numeric>
-#include <string>
 
-#include "base/case_folding.h"
+#include "base/sort_keys.h"
 
 namespace tamrikon {
 namespace {
@@ -25,40 +22,23 @@ LinkTarget targetOf(std::string_view reference, LinkResolver* resolver) {
   return target;
 }
 
-/// The texts that items are sorted by, one behind the other: few comparisons are made for each, so
-/// that it counts how they are built.
-class SortKeys {
- public:
-  explicit SortKeys(const std::vector<LinkItem>& items) {
-    ends_.reserve(items.size());
-    std::size_t length = 0;
-    for (const LinkItem& item : items) length += item.label.size() + kFairNumber;
-    texts_.reserve(length);
-    for (const LinkItem& item : items) {
-      appendLowered(texts_, item.label);
-      texts_ += '\r';
-      appendNumber(item.target.helpId);
-      ends_.push_back(texts_.size());
-    }
+/// By label and then help id, as texts.
+std::vector<std::uint32_t> sortedOrder(const std::vector<LinkItem>& items) {
+  constexpr std::size_t kFairNumber = 8;  // its length, with the CR before it
+  std::size_t length = 0;
+  for (const LinkItem& item : items) length += item.label.size() + kFairNumber;
+  SortKeys keys;
+  keys.reserve(items.size(), length);
+  for (const LinkItem& item : items) {
+    std::array<char, 16> number{'\r'};
+    char* const end = number.data() + number.size();
+    const auto written = std::to_chars(number.data() + 1, end, item.target.helpId);
+    keys.append(item.label);
+    keys.append({number.data(), static_cast<std::size_t>(written.ptr - number.data())});
+    keys.endKey();
   }
-
-  std::string_view operator[](std::size_t n) const {
-    const std::size_t start = n == 0 ? 0 : ends_[n - 1];
-    return std::string_view(texts_).substr(start, ends_[n] - start);
-  }
-
- private:
-  static constexpr std::size_t kFairNumber = 8;  // its length, with the CR before it
-
-  void appendNumber(int number) {
-    std::array<char, 16> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-    texts_.append(digits.data(), end.ptr);
-  }
-
-  std::string texts_;
-  std::vector<std::size_t> ends_;
-};
+  return keys.order();
+}
 
 }  // namespace
 
@@ -127,14 +107,7 @@ bool LinkItems::sort(const MacroList& list, LinkResolver* resolver) {
   }
   for (const TopicItem& topic : list.topics) addTopic(topic, resolver);
   joinLabels();
-  if (items_.size() < 2) return true;
-  const SortKeys keys(items_);
-  order_.resize(items_.size());
-  std::iota(order_.begin(), order_.end(), 0U);
-  std::sort(order_.begin(), order_.end(), [&](std::uint32_t a, std::uint32_t b) {
-    const int difference = keys[a].compare(keys[b]);
-    return difference != 0 ? difference < 0 : a < b;
-  });
+  if (items_.size() > 1) order_ = sortedOrder(items_);
   return true;
 }
 
