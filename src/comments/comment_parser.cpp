@@ -1,5 +1,6 @@
 #include "comments/comment_parser.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/text.h"
@@ -41,12 +42,13 @@ void CommentParser::setComment(CommentList comment) {
 }
 
 CommentParser::Entries CommentParser::getParamList() const {
-  Entries entries;
+  Entries entries = entriesFor(param);
   for (const TagLine& tagLine : tagLines_) {
     if (!tagLine.is(param)) continue;
     std::string_view text = tagText(tagLine, param);
     const bool hasText = firstWhitespace(text) != 0;
     std::string& entry = entries.emplace_back();
+    entry.reserve(roomFor(tagLine.line, tagLine.end));
     appendLine(entry, cutWord(text));
     if (hasText) appendLine(entry, text);
     appendContinuationLines(entry, tagLine);
@@ -84,6 +86,7 @@ std::array<CommentParser::Entries, 3> CommentParser::getSettingsList() const {
 std::string CommentParser::getDescription() const {
   std::string text;
   const std::size_t end = tagLines_.empty() ? lineCount_ : tagLines_.front().line;
+  text.reserve(roomFor(0, end));
   for (std::size_t line = 0; line < end; ++line) {
     if (line == 0) {
       appendFirstLineText(text, (*comment_)[line]);
@@ -123,6 +126,22 @@ unsigned CommentParser::tagsOf(std::string_view line) const {
   return tags;
 }
 
+/// No entries yet, with memory for all lines of the tag.
+CommentParser::Entries CommentParser::entriesFor(Tag tag) const {
+  Entries entries;
+  const auto count = std::count_if(tagLines_.begin(), tagLines_.end(),
+                                   [&](const TagLine& tagLine) { return tagLine.is(tag); });
+  entries.reserve(static_cast<std::size_t>(count));
+  return entries;
+}
+
+/// The bytes that the lines up to `end` take at most, with what is put before and behind each.
+std::size_t CommentParser::roomFor(std::size_t line, std::size_t end) const {
+  std::size_t size = 0;
+  for (; line < end; ++line) size += (*comment_)[line].size() + 2;
+  return size;
+}
+
 std::string_view CommentParser::tagText(const TagLine& tagLine, Tag tag) const {
   return trim(trim((*comment_)[tagLine.line]).substr(words_[tag].size()));
 }
@@ -159,12 +178,13 @@ void CommentParser::appendContinuationLines(std::string& entry, const TagLine& t
 }
 
 CommentParser::Entries CommentParser::linkEntries(Tag tag) const {
-  Entries entries;
+  Entries entries = entriesFor(tag);
   for (const TagLine& tagLine : tagLines_) {
     if (!tagLine.is(tag)) continue;
     std::string_view text = tagText(tagLine, tag);
     if (text.empty()) continue;
     std::string& entry = entries.emplace_back();
+    entry.reserve(text.size() + 1);
     appendLine(entry, cutWord(text));
     entry += text;
   }
@@ -174,7 +194,9 @@ CommentParser::Entries CommentParser::linkEntries(Tag tag) const {
 std::string CommentParser::firstText(Tag tag) const {
   for (const TagLine& tagLine : tagLines_) {
     if (!tagLine.is(tag)) continue;
-    std::string text(tagText(tagLine, tag));
+    std::string text;
+    text.reserve(roomFor(tagLine.line, tagLine.end));
+    text += tagText(tagLine, tag);
     for (std::size_t line = tagLine.line + 1; line < tagLine.end; ++line) {
       text += '\r';
       appendContinuationText(text, (*comment_)[line]);

@@ -83,6 +83,8 @@ class CommentParser {
 
   void loadUserTags();
   unsigned tagsOf(std::string_view line) const;
+  Entries entriesFor(Tag tag) const;
+  std::size_t roomFor(std::size_t line, std::size_t end) const;
   std::string_view tagText(const TagLine& tagLine, Tag tag) const;
   void appendFirstLineText(std::string& text, std::string_view line) const;
   void appendContinuationText(std::string& text, std::string_view line) const;

@@ -66,12 +66,12 @@ void HostMembers::update(const ModuleAnalysis& analysis) {
   for (HostMember* member : current_) member->record_ = nullptr;
   current_.clear();
   current_.reserve(analysis.members().size());
+  all_.reserve(analysis.members().size());
   for (const MemberRecord& record : analysis.members()) {
-    std::unique_ptr<HostMember>& member = all_[record.name];
-    if (!member) member = std::make_unique<HostMember>(module_, record.name);
-    member->name_ = record.name;  // an edit may have changed its letter case
-    member->record_ = &record;
-    current_.push_back(member.get());
+    HostMember& member = all_.try_emplace(record.name, module_, record.name).first->second;
+    member.name_ = record.name;  // an edit may have changed its letter case
+    member.record_ = &record;
+    current_.push_back(&member);
   }
 }
 

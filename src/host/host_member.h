@@ -1,7 +1,6 @@
 // The members of a module, as the IDE surface shows them.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -56,9 +55,7 @@ class HostMembers final : public Members {
  private:
   HostModule& module_;
   std::vector<HostMember*> current_;
-  std::unordered_map<std::string, std::unique_ptr<HostMember>, CaseInsensitiveHash,
-                     CaseInsensitiveEqual>
-      all_;
+  std::unordered_map<std::string, HostMember, CaseInsensitiveHash, CaseInsensitiveEqual> all_;
 };
 
 }  // namespace tamrikon
