@@ -119,7 +119,12 @@ constexpr std::uint64_t kTopBits = 0x80 * kEachByte;
 /// The up to eight bytes at `offset` as one number.
 std::uint64_t wordAt(std::string_view text, std::size_t offset) {
   std::uint64_t word = 0;
-  std::memcpy(&word, text.data() + offset, std::min(text.size() - offset, sizeof word));
+  const std::size_t left = text.size() - offset;
+  if (left >= sizeof word) {
+    std::memcpy(&word, text.data() + offset, sizeof word);  // of a known size, it is one move
+  } else {
+    std::memcpy(&word, text.data() + offset, left);
+  }
   return word;
 }
 
