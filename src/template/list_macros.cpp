@@ -28,8 +28,10 @@ bool isEmpty(const MacroSlot& slot) {
 
 void Expansion::expandConstruct(const MacroName& tag) {
   const MacroText& source = *frames_.back().source;
-  const Construct* const construct =
-      &source.constructs[source.tokens[frames_.back().token - 1].construct];
+  const TextIndex tagToken = frames_.back().token - 1;
+  const auto construct =
+      std::lower_bound(source.constructs.begin(), source.constructs.end(), tagToken,
+                       [](const Construct& c, TextIndex token) { return c.tag < token; });
   const MacroName* argument = construct->soundArgument;
   const bool isSound =
       argument != nullptr && source.tokens[construct->endMarker].start < frames_.back().end;

@@ -133,14 +133,11 @@ void scanMacros(MacroText& text, MacroSlots& slots) {
     const MacroName& name = *last;
     const auto token = static_cast<TextIndex>(text.tokens.size());
     if (!parsed.isClosed) text.wrongNames.push_back(token);
-    TextIndex construct = kNowhere;
     if (name.kind == MacroKind::doList || name.kind == MacroKind::ifNotEmpty) {
-      construct = static_cast<TextIndex>(text.constructs.size());
       text.constructs.push_back({token, kNowhere, kNowhere, kNowhere, kNowhere, nullptr});
     }
     const std::size_t end = offset + parsed.length();
-    text.tokens.push_back(
-        {static_cast<TextIndex>(offset), static_cast<TextIndex>(end), &name, construct});
+    text.tokens.push_back({static_cast<TextIndex>(offset), static_cast<TextIndex>(end), &name});
     offset = end;
   }
   if (text.constructs.empty()) return;

@@ -21,7 +21,6 @@ struct MacroToken {
   TextIndex start;  // of the opening "$"
   TextIndex end;    // behind the last character, the closing "$" if there is one
   const MacroName* name;
-  TextIndex construct = kNowhere;  // the number of that which it is the tag of
 };
 
 /// What belongs to a DOLIST or IFNOTEMPTY tag. A text may be expanded in part only: what lies
