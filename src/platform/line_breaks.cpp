@@ -52,6 +52,9 @@ char* copyWithLineBreaks(std::string_view text, char* to, Word& bits) {
 
 bool appendWithLineBreaks(std::string& bytes, std::string_view text) {
   constexpr std::size_t kPiece = 4096;
+  constexpr std::size_t kFairLine = 16;
+  // A large text would otherwise be there several times while the bytes grow.
+  bytes.reserve(bytes.size() + text.size() + text.size() / kFairLine);
   char broken[2 * kPiece];
   Word bits = 0;
   for (; !text.empty(); text.remove_prefix(std::min(kPiece, text.size()))) {
