@@ -70,7 +70,22 @@ bool reportOutcome(Session& session, const VBProject& project, Terminal& termina
   return false;
 }
 
+/// Ctrl+C while a template's programs run lets them end; a second one ends them, and `ends` the
+/// whole run.
+void handleInterrupts(Session& session, Terminal& terminal, bool& ends) {
+  terminal.interrupted = [&](int times) {
+    if (!session.programsRun) return;
+    ends = times > 1;
+    session.endsPrograms = ends;
+    if (ends) return;
+    terminal.complain(
+        "tamrikon: waiting for the template's programs to end; Ctrl+C ends them and tamrikon");
+  };
+}
+
 bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, Terminal& terminal) {
+  bool ends = false;
+  handleInterrupts(session, terminal, ends);
   if (!ide.isGroup()) {
     VBProject& project = ide.ActiveVBProject();
     if (!prepare(session, ide, project, options, terminal)) return false;
@@ -81,7 +96,7 @@ bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, T
   bool worked = true;
   GroupSteps steps;
   steps.activate = [&](VBProject& project) {
-    const bool ready = prepare(session, ide, project, options, terminal);
+    const bool ready = !ends && prepare(session, ide, project, options, terminal);
     worked = ready && worked;
     return ready;
   };

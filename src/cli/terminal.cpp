@@ -114,6 +114,7 @@ void Terminal::runModal(Dialog& dialog) {
     peers.emplace_back(control, std::move(peer));
   }
   Dialog* const owner = std::exchange(dialog_, &dialog);
+  interrupts_ = 0;
   dialog.onActivate();
   if (CommandButton* button = buttonOf(dialog, ButtonRole::default_);
       dialog.isShown() && button != nullptr) {
@@ -126,9 +127,10 @@ void Terminal::runModal(Dialog& dialog) {
 
 void Terminal::checkpoint() {
   if (!streams_.isInterrupted() || dialog_ == nullptr) return;
-  if (CommandButton* button = buttonOf(*dialog_, ButtonRole::cancel); button != nullptr) {
-    button->userClicked();
-  }
+  CommandButton* button = buttonOf(*dialog_, ButtonRole::cancel);
+  if (button == nullptr) return;
+  if (++interrupts_ == 1) button->userClicked();
+  if (interrupted) interrupted(interrupts_);
 }
 
 bool Terminal::openDocument(const std::string& path) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -39,8 +40,10 @@ class Terminal final : public Toolkit {
   std::optional<std::string> chooseFileToOpen(const FileChoice&) override { return std::nullopt; }
   std::optional<std::string> chooseFileToSave(const FileChoice&) override { return std::nullopt; }
 
-  /// Ctrl+C presses the cancel button of the dialog in front.
+  /// The first Ctrl+C presses the cancel button of the dialog in front, if it can be pressed then.
+  /// `interrupted`, unless it is empty, hears of each, with how many there were for that dialog.
   void checkpoint() override;
+  std::function<void(int times)> interrupted;
 
   /// There is none: what is put there is gone.
   std::string clipboardText() override { return {}; }
@@ -67,6 +70,7 @@ class Terminal final : public Toolkit {
   std::ostream* log_ = nullptr;
   bool hadWarnings_ = false;
   Dialog* dialog_ = nullptr;  // in front
+  int interrupts_ = 0;        // of it
   std::string status_;
   bool statusIsShown_ = false;
   std::size_t done_ = 0;

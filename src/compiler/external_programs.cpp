@@ -1,12 +1,37 @@
 #include "compiler/external_programs.h"
 
 #include <charconv>
+#include <utility>
 
 #include "base/paths.h"
 #include "base/text.h"
 #include "platform/command_script.h"
 
 namespace tamrikon {
+namespace {
+
+constexpr int kEventPause = 50;  // milliseconds
+
+/// Closes the handle, also where an event throws.
+class RunningProgram {
+ public:
+  RunningProgram(Session& session, ProcessHandle& handle) : session_(session), handle_(handle) {
+    session_.programsRun = true;
+    session_.endsPrograms = false;
+  }
+  ~RunningProgram() {
+    session_.programsRun = false;
+    session_.processes.CloseHandle(handle_);
+  }
+  RunningProgram(const RunningProgram&) = delete;
+  RunningProgram& operator=(const RunningProgram&) = delete;
+
+ private:
+  Session& session_;
+  ProcessHandle& handle_;
+};
+
+}  // namespace
 
 void ExternalPrograms::runExternalPrograms(const std::string& text) {
   const std::string base = joinPath(session_.settings.outputPath, "execAfter.");
@@ -66,8 +91,11 @@ bool ExternalPrograms::runProcessAndWait(const std::string& application,
     session_.log.logMessage("CreateProcess failed. Error: " + std::to_string(error));
     return false;
   }
-  session_.processes.WaitForSingleObject(handle);
-  session_.processes.CloseHandle(handle);
+  const RunningProgram running(session_, handle);
+  while (!session_.processes.WaitForSingleObject(handle, kEventPause)) {
+    session_.toolkit.checkpoint();
+    if (std::exchange(session_.endsPrograms, false)) session_.processes.TerminateProcess(handle);
+  }
   return true;
 }
 

@@ -19,7 +19,8 @@ class ExternalPrograms {
   /// reporting goes to the log.
   void runExternalPrograms(const std::string& text);
 
-  /// Whether the process started; it has ended then.
+  /// Whether the process started; it has ended then. Events get through meanwhile: a request to
+  /// cancel leaves the process alone, Session::endsPrograms ends it.
   bool runProcessAndWait(const std::string& application,
                          const std::vector<std::string>& commandLine);
 

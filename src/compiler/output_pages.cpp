@@ -114,6 +114,8 @@ void OutputPages::closingSteps() {
     const PhaseScope phase(session_.times, CompilePhase::programs);
     ExternalPrograms(session_).runExternalPrograms(commands);
   }
+  // A request to cancel that came behind the last topic is meant for this project.
+  if (!store_.checkpoint()) return;
   if (session_.settings.comContextID) {
     ide_.ActiveVBProject().setHelpFile(store_.evaluateMacro("tamrik-help-file"));
   }

@@ -39,6 +39,8 @@ class Session {
   bool lastGroupProject = false;   // the project in work is the last of its group
   std::string groupLogText;        // the log of the group so far
   bool runsPrograms = true;        // whether a template's external programs run
+  bool programsRun = false;        // they do so now
+  bool endsPrograms = false;       // those that run now are to end
   CompileTimes* times = nullptr;   // told of the phases of compiles, unless null
 
   ProgressDlg progressDlg;

@@ -1,4 +1,4 @@
-// Ctrl+C on the terminal.
+// Ctrl+C on the terminal, and other signals that end the program.
 #pragma once
 
 namespace tamrikon {
@@ -15,5 +15,9 @@ class InterruptWatch {
   /// Whether Ctrl+C was pressed since this was asked last.
   bool take();
 };
+
+/// Names the process, started in a group of its own, to which a signal that ends the program is
+/// passed on while an InterruptWatch lives; 0: there is none.
+void endWithThisProcess(long process);
 
 }  // namespace tamrikon

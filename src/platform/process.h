@@ -19,14 +19,21 @@ class ProcessServices {
   virtual std::string GetEnvironmentVariable(const std::string& name) = 0;
 
   /// Starts `application` with the words of `commandLine`, whose first is the program's name, in
-  /// the current folder and environment, handles inherited. With no application, the system's
-  /// search path finds the program by that name. On failure `error` is the system's error number.
+  /// the current folder and environment, handles inherited, apart from the keys of the terminal:
+  /// Ctrl+C doesn't reach it. With no application, the system's search path finds the program by
+  /// that name. On failure `error` is the system's error number.
   virtual bool CreateProcess(const std::string& application,
                              const std::vector<std::string>& commandLine, ProcessHandle& handle,
                              int& error) = 0;
 
-  /// Waits for the process to end, without a time limit.
-  virtual void WaitForSingleObject(const ProcessHandle& handle) = 0;
+  /// Waits for the process to end, for so many milliseconds at most. Whether it has ended.
+  virtual bool WaitForSingleObject(const ProcessHandle& handle, int milliseconds) = 0;
+
+  /// Ends the process and all that it started: they are asked to, and killed if that takes more
+  /// than a second. The end shows in WaitForSingleObject.
+  virtual void TerminateProcess(const ProcessHandle& handle) = 0;
+
+  /// To be called once the process has ended.
   virtual void CloseHandle(ProcessHandle& handle) = 0;
 
   virtual int GetThreadLocale() = 0;

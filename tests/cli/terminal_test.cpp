@@ -67,6 +67,30 @@ TEST_F(TerminalTest, InterruptStopsTheProjectInWorkAndNoOther) {
   EXPECT_FALSE(folder_.has("out/One.p"));
 }
 
+TEST_F(TerminalTest, InterruptWaitsForProgramsAndASecondOneEndsThem) {
+  folder_.put("Both.vbg", "VBGROUP 5.0\nStartupProject=One.vbp\nProject=Two.vbp\n");
+  folder_.put("t.tmkt",
+              "$PROJECT-EXT$ .p\n$tamrik-exec-after$\ncd $OUTPUT-PATH$; echo begun > begun; "
+              "sleep .5; echo done > $PROJECT-NAME$.done\n$end-tamrik-exec-after$\n");
+  std::vector<std::string> arguments = compile("Both.vbg");
+  arguments.pop_back();
+  for (const int presses : {1, 2}) {
+    std::filesystem::remove_all(folder_ / "out");
+    int left = presses;
+    const ProgramRun group(arguments, [&](Streams& streams) {
+      streams.isInterrupted = [&] { return folder_.has("out/begun") && left-- > 0; };
+    });
+    EXPECT_EQ(group.status, 1);
+    EXPECT_EQ(
+        group.err,
+        "tamrikon: waiting for the template's programs to end; Ctrl+C ends them and tamrikon\n"
+        "tamrikon: the compile of One was stopped\n");
+    EXPECT_EQ(folder_.has("out/One.done"), presses == 1);
+    EXPECT_EQ(folder_.has("out/Two.done"), presses == 1);
+    EXPECT_FALSE(folder_.has("out/execAfter.log"));
+  }
+}
+
 TEST_F(TerminalTest, OpensTheDocumentationOrTellsThatItCannot) {
   folder_.put("bin/xdg-open", "#!/bin/sh\necho \"$1\" > " + (folder_ / "opened") + "\n");
   std::filesystem::permissions(folder_ / "bin/xdg-open", std::filesystem::perms::owner_all);

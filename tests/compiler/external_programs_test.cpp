@@ -46,6 +46,10 @@ TEST_F(ExternalProgramsTest, RunsEachLineAsItStandsAndLogsItWithItsOutput) {
   EXPECT_TRUE(std::filesystem::is_empty(session_.settings.outputPath));
 }
 
+TEST_F(ExternalProgramsTest, KeepsThemApartFromCtrlCOnTheTerminal) {
+  EXPECT_EQ(run("kill -s INT 0"), "kill -s INT 0\n\n") << "their group isn't that of this test";
+}
+
 TEST_F(ExternalProgramsTest, ReportsWhatItCannotRun) {
   constexpr const char* kCannot = "ERROR: Cannot create and execute batch file.\n";
   EXPECT_EQ(run("  "), kCannot);  // no command leaves no log
@@ -64,7 +68,8 @@ class NoProcesses final : public ProcessServices {
     error = 2;
     return false;
   }
-  void WaitForSingleObject(const ProcessHandle&) override {}
+  bool WaitForSingleObject(const ProcessHandle&, int) override { return true; }
+  void TerminateProcess(const ProcessHandle&) override {}
   void CloseHandle(ProcessHandle&) override {}
   int GetThreadLocale() override { return 1033; }
   std::string GetLocaleInfoA(int, int) override { return std::string("1250\0\0", 6); }

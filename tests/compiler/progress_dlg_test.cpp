@@ -47,15 +47,16 @@ TEST_F(ProgressDlgTest, CompileStopsAtTheCheckpointBehindACancel) {
               "$MEMBER-EXT$ .m\n$PROJECT-EXT$ .p\n$CONTENTS-EXT$ .c\n$INDEX-EXT$ .i\n$X$ x\n");
   open();
   // Events get through before each of two members, behind four steps of preparation and four pages,
-  // and before each of three topics.
-  for (const auto& [pump, files] : {std::pair{1, 0}, {6, 0}, {7, 1}, {11, 4}, {13, 6}, {14, 7}}) {
+  // before each of three topics and behind the external programs.
+  for (const auto& [pump, files] :
+       {std::pair{1, 0}, {6, 0}, {7, 1}, {11, 4}, {13, 6}, {14, 7}, {15, 7}}) {
     SCOPED_TRACE(pump);
     int count = 0;
     toolkit_.onCheckpoint = [&, last = pump] { session_.cancelRequested = ++count >= last; };
     std::filesystem::remove_all(folder_ / "out");
     std::filesystem::create_directory(folder_ / "out");
     dialog_.startCompile();
-    const bool isStopped = pump < 14;
+    const bool isStopped = pump < 15;
     EXPECT_EQ(dialog_.outcome(), isStopped ? CompileOutcome::aborted : CompileOutcome::finished);
     EXPECT_EQ(nativeFileSystem().list(folder_ / "out").size(), std::size_t(files));
     EXPECT_EQ(session_.currentStore->evaluateMacro("X"), isStopped ? "$X$" : "x");
