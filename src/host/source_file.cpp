@@ -5,6 +5,7 @@
 
 #include "base/utf8.h"
 #include "base/vb_text.h"
+#include "host/leading_tabs.h"
 #include "host/source_head.h"
 #include "platform/text_decoding.h"
 
@@ -27,7 +28,12 @@ void SourceFile::read(std::string bytes) {
     if (bytes != *text_) raw_ = std::move(bytes);
   }
   format_.newLineEnd = firstLineEnd(*text_);
-  const SourceHead head = readSourceHead(*text_);
+  SourceHead head = readSourceHead(*text_);
+  if (std::optional<std::string> indented = withoutLeadingTabs(*text_, head.codeStart)) {
+    if (raw_.empty()) raw_ = *text_;
+    text_ = std::make_shared<const std::string>(std::move(*indented));
+    head = readSourceHead(*text_);
+  }
   headBlock_ = std::string_view(*text_).substr(0, head.attributesStart);
   blockClass_ = head.blockClass;
   lines_ = std::make_shared<Lines>();

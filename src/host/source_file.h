@@ -47,7 +47,8 @@ class SourceFile {
   std::string_view blockClass() const { return blockClass_; }
 
   /// Puts `text`, divided at its line ends, before `line`, which may be one past the last. Hidden
-  /// lines stay behind the line that they follow; attribute lines in `text` become hidden too.
+  /// lines stay behind the line that they follow; attribute lines in `text` become hidden too. Tabs
+  /// in front of a line become blanks, here as in replaceLines and in the lines that are read.
   void insertLines(int line, std::string_view text);
 
   /// Deletes lines with the hidden lines behind them.
@@ -115,7 +116,7 @@ class SourceFile {
 
   SourceFormat format_;
   std::shared_ptr<const std::string> text_;
-  std::string raw_;  // the bytes that were read, where encoding text_ again might give others
+  std::string raw_;             // the bytes that were read, where text_ might give others
   std::string_view headBlock_;  // what stands before the head's attributes
   LineEnd headBlockEnd_ = LineEnd::none;
   std::string_view blockClass_;

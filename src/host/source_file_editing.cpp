@@ -1,9 +1,11 @@
 #include <algorithm>
+#include <optional>
 #include <span>
 #include <utility>
 
 #include "base/text.h"
 #include "base/vb_text.h"
+#include "host/leading_tabs.h"
 #include "host/line_matching.h"
 #include "host/source_file.h"
 #include "host/source_head.h"
@@ -45,7 +47,8 @@ void SourceFile::setSaved() {
 void SourceFile::insertLines(int line, std::string_view text) {
   const SavedStateWatch watch(*this);
   EditStep& step = history_.beginEdit();
-  const std::vector<std::string_view> pieces = dividedLines(step.keep(std::string(text)));
+  const std::vector<std::string_view> pieces =
+      dividedLines(step.keep(withoutLeadingTabs(text).value_or(std::string(text))));
   std::vector<std::uint32_t> before;  // attributes that come above the first visible line
   LinesChange change{line, 0, {}};
   for (std::size_t i = 0; i < pieces.size(); ++i) {
@@ -79,6 +82,8 @@ void SourceFile::deleteLines(int first, int count) {
 }
 
 void SourceFile::replaceLines(int first, int count, std::string_view text, EditKind kind) {
+  const std::optional<std::string> indented = withoutLeadingTabs(text);
+  if (indented) text = *indented;
   const std::vector<std::string_view> pieces = dividedLines(text);
   const std::span<const std::string_view> old(lines_->data() + (first - 1),
                                               static_cast<std::size_t>(count));

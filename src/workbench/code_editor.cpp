@@ -128,7 +128,6 @@ void CodeEditor::outdentSelection() {
     const QString text = block.text();
     int count = 0;
     while (count < std::min<qsizetype>(kTabWidth, text.size()) && text[count] == ' ') ++count;
-    if (count < kTabWidth && count < text.size() && text[count] == '\t') ++count;
     QTextCursor blanks(block);
     blanks.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor, count);
     blanks.removeSelectedText();

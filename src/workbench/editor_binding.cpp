@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <algorithm>
+#include <utility>
 
 #include "workbench/block_text.h"
 
@@ -12,6 +13,11 @@ namespace {
 QStringList blocksOf(const HostModule& module, int first, int count) {
   if (count == 0) return {};
   return toBlocks(module.Lines(first, count));
+}
+
+bool beginsWithTab(const QString& line) {
+  const auto end = std::find_if_not(line.begin(), line.end(), [](QChar c) { return c == ' '; });
+  return end != line.end() && *end == '\t';
 }
 
 /// Takes away what is the same at both ends, but for one line: Qt may tell of a line more than the
@@ -37,6 +43,7 @@ EditorBinding::EditorBinding(CodeEditor& editor, HostModule& module)
   editor_.setPlainText(blocksOf(module_, 1, moduleLines_).join('\n'));
   connect(editor_.document(), &QTextDocument::contentsChange, this,
           [this](int position, int, int added) { takeUserEdit(position, added); });
+  connect(editor_.document(), &QTextDocument::contentsChanged, this, &EditorBinding::showIndents);
   connect(&editor_, &CodeEditor::undoWanted, this, &EditorBinding::undo);
   connect(&editor_, &CodeEditor::redoWanted, this, &EditorBinding::redo);
   connect(&editor_, &QPlainTextEdit::cursorPositionChanged, this, [this] {
@@ -73,7 +80,19 @@ void EditorBinding::takeUserEdit(int position, int charsAdded) {
     const int removed = static_cast<int>(old.size());
     module_.replaceLines(line, removed, fromBlock(lines.join('\n')), kind);
   }
+  if (std::any_of(lines.begin(), lines.end(), beginsWithTab)) {
+    indentedFirst_ = line;
+    indentedCount_ = static_cast<int>(lines.size());
+  }
   emit edited();
+}
+
+/// In the module, tabs in front of a line have become blanks.
+void EditorBinding::showIndents() {
+  const int count = std::exchange(indentedCount_, 0);
+  if (count == 0) return;
+  const QScopedValueRollback mark(isUpdate_, true);
+  replaceBlocks(indentedFirst_, count, blocksOf(module_, indentedFirst_, count));
 }
 
 void EditorBinding::linesChanged(int first, int removed, int inserted) {

@@ -33,14 +33,17 @@ class EditorBinding final : public QObject, private SourceObserver {
   void savedStateChanged() override;
 
   void takeUserEdit(int position, int charsAdded);
+  void showIndents();
   void replaceBlocks(int first, int count, const QStringList& lines);
   void change(int start, int end, QString text);
   void moveCaretToChange();
 
   CodeEditor& editor_;
   HostModule& module_;
-  int moduleLines_ = 0;      // 0 for a module without lines, which a document can't be
-  int changeEnd_ = -1;       // position in the document behind what changed last from elsewhere
+  int moduleLines_ = 0;    // 0 for a module without lines, which a document can't be
+  int changeEnd_ = -1;     // position in the document behind what changed last from elsewhere
+  int indentedFirst_ = 0;  // lines that the module has taken otherwise than the document has them
+  int indentedCount_ = 0;
   bool isUserEdit_ = false;  // the module is being told of one
   bool isUpdate_ = false;    // the document is being told of one
 };

@@ -38,6 +38,8 @@ TEST(Editing, HiddenLinesStayWithTheLineThatLivesOn) {
            Case{"a statement that goes on behind it", "A()\nAttribute A.x = 1\nb\n", 1, 1,
                 "A( _\nc _\n)", "A( _\nc _\n)\nAttribute A.x = 1\nb\n"},
            Case{"an empty line there", "a\r\nb", 2, 1, "", "a\r\n\r\n"},
+           Case{"tabs in front of lines", "\ta\n\tb\n\tc\n", 1, 3, "    a\n\tb.\n\tc",
+                "\ta\n    b.\n\tc\n"},
            Case{"nothing", "a\nAttribute a.x = 1\n\rb", 1, 3, "a\r\n\rb",
                 "a\nAttribute a.x = 1\n\rb"},
        }) {

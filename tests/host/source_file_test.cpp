@@ -36,6 +36,9 @@ TEST(SourceFile, ShowsTheCodeBehindTheHead) {
                 "Sub A()\r\n\tattribute A.VB_HelpID = _\r\n5\r\nAttribute A.x = 1\r\nAttributed = "
                 "1\r\nAttribute\r\nEnd Sub\r\n",
                 "Sub A()|Attributed = 1|Attribute|End Sub"},
+           Case{"tabs in front of lines",
+                "BEGIN\n\tX\nEND\n\tSub A(b, _\r\n  \t c\t)\n\tAttribute A.x = 1\n \t\t\n\t",
+                "    Sub A(b, _|     c\t)|        |    "},
        }) {
     SCOPED_TRACE(name);
     const SourceFile file(bytes, page());
@@ -53,6 +56,8 @@ TEST(SourceFile, KeepsTheBytesOfWhatIsNotEdited) {
            Case{"pairs that another pair equals", 932, "' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n",
                 "表", "\x95\x5C\n' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n"},
            Case{"no line end at all", 1252, "a", "b\nc", "b\r\nc\r\na"},
+           Case{"tabs in front of lines", 1251, "\tx\n\t\xE6\n", "\t\tж",
+                "        \xE6\n\tx\n\t\xE6\n"},
        }) {
     SCOPED_TRACE(name);
     SourceFile file(bytes, page(number));

@@ -98,12 +98,12 @@ TEST_F(EditingTest, KeysIndent) {
   module.replaceLines(1, 1, "a\nb\n\n\tc\n  d");
   editor.setSelection({1, 1, 5, 1});
   press(Qt::Key_Tab);
-  EXPECT_EQ(text(1, 5), "    a\r\n    b\r\n\r\n    \tc\r\n  d");
+  EXPECT_EQ(text(1, 5), "    a\r\n    b\r\n\r\n        c\r\n  d");
   editor.setSelection({2, 3, 5, 2});
   press(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(text(1, 5), "    a\r\nb\r\n\r\n\tc\r\nd");
+  EXPECT_EQ(text(1, 5), "    a\r\nb\r\n\r\n    c\r\nd");
   trigger("undo");
-  EXPECT_EQ(text(4, 2), "    \tc\r\n  d");
+  EXPECT_EQ(text(4, 2), "        c\r\n  d");
   trigger("outdent");
   editor.setSelection({1, 6, 1, 6});
   press(Qt::Key_Return);
@@ -128,6 +128,10 @@ TEST_F(EditingTest, ClipboardKeepsEveryCharacter) {
   QApplication::clipboard()->setText(toQt("one\r\ntwo\rthree " + odd));
   trigger("paste");
   EXPECT_EQ(module.Lines(1, 3), "one\r\ntwo\r\nthree " + odd + odd);
+  expectSame(editor, module);
+  QApplication::clipboard()->setText("\tfour\n  \t\tfive\t\n");
+  trigger("paste");
+  EXPECT_TRUE(module.Lines(4, 1).starts_with("        five\t"));
   expectSame(editor, module);
 }
 
