@@ -10,10 +10,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <mutex>
+#include <set>
 #include <utility>
 
 #include "base/paths.h"
+#include "platform/file_replacement.h"
 #include "platform/file_system.h"
+#include "platform/write_all.h"
 
 namespace tamrikon {
 namespace {
@@ -120,16 +124,6 @@ class Descriptor {
   int number_ = -1;
 };
 
-bool writeAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t done = ::write(descriptor, bytes.data(), bytes.size());
-    if (done < 0 && errno == EINTR) continue;
-    if (done < 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(done));
-  }
-  return true;
-}
-
 /// No text of people is longer; a file with a hole, or one that the system makes up, may be.
 constexpr std::size_t kMaxRead = std::size_t{256} << 20;
 
@@ -229,17 +223,8 @@ class PosixFileSystem final : public FileSystem {
     std::error_code ignored;
     const std::filesystem::path target = std::filesystem::canonical(native, ignored);
     if (!ignored) native = target.string();
-    std::string temporary = native + ".XXXXXX";
-    const int descriptor = ::mkostemp(temporary.data(), O_CLOEXEC);
-    if (descriptor < 0) return errorOf(errno, native);
-    const int failure = fillReplacement(descriptor, native, bytes);
-    if (failure == 0 && ::rename(temporary.c_str(), native.c_str()) == 0) {
-      flushFolder(native);
-      return FileError::none;
-    }
-    const int number = failure != 0 ? failure : errno;
-    ::unlink(temporary.c_str());
-    return errorOf(number);
+    cleanOnce(std::string(folderOf(native)));
+    return errorOf(replaceFile(native, bytes), native);
   }
 
   FileError remove(const std::string& path) override {
@@ -306,31 +291,17 @@ class PosixFileSystem final : public FileSystem {
     return path.find('\0') == std::string::npos ? nativePath(path) : std::string();
   }
 
-  /// Writes the new text with the old file's permissions; an errno value, 0 for success.
-  static int fillReplacement(int descriptor, const std::string& oldPath, std::string_view bytes) {
-    struct stat old {};
-    const bool hadOld = ::stat(oldPath.c_str(), &old) == 0;
-    // A file that nothing can be learnt of would lose its permissions.
-    int failure = hadOld || errno == ENOENT ? 0 : errno;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    const mode_t mode = hadOld ? (old.st_mode & 07777) : (0666 & ~mask);
-    if (failure == 0 && hadOld && ::access(oldPath.c_str(), W_OK) != 0) failure = errno;
-    // A foreign owner can be kept by root alone; for others the file becomes their own.
-    if (failure == 0 && hadOld && ::fchown(descriptor, old.st_uid, old.st_gid) != 0) errno = 0;
-    if (failure == 0 && ::fchmod(descriptor, mode) != 0) failure = errno;
-    if (failure == 0 && !writeAll(descriptor, bytes)) failure = errno;
-    if (failure == 0 && ::fsync(descriptor) != 0) failure = errno;
-    if (::close(descriptor) != 0 && failure == 0) failure = errno;
-    return failure;
+  /// What killed runs have left is removed when the first file of a folder is replaced.
+  void cleanOnce(const std::string& folder) {
+    {
+      const std::lock_guard guard(mutex_);
+      if (!cleanFolders_.insert(folder).second) return;
+    }
+    removeDeadReplacements(folder.empty() || folder.ends_with('/') ? folder : folder + '/');
   }
 
-  /// Makes the rename itself last; a file system that can't do so isn't a failure of the save.
-  static void flushFolder(const std::string& path) {
-    const std::string folder(folderOf(path));
-    const Descriptor descriptor(folder.empty() ? "." : folder + "/", O_RDONLY | O_DIRECTORY);
-    if (descriptor.isOpen()) (void)::fsync(descriptor.number());
-  }
+  std::mutex mutex_;
+  std::set<std::string> cleanFolders_;
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
-"""Kills the program at any moment of `comment --missing`: each source is then the old or the new one.
+"""Kills the program at any moment of `comment --missing`: each source is then the old or the new one,
+and the next run removes what was left beside them.
 
 RUNS tells how often (10).
 """
@@ -49,10 +50,15 @@ class KillTest(unittest.TestCase):
                     self.assertIn(there[source], (old, new[source]), f"{source} after run {run}")
                     changed += there[source] != old
                 halfway += 0 < changed < FILES
-                for other in there.keys() - set(names) - {"P.vbp"}:
-                    self.assertRegex(other, r"^C\d+\.cls\.\w{6}$")
-                    (folder / other).unlink()
-                    left += 1
+                others = there.keys() - set(names) - {"P.vbp"}
+                for other in others:
+                    self.assertRegex(other, r"^C\d+\.cls\.tamrikon-[0-9a-f]{8}-\w{6}$")
+                left += len(others)
+                if others:
+                    subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
+                    there = {file.name: file.read_bytes() for file in folder.iterdir()}
+                    self.assertEqual(there.keys() - {"P.vbp"}, set(names), f"after run {run}")
+                    self.assertEqual({name: there[name] for name in names}, new)
             print(f"{RUNS} runs, {halfway} stopped between the first and the last "
                   f"source, {left} temporary files beside sources", file=sys.stderr)
             self.assertGreater(halfway, RUNS / 2, "killed at the wrong moments")

@@ -1,6 +1,8 @@
 #include "platform/file_system.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,6 +10,7 @@
 #include <filesystem>
 #include <tuple>
 
+#include "platform/file_replacement.h"
 #include "platform/folder_listing.h"
 #include "support/temp_folder.h"
 
@@ -117,6 +120,32 @@ TEST(FileSystem, FailedReplacementLeavesNothingBehind) {
             FileError::pathNotFound);
   EXPECT_EQ(nativeFileSystem().list(folder / "").size(), 1U);
   EXPECT_EQ(folder.get("folder/inner"), "x");
+}
+
+TEST(FileSystem, ReplacingRemovesWhatKilledRunsHaveLeftInTheFolderAndNothingElse) {
+  const test::TempFolder folder;
+  const std::string start = replacementStart("Cart.cls");
+  const std::string dead = folder.put(start + "aB3xyz", "half");
+  const std::string locked = folder.put(start + "locked", "half");
+  const int writer = ::open(locked.c_str(), O_RDWR);
+  ASSERT_EQ(::flock(writer, LOCK_EX), 0);
+  folder.put(start + "longer1", "of somebody");
+  folder.put("sub/" + start + "abcdef", "in another folder");
+  folder.put("Cart.cls.tamrikon-" + std::string(8, 'f') + "-abcdef", "of another machine");
+  std::filesystem::create_symlink(folder / "Cart.cls", folder / (start + "shlink"));
+  EXPECT_EQ(nativeFileSystem().replaceAtomically(folder / "Till.bas", "new"), FileError::none);
+  EXPECT_FALSE(std::filesystem::exists(dead));
+  EXPECT_EQ(nativeFileSystem().list(folder.path()).size(), 6U);
+  ::close(writer);
+  removeDeadReplacements(folder.path());
+  EXPECT_FALSE(std::filesystem::exists(locked));
+  EXPECT_EQ(nativeFileSystem().list(folder.path()).size(), 5U);
+
+  for (const std::size_t length : {229U, 230U, 253U}) {  // before a letter of two bytes
+    const std::string name = std::string(length, 'n') + "\u00E9";
+    EXPECT_EQ(nativeFileSystem().replaceAtomically(folder / name, "new"), FileError::none);
+    EXPECT_EQ(folder.get(name), "new");
+  }
 }
 
 TEST(FileSystem, IsFileTakesOnlyWhatEnds) {

@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <cstdarg>
 #include <cstdlib>
-#include <cstring>
 #include <map>
 #include <utility>
 
@@ -79,7 +78,7 @@ TAMRIKON_CALL(int, open, (const char* path, int flags, ...)) {
 
 // The file goes by the name of the one that it is to replace.
 TAMRIKON_CALL(int, mkostemp, (char* path, int flags)) {
-  const std::string replaced(path, std::strlen(path) - std::strlen(".XXXXXX"));
+  const std::string replaced = std::string(path).substr(0, std::string(path).rfind(".tamrikon-"));
   if (fails(replaced)) return -1;
   const int descriptor = __real_mkostemp(path, flags);
   names()[descriptor] = replaced;
