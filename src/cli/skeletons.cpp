@@ -22,6 +22,20 @@ const Source* fileOf(const Skeleton& skeleton) {
   return &static_cast<const HostModule&>(skeleton.source->module()).source();
 }
 
+/// Each line without the blanks at its end, also those that line breaks divide within one.
+CommentLines withoutBlanksAtEnds(const CommentLines& lines) {
+  CommentLines result;
+  for (const std::string& text : lines) {
+    std::string kept;
+    for (const char c : text) {
+      if (c == '\r' || c == '\n') kept.resize(trimTrailing(kept).size());
+      kept += c;
+    }
+    result.emplace_back(trimTrailing(kept));
+  }
+  return result;
+}
+
 void insertAtTop(CodeModule& module, const CommentLines& comment) {
   const int countBefore = module.CountOfLines();
   const bool standsAboveComment = countBefore > 0 && trim(module.Lines(1, 1)).starts_with('\'');
@@ -38,7 +52,7 @@ Skeleton skeletonOf(const Wrapper& wrapper, std::string name, const ProjectSetti
   skeleton.isOfModule = wrapper.kind() == WrapperKind::module;
   // A declaration can begin on a line that continues another statement.
   skeleton.line = wrapper.source().lines().statementStartLine(wrapper.CodeLocation());
-  skeleton.comment = wrapper.generateComment(settings);
+  skeleton.comment = withoutBlanksAtEnds(wrapper.generateComment(settings));
   return skeleton;
 }
 

@@ -119,7 +119,7 @@ TEST(MissingComments, AreThoseThatTheSettingsWantInTheModulesThatAreGiven) {
   const ProgramRun run({"comment", project, "--missing", "TWO", "Three"});
   EXPECT_EQ(run.out, "Two.A\n1 comment inserted in 1 module.\n");
   EXPECT_EQ(run.err, "warning: the settings don't select module Three to be documented\n");
-  EXPECT_EQ(folder.get("Two.cls"), "'**\n'\n'@see          \n'@rem          \n" + source);
+  EXPECT_EQ(folder.get("Two.cls"), "'**\n'\n'@see\n'@rem\n" + source);
 }
 
 }  // namespace

@@ -40,11 +40,9 @@ class SourceCommandsTest : public testing::Test {
 TEST_F(SourceCommandsTest, FindEachTargetInTheFilesAsTheyWere) {
   const std::string top = "'**\r\n'\r\n'@see\r\n\r\n";
   const std::string count = "'**\r\n'\r\n'@see\r\n";
-  const std::string fill = "'**\r\n'\r\n'@see          \r\n'@rem          \r\n";
-  const std::string let =
-      "'**\r\n'\r\n'@param        Value Long.\r\n'@see          \r\n'@rem          \r\n";
-  const std::string get =
-      "  '**\r\n  '\r\n  '@return       Long.\r\n  '@see          \r\n  '@rem          \r\n";
+  const std::string fill = "'**\r\n'\r\n'@see\r\n'@rem\r\n";
+  const std::string let = "'**\r\n'\r\n'@param        Value Long.\r\n'@see\r\n'@rem\r\n";
+  const std::string get = "  '**\r\n  '\r\n  '@return       Long.\r\n  '@see\r\n  '@rem\r\n";
   using Case = std::tuple<std::vector<std::string>, std::string, std::string>;
   for (const auto& [targets, after, out] : {
            Case{{"Cart"}, cart(top), "Cart\n1 comment inserted in 1 module.\n"},
@@ -91,7 +89,7 @@ TEST_F(SourceCommandsTest, DryRunPrintsBytesForPatchAndTextForPeople) {
   std::filesystem::current_path(home);
   EXPECT_EQ(piped.out,
             "--- Till.bas\n+++ Till.bas\n@@ -1,3 +1,7 @@\n x = \"\xE9\"\n+'**\n+'\n"
-            "+'@see          \n+'@rem          \n Sub Main()\n End Sub\n");
+            "+'@see\n+'@rem\n Sub Main()\n End Sub\n");
   const ProgramRun shown = run("comment", {"Till.Main", "--dry-run"});
   EXPECT_TRUE(shown.out.starts_with("--- " + tillPath_ + "\n")) << "not below the current folder";
   EXPECT_NE(shown.out.find("\n x = \"é\"\n+'**\n"), std::string::npos) << shown.out;
