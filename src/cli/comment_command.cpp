@@ -33,8 +33,8 @@ class CommentRun {
     }
     const auto inserted =
         insertSkeletons(found_, options_.missing ? Repeats::leaveOut : Repeats::insert);
-    const std::vector<std::string> failures = ide_->saveAll();
-    for (const std::string& failure : failures) terminal_.complain("tamrikon: " + failure);
+    const std::vector<SaveFailure> failures = ide_->saveAll();
+    for (const SaveFailure& failure : failures) terminal_.complain("tamrikon: " + failure.text);
     if (options_.dryRun) {
       printChanges();
     } else {

@@ -108,8 +108,9 @@ bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, T
 }
 
 bool saveAll(HostIde& ide, Terminal& terminal) {
-  const std::vector<std::string> failures = ide.saveAll();
-  for (const std::string& failure : failures) terminal.complain("tamrikon: " + failure);
+  const std::vector<SaveFailure> failures = ide.saveAll();
+  for (const SaveFailure& failure : failures) terminal.complain("tamrikon: " + failure.text);
+  for (const std::string& warning : ide.takeSaveWarnings()) terminal.complain(warning);
   return failures.empty();
 }
 

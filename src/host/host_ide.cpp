@@ -9,6 +9,7 @@
 #include "base/case_folding.h"
 #include "base/paths.h"
 #include "base/utf8.h"
+#include "host/attribute_text.h"
 #include "host/code_page_guess.h"
 #include "host/group_file.h"
 
@@ -25,26 +26,51 @@ std::string absolutePath(FileSystem& files, const std::string& path) {
 }
 
 std::string lackingMessage(const CodePage& page, const LackingCharacter& lacking) {
+  std::string place = ", line " + std::to_string(lacking.line);
+  if (lacking.line == 0) {
+    place = ", in an attribute of the module";
+  } else if (lacking.column == 0) {
+    place += ", in an attribute behind it";
+  } else {
+    place += ", column " + std::to_string(lacking.column);
+  }
   char codePoint[16];
   std::snprintf(codePoint, sizeof codePoint, "U+%04X", static_cast<unsigned>(lacking.codePoint));
-  return ", line " + std::to_string(lacking.line) + ": code page " + std::to_string(page.number()) +
-         " lacks " + codePoint;
+  std::string character;
+  appendCodePoint(character, lacking.codePoint);
+  return place + ": code page " + std::to_string(page.number()) + " lacks '" + character + "' (" +
+         codePoint + ")";
+}
+
+/// Why a file that was edited had better not be written; empty if it may.
+std::string faultOf(const SourceFile& file) {
+  return file.fault();
+}
+std::string faultOf(const ProjectFile&) {
+  return {};
 }
 
 /// Saves `file`, a source or project file, if it has changed, or if the one on disk has and that
 /// shall not stand; a message if that fails.
 template <typename File>
-std::optional<std::string> saveFile(FileSystem& files, FileOnDisk& disk, File& file,
+std::optional<SaveFailure> saveFile(FileSystem& files, FileOnDisk& disk, File& file,
                                     const CodePage& page, OnConflict onConflict) {
   const bool isNeeded =
       file.isChanged() || (onConflict == OnConflict::overwrite && disk.isChanged(files));
   if (!isNeeded) return std::nullopt;
+  const std::string start = "cannot save " + disk.path();
+  const std::string fault = file.isChanged() ? faultOf(file) : std::string();
+  if (!fault.empty()) return SaveFailure{start + ", " + fault, disk.path()};
   LackingCharacter lacking;
   const std::optional<std::string> bytes = file.bytes(lacking);
-  if (!bytes) return "cannot save " + disk.path() + lackingMessage(page, lacking);
-  std::optional<std::string> failure = disk.save(files, *bytes, onConflict);
-  if (!failure) file.setSaved();
-  return failure;
+  if (!bytes) {
+    return SaveFailure{start + lackingMessage(page, lacking), disk.path(), lacking.line,
+                       lacking.column};
+  }
+  const std::optional<std::string> failure = disk.save(files, *bytes, onConflict);
+  if (failure) return SaveFailure{*failure, disk.path()};
+  file.setSaved();
+  return std::nullopt;
 }
 
 }  // namespace
@@ -154,19 +180,19 @@ bool HostIde::hasUnsavedChanges() const {
          std::any_of(projects.begin(), projects.end(), isChanged);
 }
 
-std::optional<std::string> HostIde::save(HostModule& module, OnConflict onConflict) {
+std::optional<SaveFailure> HostIde::save(HostModule& module, OnConflict onConflict) {
   Source& source = module.source();
   return saveFile(files_, source.disk(), source.file(), source.file().page(), onConflict);
 }
 
-std::optional<std::string> HostIde::saveProject(VBProject& project, OnConflict onConflict) {
+std::optional<SaveFailure> HostIde::saveProject(VBProject& project, OnConflict onConflict) {
   HostProject& saved = own(project);
   return saveFile(files_, saved.disk(), saved.file(), saved.codePage(), onConflict);
 }
 
-std::vector<std::string> HostIde::saveAll(OnConflict onConflict) {
-  std::vector<std::string> failures;
-  const auto note = [&](std::optional<std::string> failure) {
+std::vector<SaveFailure> HostIde::saveAll(OnConflict onConflict) {
+  std::vector<SaveFailure> failures;
+  const auto note = [&](std::optional<SaveFailure> failure) {
     if (failure) failures.push_back(std::move(*failure));
   };
   for (const auto& source : sources_.sources()) {
@@ -177,6 +203,23 @@ std::vector<std::string> HostIde::saveAll(OnConflict onConflict) {
     if (project->file().isChanged()) note(saveProject(*project, onConflict));
   }
   return failures;
+}
+
+std::vector<std::string> HostIde::takeSaveWarnings() {
+  std::vector<std::string> warnings;
+  for (const auto& source : sources_.sources()) {
+    if (source->file().isChanged()) continue;
+    for (const CutDescription& cut : source->attributes().takeCutDescriptions()) {
+      std::string place = source->path();
+      if (cut.line != 0) place += ", line " + std::to_string(cut.line);
+      warnings.push_back("warning: " + place + ": the description of " +
+                         (cut.name.empty() ? "the module" : cut.name) + " was cut after " +
+                         std::to_string(cut.kept) + " of its " + std::to_string(cut.length) +
+                         " characters, as Visual Basic reads no line of more than " +
+                         std::to_string(kMaxLineLength));
+    }
+  }
+  return warnings;
 }
 
 bool HostIde::changedOnDisk(const HostModule& module) const {

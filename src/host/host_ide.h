@@ -9,6 +9,7 @@
 
 #include "host/file_on_disk.h"
 #include "host/host_project.h"
+#include "host/save_failure.h"
 #include "host/source_store.h"
 #include "host/unseen_screen.h"
 #include "ide/ide.h"
@@ -72,17 +73,21 @@ class HostIde final : public VBE {
 
   bool hasUnsavedChanges() const;
 
-  /// Saves each source and project file that has changed. The result is a line for each one that
-  /// couldn't be saved; such a file is as it was on disk and counts as changed still. A file that
-  /// changedOnDisk() is one of those, unless `onConflict` says otherwise.
-  std::vector<std::string> saveAll(OnConflict onConflict = OnConflict::fail);
+  /// Saves each source and project file that has changed. The result is those that couldn't be
+  /// saved; such a file is as it was on disk and counts as changed still. A file that
+  /// changedOnDisk() is one of those, unless `onConflict` says otherwise, and so is a source that
+  /// can't be understood.
+  std::vector<SaveFailure> saveAll(OnConflict onConflict = OnConflict::fail);
 
   /// Save the source of one module, and the project's own file without its components, as saveAll()
-  /// does; a line if that fails. With OnConflict::overwrite, a file that changedOnDisk() is written
+  /// does. With OnConflict::overwrite, a file that changedOnDisk() is written
   /// even if there is nothing to save.
-  std::optional<std::string> save(HostModule& module, OnConflict onConflict = OnConflict::fail);
-  std::optional<std::string> saveProject(VBProject& project,
+  std::optional<SaveFailure> save(HostModule& module, OnConflict onConflict = OnConflict::fail);
+  std::optional<SaveFailure> saveProject(VBProject& project,
                                          OnConflict onConflict = OnConflict::fail);
+
+  /// Of what was saved since this was asked last, a warning for each description whose end is lost.
+  std::vector<std::string> takeSaveWarnings();
 
   /// Whether the file, which is read for that, isn't what was read or saved last; also if it is
   /// gone.

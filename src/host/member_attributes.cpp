@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <charconv>
 
-#include "base/text.h"
+#include "base/utf8.h"
 #include "base/vb_text.h"
+#include "host/attribute_text.h"
 #include "host/edit_group.h"
 #include "host/names.h"
 #include "host/scanning.h"
@@ -64,31 +65,6 @@ std::string_view joined(std::string_view attribute, std::string& buffer) {
   return buffer;
 }
 
-std::string readText(std::string_view value) {
-  std::string text;
-  if (!value.starts_with('"')) return text;
-  for (std::size_t i = 1; i < value.size(); ++i) {
-    if (value[i] == '"' && value.substr(i + 1, 1) != "\"") break;
-    if (value[i] == '"') ++i;
-    text += value[i];
-  }
-  return replaceAll(text, "\\r\\n", "\r\n");
-}
-
-std::string writtenText(std::string_view text) {
-  std::string value = "\"";
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i];
-    if (c == '\r' || c == '\n') {
-      value += "\\r\\n";
-      if (text.substr(i, 2) == "\r\n") ++i;
-    } else {
-      value.append(c == '"' ? 2 : 1, c);
-    }
-  }
-  return value + '"';
-}
-
 int readId(std::string_view value) {
   int id = 0;
   const auto result = std::from_chars(value.data(), value.data() + value.size(), id);
@@ -142,7 +118,7 @@ std::vector<std::uint32_t> MemberAttributes::find(const AttributeOwner& owner, P
 std::string MemberAttributes::moduleName() {
   std::string buffer;
   for (const std::uint32_t number : find({}, Property::name)) {
-    return readText(parse(joined(file_.attribute(number), buffer)).value);
+    return readAttributeText(parse(joined(file_.attribute(number), buffer)).value);
   }
   return {};
 }
@@ -150,7 +126,7 @@ std::string MemberAttributes::moduleName() {
 std::string MemberAttributes::description(const AttributeOwner& owner) {
   std::string buffer;
   for (const std::uint32_t number : find(owner, Property::description)) {
-    std::string text = readText(parse(joined(file_.attribute(number), buffer)).value);
+    std::string text = readAttributeText(parse(joined(file_.attribute(number), buffer)).value);
     if (!text.empty()) return text;
   }
   return {};
@@ -166,15 +142,16 @@ int MemberAttributes::helpContextID(const AttributeOwner& owner) {
 }
 
 void MemberAttributes::setDescription(const AttributeOwner& owner, std::string_view text) {
-  write(owner, Property::description, writtenText(text), text.empty());
+  std::erase_if(cuts_, [&](const CutDescription& cut) { return cut.name == owner.name; });
+  write(owner, Property::description, text, text.empty());
 }
 
 void MemberAttributes::setHelpContextID(const AttributeOwner& owner, int id) {
   write(owner, Property::helpId, std::to_string(id), id == 0);
 }
 
-void MemberAttributes::write(const AttributeOwner& owner, Property property,
-                             const std::string& value, bool isEmpty) {
+void MemberAttributes::write(const AttributeOwner& owner, Property property, std::string_view value,
+                             bool isEmpty) {
   const EditGroup group(file_.history());
   const bool isText = property == Property::description;
   const std::vector<std::uint32_t> numbers = find(owner, property);
@@ -182,20 +159,36 @@ void MemberAttributes::write(const AttributeOwner& owner, Property property,
   if (!key.empty()) key += '.';
   key += isText ? (owner.isVariable ? "VB_VarDescription" : "VB_Description")
                 : (owner.isVariable ? "VB_VarHelpID" : "VB_HelpID");
+  const auto lineWith = [&](std::string start) {
+    if (!isText) return start.append(value);
+    const std::size_t startLength = std::min(codePointCount(start), kMaxLineLength);
+    const std::string_view text = fittingAttributeText(value, kMaxLineLength - startLength);
+    if (text.size() < value.size()) noteCut(owner, text, value);
+    return start + writtenAttributeText(text);
+  };
   for (const std::uint32_t number : numbers) {
     const std::string_view old = file_.attribute(number);
     std::string buffer;
     const std::string_view line = joined(old, buffer);
     const std::string_view oldValue = parse(line).value;
-    if (isText ? readText(oldValue) == readText(value) : readId(oldValue) == readId(value))
-      continue;
     const std::size_t valueOffset =
         oldValue.empty() ? line.size() : static_cast<std::size_t>(oldValue.data() - line.data());
-    file_.replaceAttribute(number, std::string(line.substr(0, valueOffset)) + value);
+    std::string newLine = lineWith(std::string(line.substr(0, valueOffset)));
+    const std::string_view newValue = std::string_view(newLine).substr(valueOffset);
+    const bool isSame = isText ? readAttributeText(oldValue) == readAttributeText(newValue)
+                               : readId(oldValue) == readId(newValue);
+    if (!isSame) file_.replaceAttribute(number, std::move(newLine));
   }
   if (!numbers.empty() || isEmpty) return;
-  const std::string line = std::string(kKeyword) + ' ' + key + " = " + value;
+  const std::string line = lineWith(std::string(kKeyword) + ' ' + key + " = ");
   remember(file_.addAttribute(owner.declarationEnd, line), owner.declarationEnd == 0);
+}
+
+void MemberAttributes::noteCut(const AttributeOwner& owner, std::string_view kept,
+                               std::string_view all) {
+  if (!cuts_.empty() && cuts_.back().name == owner.name) return;  // at another procedure
+  cuts_.push_back(
+      {std::string(owner.name), owner.declarationEnd, codePointCount(kept), codePointCount(all)});
 }
 
 }  // namespace tamrikon

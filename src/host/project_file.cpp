@@ -90,10 +90,11 @@ std::string ProjectFile::text(std::string_view bytes) const {
 }
 
 void ProjectFile::setHelpFile(const std::string& path) {
-  if (path == helpFile_) return;
+  std::string line = path.substr(0, path.find_first_of("\r\n"));
+  if (line == helpFile_) return;
   changed_ = true;
   isAsRead_ = false;
-  helpFile_ = path;
+  helpFile_ = std::move(line);
 }
 
 std::optional<std::string> ProjectFile::bytes(LackingCharacter& lacking) const {
@@ -113,7 +114,11 @@ std::optional<std::string> ProjectFile::bytes(LackingCharacter& lacking) const {
   std::size_t offset = 0;
   const std::optional<std::string> encoded = page_->encodeExactly(helpFile_, offset);
   if (!encoded) {
-    for (LineReader reader(result); reader.next();) ++lacking.line;
+    std::string lineBefore;
+    for (LineReader reader(result); reader.next(); ++lacking.line) {
+      lineBefore = text(reader.line()) + '"' + helpFile_.substr(0, offset);
+    }
+    lacking.column = static_cast<int>(codePointCount(lineBefore)) + 1;
     lacking.codePoint = readCodePoint(helpFile_, offset);
     return std::nullopt;
   }

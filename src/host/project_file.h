@@ -40,6 +40,8 @@ class ProjectFile {
   std::string conditionalConstants() const { return text(conditionalConstants_); }
 
   const std::string& helpFile() const { return helpFile_; }
+
+  /// Of a text of several lines, the first is taken.
   void setHelpFile(const std::string& path);
   bool isChanged() const { return changed_; }
   void setSaved() { changed_ = false; }

@@ -129,6 +129,19 @@ bool SourceFile::runsOn(std::size_t index, bool ranOn) const {
   return ranOn || isNew(tails_[index]) || isNew(tails_[index + 1]);
 }
 
+std::string SourceFile::fault() const {
+  const auto at = [&](std::size_t offset) {
+    int line = 1;
+    for (LineReader reader(*text_); reader.next() && reader.offset() <= offset;) ++line;
+    return "line " + std::to_string(line);
+  };
+  const SourceHead head = readSourceHead(*text_);
+  if (head.unclosedStart) return at(*head.unclosedStart) + ": its Begin has no End";
+  const std::size_t null = text_->find('\0');
+  if (null == std::string::npos) return {};
+  return at(null) + ": it has a null character, so that it isn't text in a code page or UTF-8";
+}
+
 std::optional<std::string> SourceFile::bytes(LackingCharacter& lacking) const {
   SourceWriter writer(format_, raw_, text_->size() + text_->size() / 8);
   const auto addGroup = [&](std::uint32_t group) {
@@ -137,21 +150,26 @@ std::optional<std::string> SourceFile::bytes(LackingCharacter& lacking) const {
       return writer.add(attribute.text, attribute.origin, attribute.end);
     });
   };
-  bool fits = headBlock_.empty() || writer.add(headBlock_, 0, headBlockEnd_);
-  fits = fits && addGroup(0);
+  int line = 0;
+  const auto fail = [&](bool isHidden) {
+    lacking = writer.lacking();
+    lacking.line = line;
+    if (isHidden) lacking.column = 0;
+    return std::nullopt;
+  };
+  // What was read and isn't changed always fits.
+  if (!headBlock_.empty()) writer.add(headBlock_, 0, headBlockEnd_);
+  if (!addGroup(0)) return fail(true);
   std::vector<std::uint32_t> waiting;  // groups that go behind the end of a statement
   bool ranOn = false;
-  for (std::size_t i = 0; fits && i < lines_->size(); ++i) {
-    fits = writer.add((*lines_)[i], tails_[i].origin, tails_[i].end);
+  for (std::size_t i = 0; i < lines_->size(); ++i) {
+    ++line;
+    if (!writer.add((*lines_)[i], tails_[i].origin, tails_[i].end)) return fail(false);
     if (tails_[i].group != 0) waiting.push_back(tails_[i].group);
     ranOn = runsOn(i, ranOn);
     if (ranOn) continue;
-    fits = fits && std::all_of(waiting.begin(), waiting.end(), addGroup);
+    if (!std::all_of(waiting.begin(), waiting.end(), addGroup)) return fail(true);
     waiting.clear();
-  }
-  if (!fits) {
-    lacking = writer.lacking();
-    return std::nullopt;
   }
   return writer.finish();
 }

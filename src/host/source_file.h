@@ -91,6 +91,10 @@ class SourceFile {
   /// behind a line that an edit has made run on in the next one go behind the end of the statement.
   std::optional<std::string> bytes(LackingCharacter& lacking) const;
 
+  /// What makes the file as it was read one that can't be understood, beginning with the line on
+  /// disk; empty if nothing does. To write into such a file would harm it.
+  std::string fault() const;
+
   const CodePage& page() const { return format_.page; }
 
  private:

@@ -60,6 +60,7 @@ SourceHead readSourceHead(std::string_view text) {
   std::string_view opening = reader.atEnd() ? std::string_view() : reader.line();
   if (isKeyword(takeField(opening), "begin")) {
     head.blockClass = takeField(opening);
+    const std::size_t start = reader.lineStart();
     std::size_t depth = 0;
     do {
       if (opensBlock(reader.line())) {
@@ -69,6 +70,7 @@ SourceHead readSourceHead(std::string_view text) {
       }
       reader.advance();
     } while (depth > 0 && !reader.atEnd());
+    if (depth > 0) head.unclosedStart = start;
   }
   head.attributesStart = reader.lineStart();
   while (!reader.atEnd() && isAttributeLine(reader.line())) {

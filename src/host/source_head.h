@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace tamrikon {
@@ -10,6 +11,9 @@ namespace tamrikon {
 struct SourceHead {
   std::size_t attributesStart = 0;  // offset of the first attribute line
   std::size_t codeStart = 0;        // offset of the first visible line
+
+  /// Offset of the outermost Begin if it isn't closed: all that follows counts as its block.
+  std::optional<std::size_t> unclosedStart;
 
   /// The class behind the outermost Begin, such as "VB.Form".
   std::string_view blockClass;

@@ -62,7 +62,8 @@ bool SourceWriter::addLine(std::string_view text, std::uint32_t origin) {
     std::size_t offset = 0;
     const std::optional<std::string> encoded = format_.page.encodeExactly(text, offset);
     if (!encoded) {
-      lacking_ = {line_, readCodePoint(text, offset)};
+      lacking_.column = static_cast<int>(codePointCount(text.substr(0, offset))) + 1;
+      lacking_.codePoint = readCodePoint(text, offset);
       return false;
     }
     bytes_ += *encoded;

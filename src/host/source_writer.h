@@ -16,8 +16,10 @@ namespace tamrikon {
 
 /// A character that stands in the way of a save.
 struct LackingCharacter {
-  int line = 0;  // in the file as it would have been written, its head included
   char32_t codePoint = 0;
+  int line =
+      0;  // in the lines that the IDE shows; one with a hidden attribute behind it, 0: the head
+  int column = 0;  // in characters from 1; 0 in a hidden attribute
 };
 
 /// How a source file was read, and so is written.
@@ -38,7 +40,7 @@ class SourceWriter {
 
   std::string finish();
 
-  /// After add() has failed.
+  /// After add() has failed: the character, and its column in its line.
   const LackingCharacter& lacking() const { return lacking_; }
 
  private:

@@ -106,7 +106,7 @@ bool ProjectKeeper::saveOne(HostModule& module, QStringList& failures) {
   const auto onConflict = howToWrite(module, module.path());
   if (!onConflict) return false;
   const auto failure = ide_->save(module, *onConflict);
-  if (failure) failures += toQt(*failure);
+  if (failure) failures += toQt(failure->text);
   return !failure;
 }
 
@@ -114,7 +114,7 @@ bool ProjectKeeper::saveOne(HostProject& project, QStringList& failures) {
   const auto onConflict = howToWrite(project, project.FileName());
   if (!onConflict) return false;
   const auto failure = ide_->saveProject(project, *onConflict);
-  if (failure) failures += toQt(*failure);
+  if (failure) failures += toQt(failure->text);
   return !failure;
 }
 

@@ -123,6 +123,25 @@ TEST_F(CommandLineTest, ChangesSourcesWithSaveAlone) {
   EXPECT_EQ(folder_.get("Shop.vbp"), project + "HelpFile=\"out.chm\"\r\n");
 }
 
+TEST_F(CommandLineTest, SavesNoLineThatTheIdeCannotRead) {
+  std::string words;
+  for (int n = 0; n < 300; ++n) words += "\"w\xE9\" ";  // 5 characters, written as 7
+  folder_.put("Cart.cls", "Option Explicit\n\n'**\n'" + words + "\nPublic Sub Fill()\nEnd Sub\n");
+  folder_.put("t/own.tmkt", "$tamrik-help-file$\na.chm\n  and more\n$end-tamrik-help-file$");
+  for (int round = 1; round <= 2; ++round) {
+    const ProgramRun run = compile({"--set", "comWriteDescription=1", "--set", "comContextID=1",
+                                    "--no-exec", "--save", "--fail-on-warnings"});
+    EXPECT_EQ(run.status, 3);
+    EXPECT_EQ(run.err, "warning: " + folder_ / "Cart.cls" +
+                           ", line 5: the description of Fill was cut after 704 of its 1499 "
+                           "characters, as Visual Basic reads no line of more than 1023\n");
+    const std::string source = folder_.get("Cart.cls");
+    const std::size_t start = source.find("Attribute Fill.VB_Desc");
+    EXPECT_EQ(source.find('\n', start) - start, 1020U);
+    EXPECT_TRUE(folder_.get("Shop.vbp").ends_with("Name=\"Shop\"\r\nHelpFile=\"a.chm\"\r\n"));
+  }
+}
+
 TEST_F(CommandLineTest, ListsTheTemplates) {
   ::setenv("TAMRIKON_HOME", folder_.path().c_str(), 1);
   folder_.put("Templates/long-enough-a-name.tmkt",

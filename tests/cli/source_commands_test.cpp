@@ -96,6 +96,21 @@ TEST_F(SourceCommandsTest, DryRunPrintsBytesForPatchAndTextForPeople) {
   EXPECT_EQ(folder_.get("Till.bas"), "x = \"\xE9\"\nSub Main()\nEnd Sub\n");
 }
 
+TEST_F(SourceCommandsTest, RefuseToWriteIntoFilesThatCannotBeUnderstood) {
+  for (const auto& [text, why] : {
+           std::pair(std::string("VERSION 5.00\nBegin VB.Form F\n  Begin X y\n  End\nSub A()\n"),
+                     "line 2: its Begin has no End"),
+           {std::string("a\n\0", 3), "line 2: it has a null character"},
+       }) {
+    const std::string path = folder_.put("F.frm", text);
+    folder_.put("Shop.vbp", "Form=F.frm\n");
+    const ProgramRun result = run("comment", {"--missing"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err.find("tamrikon: cannot save " + path + ", " + why), 0U) << result.err;
+    EXPECT_EQ(folder_.get("F.frm"), text);
+  }
+}
+
 TEST_F(SourceCommandsTest, ReportWhatCannotBeSaved) {
   folder_.put("Shop.tamrik", "#Tamrikon Project Settings#\naddUser1=1\nuser1Default=\xD1\x84\n");
   const ProgramRun result = run("comment", {"Cart.Fill", "Till:1"});

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "host/source_text.h"
 #include "support/open_project.h"
 #include "support/temp_folder.h"
 
@@ -136,9 +137,13 @@ TEST_F(HostIdeTest, FailedSavesLeaveTheirFilesAndNoOthers) {
   ide_->ActiveVBProject().setHelpFile("\u3042.chm");
   const std::vector<std::string> expected = {
       "cannot save " + folder_ / "Harbour/Port/cShip.cls" +
-          ", line 10: code page 1251 lacks U+00E9",
-      "cannot save " + folder_ / "Harbour/Port/Port.vbp" + ", line 9: code page 1251 lacks U+3042"};
-  EXPECT_EQ(ide_->saveAll(), expected);
+          ", line 3, column 6: code page 1251 lacks 'é' (U+00E9)",
+      "cannot save " + folder_ / "Harbour/Port/Port.vbp" +
+          ", line 9, column 11: code page 1251 lacks 'あ' (U+3042)"};
+  const std::vector<SaveFailure> failures = ide_->saveAll();
+  EXPECT_EQ(test::texts(failures), expected);
+  EXPECT_EQ(failures.front().path, folder_ / "Harbour/Port/cShip.cls");
+  EXPECT_EQ(std::pair(failures.front().line, failures.front().column), std::pair(3, 6));
   EXPECT_EQ(folder_.get("Harbour/Port/cShip.cls"), ship);
   EXPECT_TRUE(folder_.get("Harbour/Tools/表.bas").find("' \x84\x7E\x84\x80") != std::string::npos);
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "host/source_text.h"
 #include "support/open_project.h"
 #include "support/temp_folder.h"
 
@@ -106,10 +107,10 @@ TEST_F(SharedFilesTest, NeverSavesOverTheWorkOfOthersUnasked) {
   module().InsertLines(1, "' mine");
   project.setHelpFile("mine");
   module(1, 2).InsertLines(1, "' mine");
-  EXPECT_EQ(ide_->saveAll(),
+  EXPECT_EQ(test::texts(ide_->saveAll()),
             (std::vector<std::string>{conflict("m.bas"), conflict("f.frm", "removed"),
                                       conflict("b.vbp")}));
-  EXPECT_EQ(ide_->saveProject(project), conflict("b.vbp"));
+  EXPECT_EQ(ide_->saveProject(project)->text, conflict("b.vbp"));
   EXPECT_EQ(folder_.get("m.bas"), "other\n");
   EXPECT_EQ(folder_.get("b.vbp"), "Module=m; m.bas\nHelpFile=k\n");
   EXPECT_TRUE(!folder_.has("f.frm") && module().isChanged());

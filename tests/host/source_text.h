@@ -2,8 +2,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/text.h"
+#include "host/save_failure.h"
 #include "host/source_file.h"
 
 namespace tamrikon::test {
@@ -11,6 +13,13 @@ namespace tamrikon::test {
 /// The lines that a person sees, divided by "|".
 inline std::string visible(const SourceFile& file) {
   return replaceAll(file.text(1, file.lineCount()), "\r\n", "|");
+}
+
+/// What people read of saves that failed.
+inline std::vector<std::string> texts(const std::vector<SaveFailure>& failures) {
+  std::vector<std::string> texts;
+  for (const SaveFailure& failure : failures) texts.push_back(failure.text);
+  return texts;
 }
 
 inline std::string saved(const SourceFile& file) {

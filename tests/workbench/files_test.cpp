@@ -132,7 +132,7 @@ TEST_F(FilesTest, ACharacterThatTheFileCannotHoldStopsItsSaveAlone) {
   prompts_.answers = {"OK"};
   trigger("saveAll");
   EXPECT_TRUE(
-      prompts_.asked.last().contains("Warehouse.cls, line 15: code page 1252 lacks U+4E2D"));
+      prompts_.asked.last().contains("Warehouse.cls, line 1, column 3: code page 1252 lacks '中' (U+4E2D)"));
   EXPECT_TRUE(module("Warehouse").isChanged());
   EXPECT_FALSE(module("StockText").isChanged());
   prompts_.answers = {"Save", "OK"};
