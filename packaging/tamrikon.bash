@@ -34,7 +34,7 @@ _tamrikon() {
   esac
 
   case $command in
-    compile) options="--set --template --output --no-exec --save --log --quiet --fail-on-warnings --open --timings" ;;
+    compile) options="--set --template --output --no-exec --save --log --quiet --verbose --fail-on-warnings --open --timings" ;;
     comment) options="--missing --dry-run" ;;
     "") mapfile -t COMPREPLY < <(compgen -W "$commands --help --version" -- "$word"); return ;;
   esac

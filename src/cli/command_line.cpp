@@ -48,6 +48,10 @@ void addCompile(CLI::App& app, CompileOptions& options) {
   command.add_option("--log", options.logFile, "Write the progress log there as well")
       ->type_name("FILE");
   command.add_flag("--quiet", options.quiet, "Print only the warnings and errors of the log");
+  command
+      .add_flag("--verbose", options.verbose,
+                "Print the commands of the template's programs as well")
+      ->excludes("--quiet");
   command.add_flag("--fail-on-warnings", options.failsOnWarnings,
                    "Exit with status 3 if there was a warning or an error");
   command.add_flag("--open", options.opens, "Open the finished documentation");

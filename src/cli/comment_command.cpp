@@ -2,9 +2,9 @@
 #include <set>
 
 #include "base/case_folding.h"
-#include "base/paths.h"
 #include "cli/commands.h"
 #include "cli/comment_lookup.h"
+#include "cli/path_from_here.h"
 #include "cli/project_opening.h"
 #include "cli/unified_diff.h"
 #include "cli/unwritten_files.h"
@@ -112,18 +112,10 @@ class CommentRun {
       return streams_.outIsTerminal ? decodeText(bytes, page).text : bytes;
     };
     for (const UnwrittenFiles::Replacement& file : unwritten_.replacements()) {
-      streams_.out << unifiedDiff(pathFromHere(file.path), shown(file.before), shown(file.after));
+      streams_.out << unifiedDiff(pathFromHere(files(), file.path), shown(file.before),
+                                  shown(file.after));
     }
     if (unwritten_.replacements().empty()) terminal_.complain("No comment is missing.");
-  }
-
-  /// Relative to the current folder if the file lies below it.
-  std::string pathFromHere(const std::string& path) {
-    const std::string here =
-        joinPath(withoutTrailingSeparator(files().absolute(".")), std::string_view());
-    std::string result = files().absolute(path);
-    if (result.starts_with(here)) result.erase(0, here.size());
-    return result;
   }
 
   const CommentOptions& options_;

@@ -10,6 +10,7 @@
 #include "cli/project_opening.h"
 #include "cli/setting_overrides.h"
 #include "cli/terminal.h"
+#include "cli/written_summary.h"
 #include "compiler/group_compile.h"
 #include "compiler/store.h"
 #include "platform/data_folder.h"
@@ -83,7 +84,9 @@ void handleInterrupts(Session& session, Terminal& terminal, bool& ends) {
   };
 }
 
-bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, Terminal& terminal) {
+/// Whether all projects were compiled; `summary` has those that were.
+bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, Terminal& terminal,
+                WrittenSummary& summary) {
   bool ends = false;
   handleInterrupts(session, terminal, ends);
   if (!ide.isGroup()) {
@@ -91,7 +94,9 @@ bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, T
     if (!prepare(session, ide, project, options, terminal)) return false;
     session.progressDlg.VBInstance = &ide;
     session.progressDlg.showModal();
-    return reportOutcome(session, project, terminal);
+    if (!reportOutcome(session, project, terminal)) return false;
+    summary.addProject();
+    return true;
   }
   bool worked = true;
   GroupSteps steps;
@@ -101,7 +106,9 @@ bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, T
     return ready;
   };
   steps.compiled = [&](VBProject& project) {
-    worked = reportOutcome(session, project, terminal) && worked;
+    const bool finished = reportOutcome(session, project, terminal);
+    if (finished) summary.addProject();
+    worked = finished && worked;
   };
   compileGroup(session, ide, steps);
   return worked;
@@ -168,14 +175,21 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
   if (!ide) return kFailed;
   Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
   session.runsPrograms = options.runsPrograms;
+  session.showsCommands = options.verbose;
+  session.log.onMessage = [&](const std::string& text, const std::string& wording) {
+    terminal.showMessage(text, wording);
+  };
   if (options.printsTimes) session.times = &times;
-  bool worked = compileAll(session, *ide, options, terminal);
+  WrittenSummary summary(session);
+  bool worked = compileAll(session, *ide, options, terminal, summary);
   // A compile that was stopped has changed only some of the attributes.
   if (options.saves && worked) worked = saveAll(*ide, terminal);
   if (log.is_open() && !log.flush()) {
     terminal.complain("tamrikon: cannot write the log " + options.logFile);
     worked = false;
   }
+  const std::string written = summary.sentence();
+  if (!options.quiet && !written.empty()) terminal.print(written);
   if (options.opens && worked) worked = session.progressDlg.showDocumentation();
   if (options.printsTimes) {
     times.enter(CompilePhase::other);

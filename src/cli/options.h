@@ -20,6 +20,7 @@ struct CompileOptions : ProjectOptions {
   bool runsPrograms = true;
   bool saves = false;
   bool quiet = false;
+  bool verbose = false;
   bool failsOnWarnings = false;
   bool opens = false;
   bool printsTimes = false;

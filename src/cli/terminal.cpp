@@ -15,16 +15,22 @@
 namespace tamrikon {
 namespace {
 
-/// Whether a line of the text is a warning or an error; what an external program prints comes as
-/// one text of many lines.
-bool hasWarning(const std::string& lines) {
-  const std::vector<std::string_view> all = split(lines, '\n');
-  return std::any_of(all.begin(), all.end(), [](std::string_view line) {
-    return startsWithIgnoringCase(line, "warning: ") ||
-           startsWithIgnoringCase(line, "warning (config file): ") ||
-           startsWithIgnoringCase(line, "error: ") ||
-           startsWithIgnoringCase(line, "error (config file): ");
-  });
+bool isWarning(std::string_view line) {
+  return startsWithIgnoringCase(line, "warning: ") ||
+         startsWithIgnoringCase(line, "warning (config file): ") ||
+         startsWithIgnoringCase(line, "error: ") ||
+         startsWithIgnoringCase(line, "error (config file): ");
+}
+
+/// A message that begins as a warning or an error, and otherwise those of its lines that do: what a
+/// template's programs print comes as one message. Empty if there is none.
+std::string warningsOf(const std::string& message) {
+  if (isWarning(message)) return message;
+  std::string warnings;
+  for (const std::string_view line : split(message, '\n')) {
+    if (isWarning(line)) warnings.append(warnings.empty() ? "" : "\n").append(line);
+  }
+  return warnings;
 }
 
 std::string withLineFeeds(const std::string& text) {
@@ -50,17 +56,6 @@ std::string_view shortened(std::string_view text, std::size_t width) {
 }
 
 }  // namespace
-
-/// Prints what is added to a log; a text that is set as a whole was seen before.
-class Terminal::LogPeer final : public ControlPeer {
- public:
-  explicit LogPeer(Terminal& terminal) : terminal_(terminal) {}
-  void changed() override {}
-  void textAppended(const std::string& text) override { terminal_.showMessage(text); }
-
- private:
-  Terminal& terminal_;
-};
 
 class Terminal::StatusPeer final : public ControlPeer {
  public:
@@ -101,9 +96,7 @@ void Terminal::runModal(Dialog& dialog) {
   std::vector<std::pair<Control*, std::unique_ptr<ControlPeer>>> peers;
   for (Control* control : dialog.controls()) {
     std::unique_ptr<ControlPeer> peer;
-    if (const auto* box = dynamic_cast<TextBox*>(control); box != nullptr && box->isReadOnly()) {
-      peer = std::make_unique<LogPeer>(*this);
-    } else if (const auto* bar = dynamic_cast<StatusBar*>(control); bar != nullptr) {
+    if (const auto* bar = dynamic_cast<StatusBar*>(control); bar != nullptr) {
       peer = std::make_unique<StatusPeer>(*this, *bar);
     } else if (const auto* shown = dynamic_cast<ProgressIndicator*>(control); shown != nullptr) {
       peer = std::make_unique<ProgressPeer>(*this, *shown);
@@ -115,6 +108,7 @@ void Terminal::runModal(Dialog& dialog) {
   }
   Dialog* const owner = std::exchange(dialog_, &dialog);
   interrupts_ = 0;
+  done_ = all_ = 0;
   dialog.onActivate();
   if (CommandButton* button = buttonOf(dialog, ButtonRole::default_);
       dialog.isShown() && button != nullptr) {
@@ -141,19 +135,28 @@ void Terminal::beep() {
   if (streams_.errIsTerminal) streams_.err << '\a' << std::flush;
 }
 
-void Terminal::showMessage(const std::string& text) {
-  const std::string lines = withLineFeeds(text);
-  const bool warns = hasWarning(lines);
-  hadWarnings_ = hadWarnings_ || warns;
-  if (log_ != nullptr) *log_ << lines;
-  if (quiet_ && !warns) return;
+void Terminal::showMessage(const std::string& text, const std::string& wording) {
+  if (dialog_ == nullptr) return;
+  if (log_ != nullptr) *log_ << withLineFeeds(text) << '\n';
+  if (wording.empty() && !text.empty()) return;
+  const std::string lines = withLineFeeds(wording);
+  const std::string warnings = warningsOf(lines);
+  hadWarnings_ = hadWarnings_ || !warnings.empty();
+  if (!quiet_) {
+    print(lines);
+  } else if (!warnings.empty()) {
+    print(warnings);
+  }
+}
+
+void Terminal::print(const std::string& text) {
   clearStatus();
-  streams_.out << lines << std::flush;
+  streams_.out << text << '\n' << std::flush;
 }
 
 void Terminal::complain(const std::string& text) {
   clearStatus();
-  hadWarnings_ = hadWarnings_ || hasWarning(text);
+  hadWarnings_ = hadWarnings_ || !warningsOf(text).empty();
   streams_.err << text << '\n' << std::flush;
 }
 
@@ -181,7 +184,8 @@ void Terminal::showStatus() {
   constexpr auto kPause = std::chrono::milliseconds(40);
   constexpr std::size_t kWidth = 79;
   const auto now = std::chrono::steady_clock::now();
-  if (statusIsShown_ && now - lastShown_ < kPause) return;
+  // What ends so is a step of its own, which may take its time.
+  if (statusIsShown_ && !status_.ends_with("...") && now - lastShown_ < kPause) return;
   lastShown_ = now;
   std::string line;
   if (all_ != 0) line = "[" + std::to_string(done_) + "/" + std::to_string(all_) + "] ";

@@ -1,6 +1,6 @@
-// Shows dialogs on a terminal or in a pipe, as far as that goes: a log box is printed as it grows,
-// a status bar and a progress indicator become a status line, a message box becomes a question. All
-// else that a dialog holds stays unseen.
+// Shows dialogs on a terminal or in a pipe, as far as that goes: a status bar and a progress
+// indicator become a status line, a message box becomes a question. All else that a dialog holds
+// stays unseen. Messages of a compile are printed as they come.
 #pragma once
 
 #include <chrono>
@@ -52,15 +52,19 @@ class Terminal final : public Toolkit {
   bool openDocument(const std::string& path) override;
   void beep() override;
 
+  /// A message of the dialog in front, if there is one: the log gets `text`, the output `wording`.
+  void showMessage(const std::string& text, const std::string& wording);
+
+  /// A line on the output.
+  void print(const std::string& text);
+
   /// A line on the error stream.
   void complain(const std::string& text);
 
  private:
-  class LogPeer;
   class StatusPeer;
   class ProgressPeer;
 
-  void showMessage(const std::string& text);
   MessageAnswer ask(const MessageBox& box);
   void showStatus();
   void clearStatus();

@@ -5,6 +5,7 @@
 
 #include "base/paths.h"
 #include "base/text.h"
+#include "compiler/program_output.h"
 #include "platform/command_script.h"
 
 namespace tamrikon {
@@ -31,6 +32,10 @@ class RunningProgram {
   ProcessHandle& handle_;
 };
 
+std::string withoutLastLineEnd(const std::string& text) {
+  return text.ends_with('\n') ? text.substr(0, text.size() - 1) : text;
+}
+
 }  // namespace
 
 void ExternalPrograms::runExternalPrograms(const std::string& text) {
@@ -47,10 +52,14 @@ void ExternalPrograms::runExternalPrograms(const std::string& text) {
 bool ExternalPrograms::runScript(const std::string& text, const std::string& script,
                                  const std::string& log) {
   const int codePage = threadCodePage();
-  std::string batch = CommandScript::header(codePage);
+  std::string batch = CommandScript::header(
+      codePage, std::string(withoutTrailingSeparator(session_.settings.templateFolder)));
+  std::vector<std::string> commands;
   for (const std::string_view line : split(text, '\r')) {
     const std::string_view command = trim(line);
-    if (!command.empty()) batch += CommandScript::linesFor(command, log);
+    if (command.empty()) continue;
+    batch += CommandScript::linesFor(command, log);
+    commands.emplace_back(command);
   }
   TextFiles files(session_.files.files(), session_.fileErrors);
   const CodePage* page = CodePage::find(CommandScript::codePage(codePage));
@@ -61,7 +70,12 @@ bool ExternalPrograms::runScript(const std::string& text, const std::string& scr
   std::string output;
   // A process that didn't start shows here: there is no log then.
   if (files.readTextFile(log, true, output) != 0) return false;
-  session_.log.logMessage(output);
+  const ProgramOutput shown = readProgramOutput(output, commands, CommandScript::mark());
+  if (session_.showsCommands) {
+    session_.log.logMessage(shown.log);
+  } else {
+    session_.log.logMessageAs(shown.log, withoutLastLineEnd(shown.printed));
+  }
   return true;
 }
 

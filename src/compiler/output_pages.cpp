@@ -35,9 +35,9 @@ void OutputPages::put(Write write, std::string_view name, std::string_view exten
   std::string path = session_.settings.outputPath;
   path.append(name).append(extension);
   if (write == Write::append) {
-    session_.files.appendTextFile(path, text, false);
-  } else {
-    session_.files.writeTextFile(path, text, false);
+    if (session_.files.appendTextFile(path, text, false) == 0) session_.pages.addPieces(path);
+  } else if (session_.files.writeTextFile(path, text, false) == 0) {
+    session_.pages.add(path, session_.files.changedFile());
   }
 }
 

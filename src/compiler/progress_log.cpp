@@ -4,8 +4,11 @@
 
 namespace tamrikon {
 
-void ProgressLog::logMessage(const std::string& text) {
-  if (!text.starts_with("Warning: ") || text != lastLogMessage) dialog_.addMessage(text);
+void ProgressLog::logMessageAs(const std::string& text, const std::string& wording) {
+  if (!text.starts_with("Warning: ") || text != lastLogMessage) {
+    dialog_.addMessage(text);
+    if (onMessage) onMessage(text, wording);
+  }
   lastLogMessage = text;
 }
 

@@ -8,6 +8,7 @@
 
 #include "compiler/compile_times.h"
 #include "compiler/file_error_dialog.h"
+#include "compiler/page_count.h"
 #include "compiler/progress_dlg.h"
 #include "compiler/progress_log.h"
 #include "platform/process.h"
@@ -39,8 +40,10 @@ class Session {
   bool lastGroupProject = false;   // the project in work is the last of its group
   std::string groupLogText;        // the log of the group so far
   bool runsPrograms = true;        // whether a template's external programs run
+  bool showsCommands = false;      // they are shown with their commands beside the log too
   bool programsRun = false;        // they do so now
   bool endsPrograms = false;       // those that run now are to end
+  PageCount pages;                 // that were written
   CompileTimes* times = nullptr;   // told of the phases of compiles, unless null
 
   ProgressDlg progressDlg;

@@ -24,11 +24,13 @@ struct CommandScript {
   /// The code page that the interpreter reads the script in; `ansiPage` is the project's own.
   static int codePage(int ansiPage);
 
-  /// The script's first line, without a line end.
-  static std::string header(int ansiPage);
+  /// The script's first lines, without a line end at the end. In the variable TEMPLATE_PATH the
+  /// commands find the folder `templates`, whatever characters its name has.
+  static std::string header(int ansiPage, const std::string& templates);
 
-  /// The lines, each behind a line end, that add `command` itself to the log at `logPath` and then
-  /// what it writes to its standard output.
+  /// The lines, each behind a line end, that add `command` itself, between two marks, to the log at
+  /// `logPath` and then what it writes to its standard output.
+  static std::string_view mark() { return "\x1E"; }
   static std::string linesFor(std::string_view command, const std::string& logPath);
 };
 

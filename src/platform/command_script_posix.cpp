@@ -30,8 +30,8 @@ int CommandScript::codePage(int) {
   return 65001;
 }
 
-std::string CommandScript::header(int) {
-  return "#!/bin/sh";
+std::string CommandScript::header(int, const std::string& templates) {
+  return "#!/bin/sh\nexport TEMPLATE_PATH=" + quoted(nativePath(templates));
 }
 
 std::string CommandScript::linesFor(std::string_view command, const std::string& logPath) {
@@ -39,7 +39,7 @@ std::string CommandScript::linesFor(std::string_view command, const std::string&
   const std::string target = " >> " + quoted(nativePath(logPath));
   // "command eval" keeps the script running behind a line that isn't shell syntax, and holds the
   // line apart from the redirection, so that a digit at its end stays an argument.
-  return "\nprintf '%s\\n' " + line + target + "\ncommand eval " + line + target;
+  return "\nprintf '\\036%s\\036\\n' " + line + target + "\ncommand eval " + line + target;
 }
 
 }  // namespace tamrikon

@@ -22,6 +22,12 @@ class FileSystem {
   /// the file may hold a part of `bytes`.
   virtual FileError write(const std::string& path, std::string_view bytes) = 0;
 
+  /// The same, and whether the file had other bytes or wasn't there.
+  virtual FileError writeIfOther(const std::string& path, std::string_view bytes, bool& changed) {
+    changed = true;
+    return write(path, bytes);
+  }
+
   /// Adds `bytes` at the end of the file, which is created if it isn't there. A failure leaves the
   /// file at its old length.
   virtual FileError append(const std::string& path, std::string_view bytes) = 0;

@@ -180,6 +180,12 @@ class PosixFileSystem final : public FileSystem {
   }
 
   FileError write(const std::string& path, std::string_view bytes) override {
+    bool ignored = false;
+    return writeIfOther(path, bytes, ignored);
+  }
+
+  FileError writeIfOther(const std::string& path, std::string_view bytes, bool& changed) override {
+    changed = true;
     const std::string native = checkedPath(path);
     if (native.empty()) return FileError::badFileName;
     // Of a new file nothing needs to be asked or compared, and where one is new the next one mostly
@@ -196,7 +202,8 @@ class PosixFileSystem final : public FileSystem {
     struct stat status {};
     if (::fstat(file.number(), &status) != 0) return errorOf(errno);
     if (S_ISREG(status.st_mode) && status.st_size > 0) {
-      if (holds(file.number(), status.st_size, bytes)) return FileError::none;
+      changed = !holds(file.number(), status.st_size, bytes);
+      if (!changed) return FileError::none;
       if (::ftruncate(file.number(), 0) != 0) return errorOf(errno);
     }
     if (!writeAll(file.number(), bytes) || !file.close()) return errorOf(errno);

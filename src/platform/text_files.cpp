@@ -19,9 +19,9 @@ void TextFiles::encode() {
   if (!isAscii_) bytes_ = page_->encode(bytes_);
 }
 
-int TextFiles::put(WriteOperation write, const std::string& path, bool silent) {
+int TextFiles::put(const std::function<FileError()>& write, const std::string& path, bool silent) {
   for (;;) {
-    const FileError error = (files_.*write)(path, bytes_);
+    const FileError error = write();
     if (error == FileError::none) return 0;
     switch (ask(path, "saving", error, silent)) {
       case FileErrorAnswer::repeat: break;
@@ -35,7 +35,7 @@ int TextFiles::put(WriteOperation write, const std::string& path, bool silent) {
 int TextFiles::writeTextFile(const std::string& path, std::string_view text, bool silent) {
   breakLines(text);
   encode();
-  return put(&FileSystem::write, path, silent);
+  return put([&] { return files_.writeIfOther(path, bytes_, changedFile_); }, path, silent);
 }
 
 int TextFiles::replaceTextFile(const std::string& path, std::string_view text, bool silent) {
@@ -43,13 +43,13 @@ int TextFiles::replaceTextFile(const std::string& path, std::string_view text, b
   const std::string asUtf8 = bytes_;
   encode();
   if (decodeText(bytes_, *page_).text != asUtf8) bytes_ = asUtf8;
-  return put(&FileSystem::replaceAtomically, path, silent);
+  return put([&] { return files_.replaceAtomically(path, bytes_); }, path, silent);
 }
 
 int TextFiles::appendTextFile(const std::string& path, std::string_view text, bool silent) {
   breakLines(text);
   encode();
-  return put(&FileSystem::append, path, silent);
+  return put([&] { return files_.append(path, bytes_); }, path, silent);
 }
 
 int TextFiles::readTextFile(const std::string& path, bool silent, std::string& text) {

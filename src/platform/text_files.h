@@ -2,6 +2,7 @@
 // failing step goes to the file error dialog, whose answer repeats it, skips it or gives up.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -38,6 +39,9 @@ class TextFiles {
   /// there is no dialog.
   int writeTextFile(const std::string& path, std::string_view text, bool silent);
 
+  /// Whether the last file that writeTextFile wrote had other bytes before, or wasn't there.
+  bool changedFile() const { return changedFile_; }
+
   /// The same for a file of which nothing may be lost: a failure leaves the old one, and a text
   /// that the page can't hold, or would be read as another one, is written as UTF-8.
   int replaceTextFile(const std::string& path, std::string_view text, bool silent);
@@ -57,14 +61,14 @@ class TextFiles {
  private:
   void breakLines(std::string_view text);
   void encode();
-  using WriteOperation = FileError (FileSystem::*)(const std::string&, std::string_view);
-  int put(WriteOperation write, const std::string& path, bool silent);
+  int put(const std::function<FileError()>& write, const std::string& path, bool silent);
 
   FileSystem& files_;
   FileErrorReporter& reporter_;
   const CodePage* page_ = CodePage::find(1252);
   std::string bytes_;  // of the file in work; kept for the next one, as pages come by thousands
   bool isAscii_ = true;
+  bool changedFile_ = false;
 };
 
 }  // namespace tamrikon

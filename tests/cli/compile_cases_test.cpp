@@ -54,7 +54,9 @@ class CompileCase : public testing::TestWithParam<std::string> {};
 TEST_P(CompileCase, GivesTheExpectedPagesAndLog) {
   const fs::path folder = fs::path(TAMRIKON_TEST_DATA "/compile") / GetParam();
   const test::TempFolder output;
-  std::vector<std::string> arguments = {"compile", projectOf(folder), "--output", output.path()};
+  const test::TempFolder log;
+  std::vector<std::string> arguments = {"compile", projectOf(folder), "--output", output.path(),
+                                        "--log", log / "log.txt"};
   std::ifstream argumentLines(folder / "arguments");
   for (std::string line; std::getline(argumentLines, line);) {
     const bool isTemplate = arguments.back() == "--template";
@@ -63,7 +65,7 @@ TEST_P(CompileCase, GivesTheExpectedPagesAndLog) {
   const test::ProgramRun run(arguments);
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.err, "");
-  EXPECT_EQ(run.out, textOf(folder / "expected.log"));
+  EXPECT_EQ(log.get("log.txt"), textOf(folder / "expected.log"));
   const auto expected = textsIn(folder / "expected");
   const auto pages = textsIn(output.path());
   for (const auto& [name, text] : expected) {

@@ -62,7 +62,8 @@ TEST_F(TerminalTest, InterruptStopsTheProjectInWorkAndNoOther) {
   const ProgramRun group(compile("Both.vbg"), [&](Streams& streams) {
     streams.isInterrupted = [&] { return ++pumps == 2; };
   });
-  EXPECT_EQ(group.out, "Project: One\nProject: Two\n") << "each message is printed once";
+  EXPECT_EQ(group.out.find("Project: One\nProject: Two\nWrote "), 0U)
+      << "each message is printed once";
   EXPECT_TRUE(folder_.has("out/Two.p"));
   EXPECT_FALSE(folder_.has("out/One.p"));
 }
@@ -89,6 +90,23 @@ TEST_F(TerminalTest, InterruptWaitsForProgramsAndASecondOneEndsThem) {
     EXPECT_EQ(folder_.has("out/Two.done"), presses == 1);
     EXPECT_FALSE(folder_.has("out/execAfter.log"));
   }
+}
+
+TEST_F(TerminalTest, TellsWhatWasWrittenAndWhatToOpen) {
+  const std::filesystem::path home = std::filesystem::current_path();
+  std::filesystem::current_path(folder_.path());
+  folder_.put("Both.vbg", "VBGROUP 5.0\nStartupProject=One.vbp\nProject=Two.vbp\n");
+  const auto expect = [&](const char* project, const std::string& said) {
+    const std::string out = ProgramRun(compile(project)).out;
+    EXPECT_TRUE(out.ends_with("\nWrote " + said + "\n")) << out;
+  };
+  expect("One.vbp", "6 pages (6 changed) to out; open out/One.p");
+  expect("Both.vbg", "14 pages (8 changed) to out; open out/One.p");
+  folder_.put("COne.cls", "'**\n'Empties.\nPublic Sub Fill()\nEnd Sub\n");
+  expect("One.vbp", "6 pages (0 changed) to out; open out/One.p");
+  folder_.put("t.tmkt", "$SPLIT$ 0\n$MEMBER-EXT$ .m\n");
+  expect("One.vbp", "1 page to out");
+  std::filesystem::current_path(home);
 }
 
 TEST_F(TerminalTest, OpensTheDocumentationOrTellsThatItCannot) {

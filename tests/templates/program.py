@@ -23,6 +23,10 @@ ODD_TOPICS = {
     "Tools": ["Limit", "Mood", "Sleep", "Total", "Twice"],
     "Oddity": ["Bell", "Quiet", "Run", "Tag", "Told", "Value", "mCount"]}
 PROGRAM = os.environ.get("TAMRIKON", ROOT / "build/dev/bin/tamrikon")
+# Scripts beside the templates are found whatever the folder is called.
+BASE = tempfile.mkdtemp()
+atexit.register(shutil.rmtree, BASE)
+TEMPLATES = shutil.copytree(ROOT / "data/Templates", pathlib.Path(BASE) / "it's \"$(here) `")
 CONTROLS = re.compile("[\x00-\x08\x0b\x0c\x0e-\x1f\x7f]")
 
 
@@ -40,8 +44,8 @@ class Compile:
             arguments += ("--codepage", "1251")
         self.encoding = "cp1251" if project == AZBUKA else "cp1252"
         run = subprocess.run(
-            [PROGRAM, "compile", project, "--template", template, "--output", self.folder,
-             *arguments],
+            [PROGRAM, "compile", project, "--template", TEMPLATES / f"{template}.tmkt",
+             "--output", self.folder, *arguments],
             env=dict(os.environ, PATH=path or os.environ["PATH"]), capture_output=True, check=True)
         self.log = run.stdout.decode()
 
