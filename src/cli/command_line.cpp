@@ -5,7 +5,9 @@
 #include <new>
 #include <stdexcept>
 
+#include "base/closest_word.h"
 #include "cli/commands.h"
+#include "cli/completions.h"
 #include "cli/setting_overrides.h"
 #include "cli/source_places.h"
 #include "platform/code_page.h"
@@ -22,6 +24,11 @@ void addProject(CLI::App& command, ProjectOptions& options) {
   command.add_option("PROJECT", options.project, "A project (.vbp) or a project group (.vbg)")
       ->required();
   addCodePage(command, options.codePage);
+}
+
+void addAllProjects(CLI::App& command, bool& all) {
+  command.add_flag("--all-projects", all,
+                   "Work on all projects of a group, not on the one that starts");
 }
 
 std::string checkSetting(const std::string& text) {
@@ -71,6 +78,7 @@ void addComment(CLI::App& app, CommentOptions& options) {
   command.add_flag("--missing", options.missing,
                    "At all modules and members, or those of the modules that are given, that a "
                    "compile documents and that have no comment");
+  addAllProjects(command, options.allProjects);
   command.add_flag("--dry-run", options.dryRun,
                    "Print as a unified diff what would change, and change nothing");
   command.callback([&options] {
@@ -98,25 +106,92 @@ void addSettings(CLI::App& app, SettingsOptions& options) {
   command.add_option("SETTINGS", options.settings, "Settings to change")
       ->type_name("KEY=VALUE")
       ->check(checkSetting);
+  addAllProjects(command, options.allProjects);
 }
 
-/// What is wrong with the choice of a command; empty if nothing is.
-std::string faultOfCommand(CLI::App& app, const std::vector<std::string>& arguments) {
+/// "there is no KIND 'WORD'", and the one of `words` that may have been meant.
+std::string faultOfWord(const std::string& kind, const std::string& word,
+                        const std::vector<std::string>& words) {
+  const std::string closest = closestWord(word, words);
+  return "there is no " + kind + " '" + word + "'" +
+         (closest.empty() ? "" : "; did you mean '" + closest + "'?");
+}
+
+const CLI::App* commandOf(const CLI::App& app, const std::string& name) {
+  const auto named =
+      app.get_subcommands([&](const CLI::App* command) { return command->get_name() == name; });
+  return named.empty() ? nullptr : named.front();
+}
+
+/// What is wrong with the choice of a command or the names of options; empty if nothing is.
+std::string faultOfNames(const CLI::App& app, const std::vector<std::string>& arguments) {
   if (arguments.empty()) return "a COMMAND is needed";
-  const std::string& first = arguments.front();
-  const auto commands = app.get_subcommands({});
-  const bool isKnown = first.starts_with('-') ||
-                       std::any_of(commands.begin(), commands.end(), [&](const CLI::App* command) {
-                         return command->get_name() == first;
-                       });
-  return isKnown ? std::string() : "there is no command '" + first + "'";
+  const CLI::App* command = commandOf(app, arguments.front());
+  if (command == nullptr && !arguments.front().starts_with('-')) {
+    std::vector<std::string> names;
+    for (const CLI::App* each : app.get_subcommands({})) names.push_back(each->get_name());
+    return faultOfWord("command", arguments.front(), names);
+  }
+  std::vector<std::string> names;
+  for (const CLI::App* each : {&app, command}) {
+    if (each == nullptr) continue;
+    for (const CLI::Option* option : each->get_options()) {
+      for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
+    }
+  }
+  for (const std::string& argument : arguments) {
+    if (argument == "--") break;
+    const std::string name = argument.substr(0, argument.find('='));
+    if (!name.starts_with("--") || std::count(names.begin(), names.end(), name) != 0) continue;
+    return faultOfWord("option", name, names);
+  }
+  return {};
+}
+
+/// "help COMMAND" means "COMMAND --help".
+std::vector<std::string> withoutHelpCommand(std::vector<std::string> arguments) {
+  if (arguments.empty() || arguments.front() != "help") return arguments;
+  arguments.erase(arguments.begin());
+  arguments.emplace_back("--help");
+  return arguments;
+}
+
+/// Examples for each command, and what its exit status means.
+void addFooters(CLI::App& app) {
+  const std::string statuses = "\n\nExit status: 0 done, 1 failed or stopped, 2 wrong usage";
+  const std::string warned = ", 3 warnings or errors\nwith --fail-on-warnings";
+  const auto describe = [&](const std::string& command, const std::string& examples,
+                            const std::string& more) {
+    CLI::App& described = command.empty() ? app : *app.get_subcommand(command);
+    described.footer("Examples:\n" + examples + statuses + more);
+  };
+  describe("",
+           "  tamrikon compile Shop.vbp --template html --output site\n"
+           "  tamrikon comment Shop.vbp --missing --dry-run\n"
+           "  tamrikon help compile",
+           warned);
+  describe("compile",
+           "  tamrikon compile Shop.vbp --template html --output site --open\n"
+           "  tamrikon compile All.vbg --quiet --fail-on-warnings\n"
+           "  tamrikon compile Shop.vbp --set comPrivate=1 --set comVariable=1",
+           warned);
+  describe("comment",
+           "  tamrikon comment Shop.vbp Cart.Add Till:6\n"
+           "  tamrikon comment All.vbg --missing --all-projects --dry-run",
+           "");
+  describe("example", "  tamrikon example Shop.vbp Till:5-6", "");
+  describe("settings",
+           "  tamrikon settings Shop.vbp\n"
+           "  tamrikon settings All.vbg --all-projects templatePath=html.tmkt comPrivate=1",
+           "");
+  describe("templates", "  tamrikon templates", "");
 }
 
 }  // namespace
 
-int runTamrikon(const std::vector<std::string>& arguments, const Streams& streams) {
+int runTamrikon(const std::vector<std::string>& words, const Streams& streams) {
   CLI::App app("Turns the comments of Visual Basic projects into documentation.", "tamrikon");
-  app.set_version_flag("--version", "tamrikon " TAMRIKON_VERSION);
+  app.set_version_flag("-V,--version", "tamrikon " TAMRIKON_VERSION);
   app.require_subcommand(1);
   CompileOptions compile;
   CommentOptions comment;
@@ -131,7 +206,14 @@ int runTamrikon(const std::vector<std::string>& arguments, const Streams& stream
               templatesCodePage);
   // "--version" is to work behind a command as well.
   for (CLI::App* command : app.get_subcommands({})) command->fallthrough();
-  const std::string fault = faultOfCommand(app, arguments);
+  app.add_subcommand("help", "Print the help of the program or of a command");
+  addFooters(app);
+  if (!words.empty() && words.front() == kCompleteWord) {
+    printCompletions(app, {words.begin() + 1, words.end()}, streams.out);
+    return kDone;
+  }
+  const std::vector<std::string> arguments = withoutHelpCommand(words);
+  const std::string fault = faultOfNames(app, arguments);
   if (!fault.empty()) {
     streams.err << "tamrikon: " << fault << "\nRun with --help for more information.\n";
     return kWrongUsage;

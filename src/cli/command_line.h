@@ -28,7 +28,7 @@ struct Streams {
 
 enum ExitStatus { kDone = 0, kFailed = 1, kWrongUsage = 2, kHadWarnings = 3 };
 
-/// `arguments` without the program's name. The exit status is one of those above.
-int runTamrikon(const std::vector<std::string>& arguments, const Streams& streams);
+/// `words`: the arguments without the program's name. The exit status is one of those above.
+int runTamrikon(const std::vector<std::string>& words, const Streams& streams);
 
 }  // namespace tamrikon

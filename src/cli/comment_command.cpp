@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "base/case_folding.h"
@@ -24,15 +25,18 @@ class CommentRun {
     ide_ = openProject(options_, terminal_, files());
     if (!ide_) return kFailed;
     Session session(terminal_, files(), nativeProcessServices(), dataFolder());
-    activateProject(session, *ide_, ide_->startupProject(), terminal_);
-    modules_ = SettingsFile::codeModules(*ide_);
-    if (!find(session.settings)) return kFailed;
+    for (VBProject* project : projectsOf(*ide_, options_.allProjects)) {
+      activateProject(session, *ide_, *project, terminal_);
+      modules_ = SettingsFile::codeModules(*ide_);
+      find(session.settings);
+    }
+    if (!foundAll()) return kFailed;
     if (wasInterrupted()) {
       terminal_.complain("tamrikon: stopped; nothing was changed");
       return kFailed;
     }
-    const auto inserted =
-        insertSkeletons(found_, options_.missing ? Repeats::leaveOut : Repeats::insert);
+    const bool mayRepeat = !options_.missing && !options_.allProjects;
+    const auto inserted = insertSkeletons(found_, mayRepeat ? Repeats::insert : Repeats::leaveOut);
     const std::vector<SaveFailure> failures = ide_->saveAll();
     for (const SaveFailure& failure : failures) terminal_.complain("tamrikon: " + failure.text);
     if (options_.dryRun) {
@@ -51,37 +55,49 @@ class CommentRun {
     return interrupted_;
   }
 
-  /// Fills found_. False, with a line for each target that isn't there, if one isn't.
-  bool find(const ProjectSettings& settings) {
-    bool allThere = true;
+  /// Adds to found_ what is in the active project, and to missing_ which targets aren't.
+  void find(const ProjectSettings& settings) {
     for (const std::string& text : options_.targets) {
-      const CommentTarget target = *readCommentTarget(text);
-      const auto isThere = [&] {
-        if (!options_.missing) {
-          found_.push_back(skeletonAt(target, modules_, sources_, settings));
-        } else if (!modules_.contains(target.module)) {
-          throw IdeError("there is no module of that name");
-        } else if (!settings.comModules.contains(target.module)) {
-          terminal_.complain("warning: the settings don't select module " + target.module +
-                             " to be documented");
-        }
-      };
       try {
-        isThere();
+        findTarget(*readCommentTarget(text), settings);
+        known_.insert(text);
       } catch (const IdeError& error) {
-        terminal_.complain("tamrikon: '" + text + "': " + error.what());
-        allThere = false;
+        missing_.emplace(text, error.what());
       }
     }
-    if (!allThere || !options_.missing) return allThere;
-    found_ = missingSkeletons(sources_, settings, [this] { return !wasInterrupted(); });
-    if (options_.targets.empty()) return true;
-    std::erase_if(found_, [&](const Skeleton& skeleton) {
-      return std::none_of(options_.targets.begin(), options_.targets.end(), [&](const auto& name) {
-        return equalIgnoringCase(name, skeleton.source->name());
-      });
-    });
-    return true;
+    if (!options_.missing) return;
+    std::vector<Skeleton> found =
+        missingSkeletons(sources_, settings, [this] { return !wasInterrupted(); });
+    for (Skeleton& skeleton : found) {
+      const auto& targets = options_.targets;
+      const bool isWanted =
+          targets.empty() || std::any_of(targets.begin(), targets.end(), [&](const auto& name) {
+            return equalIgnoringCase(name, skeleton.source->name());
+          });
+      if (isWanted) found_.push_back(std::move(skeleton));
+    }
+  }
+
+  void findTarget(const CommentTarget& target, const ProjectSettings& settings) {
+    if (!options_.missing) {
+      found_.push_back(skeletonAt(target, modules_, sources_, settings));
+    } else if (!modules_.contains(target.module)) {
+      throw IdeError("there is no module of that name");
+    } else if (!settings.comModules.contains(target.module)) {
+      terminal_.complain("warning: the settings don't select module " + target.module +
+                         " to be documented");
+    }
+  }
+
+  /// Prints a line for each target that is in no project.
+  bool foundAll() {
+    bool allThere = true;
+    for (const std::string& text : options_.targets) {
+      if (known_.count(text) != 0) continue;
+      terminal_.complain("tamrikon: '" + text + "': " + missing_.at(text));
+      allThere = false;
+    }
+    return allThere;
   }
 
   void printInserted(const std::vector<const Skeleton*>& inserted) {
@@ -126,6 +142,8 @@ class CommentRun {
   KeyedList<CodeModule*> modules_;
   SourceCache sources_;
   std::vector<Skeleton> found_;
+  std::set<std::string> known_;                 // targets that are there
+  std::map<std::string, std::string> missing_;  // why others aren't, in the first project
   bool interrupted_ = false;
 };
 

@@ -28,11 +28,13 @@ struct CompileOptions : ProjectOptions {
 
 struct SettingsOptions : ProjectOptions {
   std::vector<std::string> settings;  // KEY=VALUE; none: the settings are printed
+  bool allProjects = false;           // of a group; otherwise the one that starts
 };
 
 struct CommentOptions : ProjectOptions {
   std::vector<std::string> targets;  // with `missing` names of modules, none meaning all
   bool missing = false;
+  bool allProjects = false;  // of a group; otherwise the one that starts
   bool dryRun = false;
 };
 

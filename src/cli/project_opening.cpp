@@ -13,6 +13,14 @@ std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& te
   return ide;
 }
 
+std::vector<VBProject*> projectsOf(const HostIde& ide, bool all) {
+  if (!all) return {&ide.startupProject()};
+  std::vector<VBProject*> projects;
+  const VBProjects& in = ide.VBProjects();
+  for (int number = 1; number <= in.Count(); ++number) projects.push_back(&in.Item(number));
+  return projects;
+}
+
 void activateProject(Session& session, HostIde& ide, VBProject& project, Terminal& terminal) {
   ide.activate(project);
   session.files.setCodePage(ide.codePageOf(project));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "cli/options.h"
 #include "cli/terminal.h"
@@ -15,6 +16,9 @@ namespace tamrikon {
 /// `files` must outlive the result.
 std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& terminal,
                                      FileSystem& files = nativeFileSystem());
+
+/// All projects of a group, or the one that starts.
+std::vector<VBProject*> projectsOf(const HostIde& ide, bool all);
 
 /// Makes `project` the active one and reads its settings. A settings file that is there but can't
 /// be used is told on the error stream; the defaults hold then.

@@ -1,34 +1,14 @@
-#include <algorithm>
-
-#include "base/case_folding.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "base/utf8.h"
 #include "cli/commands.h"
+#include "cli/template_names.h"
 #include "cli/terminal.h"
 #include "compiler/store.h"
 #include "compiler/template_description.h"
 #include "platform/data_folder.h"
 
 namespace tamrikon {
-namespace {
-
-std::vector<std::string> templateNames(FileSystem& files, const std::string& folder) {
-  std::vector<std::string> names = files.list(folder);
-  std::erase_if(names, [&](const std::string& name) {
-    const std::size_t dot = name.rfind('.');
-    return dot == std::string::npos || !equalIgnoringCase(name.substr(dot), ".tmkt") ||
-           !files.isFile(joinPath(folder, name));
-  });
-  std::sort(names.begin(), names.end());  // of names that differ in case alone, a fixed order
-  std::stable_sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
-    return lowered(baseName(a)) < lowered(baseName(b));
-  });
-  return names;
-}
-
-}  // namespace
-
 int templatesCommand(int codePage, const Streams& streams) {
   constexpr std::size_t kNameWidth = 16;
   Terminal terminal(streams, true);  // faults of a template show when it is compiled with

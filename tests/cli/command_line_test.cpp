@@ -66,6 +66,10 @@ TEST_F(CommandLineTest, TellsWrongUsageFromFailure) {
   using Case = std::tuple<std::vector<std::string>, int, std::string>;
   for (const auto& [arguments, status, names] : {
            Case{{}, 2, "COMMAND"},
+           Case{{"complie"}, 2, "no command 'complie'; did you mean 'compile'?"},
+           Case{{"compile", project_, "--templte=x"}, 2, "'--templte'; did you mean '--template'?"},
+           Case{{"templates", "--quiet"}, 2, "there is no option '--quiet'\n"},
+           Case{{"help", "everything"}, 2, "no command 'everything'\n"},
            Case{{"compile", project_, "--set", "colour=1"}, 2, "colour"},
            Case{{"compile", project_, "--set", "addSee"}, 2, "addSee"},
            Case{{"compile", project_, "--set", "indentMode=1x"}, 2, "indentMode=1x"},
@@ -80,7 +84,36 @@ TEST_F(CommandLineTest, TellsWrongUsageFromFailure) {
     EXPECT_EQ(run.out, "");
   }
   EXPECT_EQ(ProgramRun({"--version"}).out.rfind("tamrikon ", 0), 0U);
-  EXPECT_EQ(ProgramRun({"compile", "--help"}).status, 0);
+  EXPECT_EQ(ProgramRun({"-V"}).out, ProgramRun({"--version"}).out);
+  EXPECT_EQ(ProgramRun({"help"}).out, ProgramRun({"--help"}).out);
+  EXPECT_EQ(ProgramRun({"help", "compile"}).out, ProgramRun({"compile", "--help"}).out);
+}
+
+TEST_F(CommandLineTest, CompletesWhatIsBegun) {
+  using Case = std::pair<std::vector<std::string>, std::string>;
+  for (const auto& [words, expected] : {
+           Case{{"com"}, "compile comment"},
+           Case{{"help", "te"}, "templates"},
+           Case{{"--ver"}, "--version"},
+           Case{{"compile", "--fail"}, "--fail-on-warnings"},
+           Case{{"compile", ""}, ":files vbp|vbg"},
+           Case{{"compile", project_, "--template", "ht"}, "html :files tmkt"},
+           Case{{"compile", project_, "--set", "comPriv"}, "comPrivate= :nospace"},
+           Case{{"compile", "--quiet", "--output", ""}, ":folders"},
+           Case{{"settings", project_, "comMod"}, "comModules= :nospace"},
+           Case{{"comment", project_, ""}, "Cart"},
+           Case{{"example", "--codepage", "1251", project_, "C"}, "Cart: :nospace"},
+           Case{{"comment", folder_ / "gone.vbp", ""}, ""},
+       }) {
+    std::vector<std::string> arguments = words;
+    arguments.insert(arguments.begin(), "__complete");
+    std::istringstream lines(ProgramRun(arguments).out);
+    std::string got;
+    for (std::string line; std::getline(lines, line);) {
+      got += (got.empty() ? "" : " ") + line.substr(0, line.find('\t'));
+    }
+    EXPECT_EQ(got, expected);
+  }
 }
 
 TEST_F(CommandLineTest, FailsOnWarningsIfAskedTo) {

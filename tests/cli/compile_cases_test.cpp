@@ -55,8 +55,8 @@ TEST_P(CompileCase, GivesTheExpectedPagesAndLog) {
   const fs::path folder = fs::path(TAMRIKON_TEST_DATA "/compile") / GetParam();
   const test::TempFolder output;
   const test::TempFolder log;
-  std::vector<std::string> arguments = {"compile", projectOf(folder), "--output", output.path(),
-                                        "--log", log / "log.txt"};
+  std::vector<std::string> arguments = {"compile",     projectOf(folder), "--output",
+                                        output.path(), "--log",           log / "log.txt"};
   std::ifstream argumentLines(folder / "arguments");
   for (std::string line; std::getline(argumentLines, line);) {
     const bool isTemplate = arguments.back() == "--template";

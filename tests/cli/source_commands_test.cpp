@@ -130,5 +130,25 @@ TEST_F(SourceCommandsTest, WorkOnTheProjectOfAGroupThatStartsUnlessTheyAreStoppe
             "Cart\nCart.Count\nCart.Total\nTill.Main\n4 comments inserted in 2 modules.\n");
 }
 
+TEST_F(SourceCommandsTest, WorkOnAllProjectsOfAGroupIfTheyShall) {
+  folder_.put("New.bas", "Sub Fresh()\nEnd Sub\n");
+  folder_.put("Other.vbp", "Type=Exe\nModule=Till; Till.bas\nModule=New; New.bas\n");
+  project_ = folder_.put("All.vbg", "VBGROUP 5.0\nStartupProject=Shop.vbp\nProject=Other.vbp\n");
+  EXPECT_EQ(run("comment", {"New.Fresh", "Till", "--all-projects"}).out,
+            "Till\nNew.Fresh\n2 comments inserted in 2 modules.\n")
+      << "the file that both projects have gets one";
+  EXPECT_EQ(run("comment", {"Gone", "--all-projects"}).err,
+            "tamrikon: 'Gone': there is no module 'Gone'\n");
+  EXPECT_EQ(run("comment", {"--missing", "--all-projects"}).out,
+            "Cart\nCart.Count\nCart.Total\nTill.Main\n4 comments inserted in 2 modules.\n");
+  EXPECT_EQ(run("settings", {"wordWrapLength=61", "--all-projects"}).status, 0);
+  for (const char* file : {"Shop.tamrik", "Other.tamrik"}) {
+    EXPECT_NE(folder_.get(file).find("wordWrapLength = 61"), std::string::npos);
+  }
+  const std::string printed = run("settings", {"--all-projects"}).out;
+  EXPECT_EQ(printed.find("Project: Shop\naddSee"), 0U);
+  EXPECT_NE(printed.find("\nProject: Other\naddSee"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace tamrikon
