@@ -2,6 +2,7 @@
 
 JOBS ?= $(shell nproc)
 PREFIX ?= /usr/local
+WORKBENCH ?= ON
 DOCS := examples/Inventory/Documentation
 
 .PHONY: run run-workbench help test sanitize fuzz kill hostile valgrind coverage bench screenshots package install format tidy clean
@@ -91,9 +92,12 @@ screenshots:
 	build/release/bin/tamrikon compile examples/Inventory/Inventory.vbg --template html --output $(DOCS) --quiet
 	TAMRIKON=build/release/bin/tamrikon /usr/bin/python3 -B docs/screenshots/make_site_screenshots.py $(DOCS) docs/screenshots
 
-# Debian packages in build/release/packages.
+# Debian packages in build/release/packages: that of the workbench too, unless WORKBENCH=OFF is given
+# or Qt can't be installed.
 package:
-	@scripts/install_packages.sh workbench package help
+	@scripts/install_packages.sh package help
+	@[ $(WORKBENCH) = OFF ] || scripts/install_packages.sh workbench || \
+	  echo "Qt can't be installed: there will be a package for terminals alone."
 	@$(MAKE) --no-print-directory release
 	cpack --config build/release/CPackConfig.cmake -B build/release/packages
 
@@ -103,7 +107,7 @@ install: release
 .PHONY: release
 release:
 	@scripts/install_packages.sh build
-	cmake --preset release
+	cmake --preset release -DTAMRIKON_WORKBENCH=$(WORKBENCH)
 	cmake --build --preset release -j $(JOBS)
 
 format:

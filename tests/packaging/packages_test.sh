@@ -51,12 +51,24 @@ if [ -f "$root/usr/bin/tamrikon-workbench" ]; then
   desktop-file-validate "$root/usr/share/applications/tamrikon-workbench.desktop"
 fi
 
-for page in "$root"/usr/share/man/man1/*.1*; do
-  complaints=$(groff -man -ww -Tutf8 "$page" 2>&1 > /dev/null)
+for package in "$root"/usr/share/doc/*/; do
+  grep -q '^Copyright: 20' "$package/copyright" && grep -q '^ Permission is' "$package/copyright" ||
+    fail "no licence in $package"
+  zgrep -q '^tamrikon (' "$package/changelog.gz" || fail "no changelog in $package"
+done
+for file in doc/tamrikon/manual/command-line.md zsh/vendor-completions/_tamrikon \
+  fish/vendor_completions.d/tamrikon.fish tamrikon/Templates/chm.sh; do
+  [ -f "$root/usr/share/$file" ] || fail "no $file"
+done
+find "$root/usr" -type f '(' -perm /022 -o -path '*/doc/*' -perm /111 ')' > "$work/odd.txt"
+[ ! -s "$work/odd.txt" ] || fail "files with odd permissions: $(cat "$work/odd.txt")"
+
+for page in "$root"/usr/share/man/man1/*.1.gz; do
+  complaints=$(zcat "$page" | groff -man -ww -Tutf8 2>&1 > /dev/null)
   [ -z "$complaints" ] || fail "$complaints"
 done
 for option in $(tamrikon compile --help | grep -o -- '--[a-z-]*' | sort -u); do
-  sed 's/\\//g' "$root/usr/share/man/man1/tamrikon.1" | grep -q -- "$option" ||
+  zcat "$root/usr/share/man/man1/tamrikon.1.gz" | sed 's/\\//g' | grep -q -- "$option" ||
     fail "the manual page doesn't tell of $option"
 done
 
@@ -77,6 +89,8 @@ expect() {
   [ "$got" = "$2" ] || fail "'$1' completes to '$got', not '$2'"
 }
 expect "tamrikon com" "compile comment"
+expect "tamrikon settings project/Stock.vbp comPriv" "comPrivate="
+expect "tamrikon comment project/Stock.vbp Ware" "Warehouse"
 expect "tamrikon comment --m" "--missing"
 expect "tamrikon compile project/S" "project/Stock project/Stock.vbp"
 expect "tamrikon compile x.vbp --template ht" "html"
