@@ -21,23 +21,19 @@ LinkListRef LinkLists::getAppliesList(const Wrapper& wrapper) {
   const KeyedList<std::string_view>* const modules = index().sharingModules(wrapper);
   if (modules == nullptr) return ownModuleList(wrapper);
   auto list = std::make_shared<MacroList>();
-  for (const std::string_view module : *modules) {
-    list->texts.emplace_back(module).push_back('\r');
-  }
+  for (const std::string_view module : *modules) list->topics.push_back(moduleItem(module));
   return list;
+}
+
+TopicItem LinkLists::moduleItem(std::string_view name) const {
+  return {findWrapper(wrappers_.all, name)};
 }
 
 /// One for all members of a module, whose pages mostly come one after the other.
 LinkListRef LinkLists::ownModuleList(const Wrapper& wrapper) {
   if (ownModule_ == &wrapper.cmo()) return ownModuleList_;
-  const std::string& name = wrapper.source().name();
-  const Wrapper* const module = findWrapper(wrappers_.all, name);
   auto list = std::make_shared<MacroList>();
-  if (module != nullptr && &module->cmo() == &wrapper.cmo()) {
-    list->topics.push_back({module});
-  } else {
-    list->texts.push_back(name + '\r');
-  }
+  list->topics.push_back(moduleItem(wrapper.source().name()));
   ownModule_ = &wrapper.cmo();
   ownModuleList_ = std::move(list);
   return ownModuleList_;

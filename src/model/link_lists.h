@@ -46,6 +46,7 @@ class LinkLists {
  private:
   const WrapperIndex& index();
   LinkListRef ownModuleList(const Wrapper& wrapper);
+  TopicItem moduleItem(std::string_view name) const;
 
   const WrapperCollections& wrappers_;
   std::unique_ptr<WrapperIndex> index_;

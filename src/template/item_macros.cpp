@@ -80,7 +80,7 @@ void ListWalk::setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros
   const LinkTarget& target = item.target;
   const bool isFile = isFileReference(item.reference);
   // A link that leads nowhere is warned of here once more, at its place in the order of the walk.
-  const bool isDead = !isFile && target.wrapper == nullptr;
+  const bool isDead = !isFile && target.wrapper == nullptr && !item.isOfProgram;
   if (isDead && resolver != nullptr) resolver->parseLink(item.reference);
   slots.setText(macros.file, isFile ? target.member : std::string_view());
   slots.setText(macros.item, target.member);

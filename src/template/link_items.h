@@ -15,6 +15,7 @@ struct LinkItem {
   std::string_view reference;  // of the list's item: a link, or a double quote and a file's name
   LinkTarget target;           // the topic that serves it; of a file, its name
   std::string_view label;
+  bool isOfProgram = false;  // nobody wrote the link
 };
 
 /// Whether `reference` names a file: then the rest behind its double quote is the name.

@@ -12,7 +12,8 @@ namespace tamrikon {
 /// the label is to be made, a label: the name of the wrapper, with its module where it must be
 /// told, and `word` behind it.
 struct TopicItem {
-  const void* wrapper;  // as in LinkTarget
+  const void*
+      wrapper;  // as in LinkTarget; null: a thing without a topic, which nobody is warned of
   bool hasLabel = false;
   std::string_view word = {};  // lives as long as the program
 };
