@@ -1,6 +1,7 @@
 #!/bin/sh
 # Makes the help files of chm.tmkt with whichever help compiler is there.
-# usage: chm.sh OUTPUT_FOLDER CHARSET TITLE_PAGE NAME...
+# usage: chm.sh OUTPUT_FOLDER CHARSET TITLE_PAGE NAME[=HELP_FILE]...
+# A NAME may stand in another folder; its help file is NAME.chm unless the project says another one.
 cd "$1" || exit
 charset=$2
 title=$3
@@ -15,17 +16,20 @@ run_chmcmd() {
   rm "$1.tmp.hhp"
 }
 
-for name; do
-  rm -f "$name.chm"
+for each; do
+  name=${each%%=*}
+  made=$name.chm
+  test "$name" = "$each" || made=${each#*=}
+  rm -f "$made"
   if command -v hhc > /dev/null; then
-    hhc "$name.hhp" 2>&1
+    (cd "$(dirname "$name")" && hhc "${name##*/}.hhp" 2>&1)
   elif command -v chmcmd > /dev/null; then
-    run_chmcmd "$name"
+    (cd "$(dirname "$name")" && run_chmcmd "${name##*/}")
   else
     echo "For a help file, install chmcmd (package fp-utils) or hhc. The pages can be read from $title on."
     break
   fi
   # Seen from the file, as hhc ends with the status 1 when all went well, and chmcmd with 0.
-  test -e "$name.chm" || echo "ERROR: $name.chm was not made."
+  test -e "$made" || echo "ERROR: $made was not made."
 done
 exit 0

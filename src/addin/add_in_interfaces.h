@@ -35,9 +35,9 @@ struct IAddInApplication : IUnknown {
   ~IAddInApplication() = default;
 };
 
-/// {2F0C9E57-63B8-4E0A-9D41-7A5B1C08E6D3}
+/// {D80B1F36-5A92-4C71-8E0D-3F64B7A2C915}
 constexpr IID IID_IAddInApplication = {
-    0x2F0C9E57, 0x63B8, 0x4E0A, {0x9D, 0x41, 0x7A, 0x5B, 0x1C, 0x08, 0xE6, 0xD3}};
+    0xD80B1F36, 0x5A92, 0x4C71, {0x8E, 0x0D, 0x3F, 0x64, 0xB7, 0xA2, 0xC9, 0x15}};
 
 struct IAddIn : IUnknown {
   /// `application` answers to IAddInApplication. `addInInst` stands for the add-in with its host

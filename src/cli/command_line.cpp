@@ -48,6 +48,9 @@ void addCompile(CLI::App& app, CompileOptions& options) {
       ->type_name("FILE");
   command.add_option("--output", options.outputFolder, "Output folder for this run")
       ->type_name("DIR");
+  command.add_flag("--folders", options.hasFolders,
+                   "Put the pages of each project of a group into a folder of its own below the "
+                   "output folder");
   command.add_flag_callback(
       "--no-exec", [&options] { options.runsPrograms = false; }, "Run no external programs");
   command.add_flag("--save", options.saves,

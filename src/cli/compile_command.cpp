@@ -34,14 +34,30 @@ bool chooseTemplate(Session& session, const std::string& file, Terminal& termina
   return false;
 }
 
-/// Whether the folder of --output is there.
-bool chooseOutput(Session& session, const std::string& folder, Terminal& terminal) {
+/// Whether the output folder is there.
+bool chooseOutput(Session& session, const std::string& path, Terminal& terminal) {
   FileSystem& files = session.files.files();
-  const std::string path = isAbsolutePath(folder) ? folder : files.absolute(folder);
   session.settings.outputPath = path;
   if (files.createFolders(path) == FileError::none) return true;
   terminal.complain("tamrikon: cannot create the output folder " + path);
   return false;
+}
+
+std::string absoluteFolder(Session& session, const std::string& folder) {
+  return isAbsolutePath(folder) ? folder : session.files.files().absolute(folder);
+}
+
+/// Without --output, the output folder of the start-up project is that of the group.
+void chooseFolders(Session& session, HostIde& ide, const CompileOptions& options) {
+  std::string above = options.outputFolder;
+  if (above.empty()) {
+    ide.activate(ide.startupProject());
+    session.files.setCodePage(ide.codePageOf(ide.startupProject()));
+    session.settingsFile.readProjectSettings(ide);
+    applySettings(session, ide, options.settings);
+    above = session.settings.outputPath;
+  }
+  session.groupFolders = foldersBelow(absoluteFolder(session, above), ide.VBProjects());
 }
 
 /// Makes a project the active one, with its settings as the command line changes them. False if
@@ -52,7 +68,14 @@ bool prepare(Session& session, HostIde& ide, VBProject& project, const CompileOp
   applySettings(session, ide, options.settings);
   const std::string& file = options.templateFile;
   if (!file.empty() && !chooseTemplate(session, file, terminal)) return false;
-  if (!options.outputFolder.empty()) return chooseOutput(session, options.outputFolder, terminal);
+  const GroupFolders& folders = session.groupFolders;
+  if (!folders.above.empty()) {
+    const std::string folder = folders.of(ide.VBProjects(), project);
+    return chooseOutput(session, joinPath(folders.above, folder), terminal);
+  }
+  if (!options.outputFolder.empty()) {
+    return chooseOutput(session, absoluteFolder(session, options.outputFolder), terminal);
+  }
   session.settingsFile.createOutputFolder();
   return true;
 }
@@ -98,6 +121,7 @@ bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, T
     summary.addProject();
     return true;
   }
+  if (options.hasFolders) chooseFolders(session, ide, options);
   bool worked = true;
   GroupSteps steps;
   steps.activate = [&](VBProject& project) {
@@ -179,6 +203,7 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
   session.log.onMessage = [&](const std::string& text, const std::string& wording) {
     terminal.showMessage(text, wording);
   };
+  session.warn = [&](const std::string& line) { terminal.complain(line); };
   if (options.printsTimes) session.times = &times;
   WrittenSummary summary(session);
   bool worked = compileAll(session, *ide, options, terminal, summary);

@@ -16,6 +16,7 @@ struct CompileOptions : ProjectOptions {
   std::vector<std::string> settings;  // KEY=VALUE
   std::string templateFile;
   std::string outputFolder;
+  bool hasFolders = false;  // one for each project of a group
   std::string logFile;
   bool runsPrograms = true;
   bool saves = false;

@@ -5,6 +5,7 @@ namespace tamrikon {
 void compileGroup(Session& session, VBE& ide, const GroupSteps& steps) {
   session.compileWholeGroup = true;
   session.groupLogText.clear();
+  session.writtenFiles.beginRun();
   session.progressDlg.VBInstance = &ide;
   const VBProjects& projects = ide.VBProjects();
   int count = 0;

@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "base/paths.h"
 #include "compiler/external_programs.h"
 #include "compiler/topic_order.h"
 #include "model/index_contents.h"
@@ -24,16 +25,31 @@ OutputPages::OutputPages(Session& session, store& store, VBE& ide)
       ide_(ide),
       context_(store.pageContext()),
       projectName_(ide.ActiveVBProject().Name()),
-      maxWritten_(kFreeSize + kMaxGrowth * store.sourceSize()) {}
+      maxWritten_(kFreeSize + kMaxGrowth * store.sourceSize()) {
+  session.writtenFiles.beginProject(projectName_, ide.ActiveVBProject().FileName(),
+                                    session.files.files().absolute(session.settings.outputPath));
+}
 
-// A failure has been reported by the writer; an answer that gives up shows at the next checkpoint.
 void OutputPages::put(Write write, std::string_view name, std::string_view extension,
                       std::string_view text) {
+  const std::string file = std::string(name).append(extension);
+  if (write == Write::replace) session_.writtenFiles.add(file);
+  writePage(write, session_.settings.outputPath + file, text);
+}
+
+/// Each project of a group writes its pages anew: they take the place of no others.
+void OutputPages::putGroupPage(Write write, std::string_view extension, std::string_view section) {
+  const std::string& above = session_.groupFolders.above;
+  const std::string& folder = above.empty() ? session_.settings.outputPath : above;
+  writePage(write, joinPath(withoutTrailingSeparator(folder), "Group+").append(extension),
+            store_.evaluateMacro(section));
+}
+
+// A failure has been reported by the writer; an answer that gives up shows at the next checkpoint.
+void OutputPages::writePage(Write write, const std::string& path, std::string_view text) {
   const PhaseScope phase(session_.times, CompilePhase::writing);
   written_ += text.size();
   if (written_ > maxWritten_) throw std::length_error("The pages take up too much space.");
-  std::string path = session_.settings.outputPath;
-  path.append(name).append(extension);
   if (write == Write::append) {
     if (session_.files.appendTextFile(path, text, false) == 0) session_.pages.addPieces(path);
   } else if (session_.files.writeTextFile(path, text, false) == 0) {
@@ -55,9 +71,11 @@ void OutputPages::setProjectName() {
 
 bool OutputPages::groupPages() {
   if (!session_.compileWholeGroup) return true;
-  putPage("group's project file...", "PROJECT-EXT", "tamrik-group-project-body", "Group+");
+  show("group's project file...");
+  putGroupPage(Write::replace, store_.evaluateMacro("PROJECT-EXT"), "tamrik-group-project-body");
   if (!store_.checkpoint()) return false;
-  putPage("group's contents...", "CONTENTS-EXT", "tamrik-group-contents-body", "Group+");
+  show("group's contents...");
+  putGroupPage(Write::replace, store_.evaluateMacro("CONTENTS-EXT"), "tamrik-group-contents-body");
   return store_.checkpoint();
 }
 
@@ -125,10 +143,10 @@ bool OutputPages::appendGroupPages(std::string& extension) {
   if (!session_.compileWholeGroup) return true;
   show("group's project file...");
   extension = store_.evaluateMacro("PROJECT-EXT");
-  put(Write::replace, "Group+", extension, store_.evaluateMacro("tamrik-group-project-body"));
+  putGroupPage(Write::replace, extension, "tamrik-group-project-body");
   if (!store_.checkpoint()) return false;
   show("group's contents...");
-  put(Write::append, "Group+", extension, store_.evaluateMacro("tamrik-group-contents-body"));
+  putGroupPage(Write::append, extension, "tamrik-group-contents-body");
   return store_.checkpoint();
 }
 

@@ -51,6 +51,7 @@ void ProgressDlg::startCompile() {
   setRunning(true);
   Text1.setText(session_.compileWholeGroup ? session_.groupLogText : "");
   session_.cancelRequested = false;
+  if (!session_.compileWholeGroup) session_.writtenFiles.beginRun();
   try {
     if (VBInstance == nullptr) throw std::logic_error("no IDE was given");
     // A template that can't be loaded has set cancelRequested, if the user gave up at the dialog.
@@ -62,6 +63,9 @@ void ProgressDlg::startCompile() {
     outcome_ = CompileOutcome::failed;
   } catch (const std::exception&) {
     outcome_ = CompileOutcome::failed;
+  }
+  for (const std::string& line : session_.writtenFiles.endProject()) {
+    if (session_.warn) session_.warn(line);
   }
   setRunning(false);
   setStatusLine("");

@@ -8,9 +8,11 @@
 
 #include "compiler/compile_times.h"
 #include "compiler/file_error_dialog.h"
+#include "compiler/group_folders.h"
 #include "compiler/page_count.h"
 #include "compiler/progress_dlg.h"
 #include "compiler/progress_log.h"
+#include "compiler/written_files.h"
 #include "platform/process.h"
 #include "platform/text_files.h"
 #include "settings/project_settings.h"
@@ -39,6 +41,8 @@ class Session {
   bool compileWholeGroup = false;  // the user asked for the whole group
   bool lastGroupProject = false;   // the project in work is the last of its group
   std::string groupLogText;        // the log of the group so far
+  GroupFolders groupFolders;       // of a group compile
+  WrittenFiles writtenFiles;       // by the compile of a project or a group
   bool runsPrograms = true;        // whether a template's external programs run
   bool showsCommands = false;      // they are shown with their commands beside the log too
   bool programsRun = false;        // they do so now
@@ -55,6 +59,10 @@ class Session {
 
   /// Where the code page of a project comes from; empty: that of `files` stays.
   std::function<const CodePage&(const VBProject&)> codePageOf;
+
+  /// Takes one line, without its end, of what is wrong beside what the log tells; empty: nobody
+  /// does.
+  std::function<void(const std::string&)> warn;
 
   /// Makes code page and settings those of the IDE's active project.
   void loadProjectSettings(VBE& ide);

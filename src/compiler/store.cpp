@@ -114,8 +114,20 @@ void store::publishGroup(VBE& ide) {
   if (session_.compileWholeGroup) {
     const VBProjects& all = ide.VBProjects();
     // The form of a file in a link list: a template gets the name as $LIST-ITEM-FILE$.
+    // With folders, only projects that have one have pages.
+    const GroupFolders& folders = session_.groupFolders;
     for (int number = 1; number <= all.Count(); ++number) {
-      projects->texts.push_back("\"" + all.Item(number).Name() + "\r");
+      const std::string name = all.Item(number).Name();
+      if (folders.above.empty()) {
+        projects->texts.push_back("\"" + name + "\r");
+      } else if (const std::string& folder = folders.names.at(number - 1); !folder.empty()) {
+        projects->texts.push_back("\"" + folder + "/" + name + "\r" + name);
+      }
+    }
+    if (!folders.above.empty()) {
+      const std::string_view above = withoutTrailingSeparator(folders.above);
+      macros.setMacroValue("GROUP-PATH", doubleDollars(above));
+      macros.setMacroValue("PROJECT-FOLDER", folders.of(all, ide.ActiveVBProject()));
     }
   }
   macros.setMacroValue("GROUP-PROJECTS-LIST", projects);

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
 namespace tamrikon {
 
@@ -32,6 +33,9 @@ class AddInHost {
 
   /// Runs `edit`, which changes `module`, as one step to undo.
   virtual void asOneEdit(CodeModule& module, const std::function<void()>& edit) = 0;
+
+  /// Shows one line, without its end, of what is wrong with an add-in's work.
+  virtual void warn(const std::string& line) = 0;
 
   /// 0xRRGGBB
   virtual std::uint32_t buttonFaceColour() = 0;

@@ -36,6 +36,7 @@ connect::connect(Session& session, AddInHost& host, UserSettings& userSettings)
   session_.codePageOf = [&host](const VBProject& project) -> const CodePage& {
     return host.codePageOf(project);
   };
+  session_.warn = [&host](const std::string& line) { host.warn(line); };
 }
 
 connect::~connect() {

@@ -31,6 +31,7 @@ ItemMacros::ItemMacros(MacroSlots& slots)
       item(*slots.intern("LIST-ITEM").slot),
       location(*slots.intern("LIST-ITEM-LOCATION").slot),
       file(*slots.intern("LIST-ITEM-FILE").slot),
+      folder(*slots.intern("LIST-ITEM-FOLDER").slot),
       helpId(*slots.intern("LIST-ITEM-HELPID").slot) {}
 
 ListWalk::ListWalk(std::string_view name, std::shared_ptr<const MacroList> list)
@@ -40,6 +41,7 @@ ListWalk::Form ListWalk::formOf(std::string_view name) {
   if (name == "SET01-LIST" || name == "SET02-LIST" || name == "SET03-LIST") return Form::set;
   if (name == "PARAM-LIST") return Form::param;
   if (name == "CONT-FORMS-LINK-LIST" || name == "CONT-OBJECTS-LINK-LIST") return Form::moduleLink;
+  if (name == "GROUP-PROJECTS-LIST") return Form::project;
   return Form::link;
 }
 
@@ -87,6 +89,11 @@ void ListWalk::setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros
   slots.setText(macros.location, target.module);
   slots.setText(macros.label, item.label);
   slots.setNumber(macros.helpId, target.helpId);
+  // Only of a project that has a folder of its own: else a template's own macro stays.
+  const std::size_t folderEnd = target.member.rfind('/');
+  if (form_ == Form::project && folderEnd != std::string_view::npos) {
+    slots.setText(macros.folder, target.member.substr(0, folderEnd));
+  }
   if (form_ == Form::moduleLink && target.wrapper != nullptr) {
     resolver->setModuleLists(target, table);
   }

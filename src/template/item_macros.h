@@ -25,6 +25,7 @@ struct ItemMacros {
   MacroSlot& item;
   MacroSlot& location;
   MacroSlot& file;
+  MacroSlot& folder;
   MacroSlot& helpId;
 };
 
@@ -49,7 +50,7 @@ class ListWalk {
                    MacroTable& table);
 
  private:
-  enum class Form { set, param, link, moduleLink };
+  enum class Form { set, param, link, moduleLink, project };
   static Form formOf(std::string_view name);
 
   bool setFields(std::string_view item, MacroSlots& slots, const ItemMacros& macros) const;

@@ -65,7 +65,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options)
       messages_(*new MessageList(this)),
       screen_(*this, tabs_),
       vbe_(keeper_, screen_),
-      addInHost_(*this, vbe_),
+      addInHost_(*this, vbe_, [this](const std::string& line) { showWarning(line); }),
       addIns_(addInHost_, userRegistry()),
       recentMenu_(*actions_.recent, recent_, prompts_),
       codeCommands_(actions_, tabs_, findBar_, prompts_, settings_) {
@@ -135,6 +135,11 @@ void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
   for (int i = 1; i <= ide.VBProjects().Count(); ++i) {
     screen_.events().projects().projectAdded(ide.VBProjects().Item(i));
   }
+}
+
+void WorkbenchWindow::showWarning(const std::string& line) {
+  messages_.add({toQt(line), nullptr, {}});
+  messagesDock_->show();
 }
 
 void WorkbenchWindow::projectClosing(HostIde& ide) {

@@ -77,6 +77,7 @@ class WorkbenchWindow final : public QMainWindow {
   void restoreLayout();
 
   void projectOpened(HostIde& ide, const QStringList& warnings);
+  void showWarning(const std::string& line);
   void projectClosing(HostIde& ide);
   void reopenProject();
 

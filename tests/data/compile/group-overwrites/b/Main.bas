@@ -1,0 +1,5 @@
+Attribute VB_Name = "Main"
+'**
+' Of B.
+Public Sub Start()
+End Sub
