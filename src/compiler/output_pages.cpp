@@ -1,11 +1,13 @@
 #include "compiler/output_pages.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "base/paths.h"
 #include "compiler/external_programs.h"
 #include "compiler/topic_order.h"
 #include "model/index_contents.h"
+#include "template/expansion_budget.h"
 
 namespace tamrikon {
 namespace {
@@ -105,6 +107,17 @@ bool OutputPages::wantsTopic(const Wrapper& wrapper) const {
   return isForm(type) ? session_.settings.comForm : session_.settings.comObject;
 }
 
+/// Tells whose topic has no end.
+std::string OutputPages::topicOf(Wrapper& wrapper) {
+  try {
+    return wrapper.compile(context_);
+  } catch (const BudgetUsedUp& usedUp) {
+    std::string place = wrapper.source().name();
+    if (wrapper.kind() != WrapperKind::module) place += "." + wrapper.name();
+    throw BudgetUsedUp(std::string(usedUp.what()) + ", in the topic of " + place);
+  }
+}
+
 bool OutputPages::putTopics() {
   const std::string extension = store_.evaluateMacro("MEMBER-EXT");
   for (const WrapperRef& wrapper : store_.compiledList) {
@@ -115,7 +128,7 @@ bool OutputPages::putTopics() {
     session_.log.ShowProgress(module, isModule ? std::string() : wrapper->name());
     if (wantsTopic(*wrapper)) {
       const std::string name = isModule ? module : module + "-" + wrapper->name();
-      std::string page = wrapper->compile(context_);
+      std::string page = topicOf(*wrapper);
       put(Write::replace, name, extension, page);
       store_.macros.reuse(std::move(page));
     }
@@ -174,16 +187,25 @@ void OutputPages::compileSingleFile() {
 
 bool OutputPages::appendTopics(const std::string& extension) {
   std::string text;
-  for (const std::vector<WrapperRef>& stretch : topicOrder(store_.compiledList)) {
-    if (!store_.checkpoint()) return false;
-    for (const WrapperRef& wrapper : stretch) {
-      addTopic(*wrapper, text);
-      if (text.size() < kEnoughToAppend) continue;
-      put(Write::append, projectName_, extension, text);
-      text.clear();
+  const auto putFinished = [&] {
+    if (!text.empty()) put(Write::append, projectName_, extension, std::exchange(text, {}));
+  };
+  try {
+    for (const std::vector<WrapperRef>& stretch : topicOrder(store_.compiledList)) {
+      if (!store_.checkpoint()) {
+        putFinished();
+        return false;
+      }
+      for (const WrapperRef& wrapper : stretch) {
+        addTopic(*wrapper, text);
+        if (text.size() >= kEnoughToAppend) putFinished();
+      }
     }
+  } catch (const BudgetUsedUp&) {
+    putFinished();
+    throw;
   }
-  if (!text.empty()) put(Write::append, projectName_, extension, text);
+  putFinished();
   return true;
 }
 
@@ -192,7 +214,7 @@ void OutputPages::addTopic(Wrapper& wrapper, std::string& text) {
   const bool isModule = wrapper.kind() == WrapperKind::module;
   session_.log.ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
   if (wantsTopic(wrapper)) {
-    std::string topic = wrapper.compile(context_);
+    std::string topic = topicOf(wrapper);
     text += topic;
     store_.macros.reuse(std::move(topic));
   }

@@ -40,6 +40,7 @@ class OutputPages {
   void setProjectName();
   void closingSteps();
 
+  std::string topicOf(Wrapper& wrapper);
   bool wantsTopic(const Wrapper& wrapper) const;
 
   bool appendGroupPages(std::string& extension);

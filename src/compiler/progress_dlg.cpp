@@ -6,6 +6,7 @@
 
 #include "compiler/session.h"
 #include "compiler/store.h"
+#include "template/expansion_budget.h"
 #include "toolkit/toolkit.h"
 
 namespace tamrikon {
@@ -79,8 +80,13 @@ void ProgressDlg::startCompile() {
 }
 
 bool ProgressDlg::showDocumentation() {
-  const std::string file =
-      session_.currentStore ? session_.currentStore->evaluateMacro("tamrik-help-file") : "";
+  std::string file;
+  try {
+    if (session_.currentStore) file = session_.currentStore->evaluateMacro("tamrik-help-file");
+  } catch (const BudgetUsedUp& usedUp) {
+    toolkit().messageBox({"Error while showing documentation", std::string(usedUp.what()) + "."});
+    return false;
+  }
   if (toolkit().openDocument(file)) return true;
   toolkit().messageBox(
       {"Error while showing documentation", "Cannot show the \"" + file + "\" file"});

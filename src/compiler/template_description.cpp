@@ -5,6 +5,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "compiler/store.h"
+#include "template/expansion_budget.h"
 
 namespace tamrikon {
 
@@ -16,7 +17,12 @@ std::string readTemplateDescription(Session& session, const std::string& path) {
   described.macros.setMacroValue("TAMRIK-PATH", session.addInFolder);
   described.macros.setMacroValue("OUTPUT-PATH", folder);
   if (!folder.empty()) session.settings.outputPath = joinPath(folder, "");
-  std::string text = described.evaluateMacro("tamrik-description");
+  std::string text;
+  try {
+    text = described.evaluateMacro("tamrik-description");
+  } catch (const BudgetUsedUp& usedUp) {
+    return std::string(usedUp.what()) + ".";
+  }
   std::replace(text.begin(), text.end(), '\r', ' ');
   return text;
 }

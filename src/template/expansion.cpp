@@ -7,6 +7,7 @@
 namespace tamrikon {
 
 std::string Expansion::evaluate(const MacroName& name) {
+  outermost_ = name.text;
   MacroText* text = name.slot->text.get();
   result_ = std::move(state_.spare);
   result_.clear();
@@ -19,7 +20,7 @@ std::string Expansion::evaluate(const MacroName& name) {
 
 std::string Expansion::expandText(std::string_view text) {
   MacroText source;
-  if (!budget_.takeText(text.size())) return std::string(text);
+  if (!budget_.takeText(text.size())) endAt(outermost_);
   source.text = text;
   begin(source, false);
   run();
@@ -81,10 +82,12 @@ void Expansion::answer(const MacroName& name) {
 inline void Expansion::call(const MacroName& name) {
   const MacroSlot& slot = *name.slot;
   const bool isText = slot.holds == MacroSlot::Holds::text;
-  if (slot.holds == MacroSlot::Holds::nothing || depth_ >= ExpansionBudget::kMaxDepth ||
-      !budget_.takeCalls(1, isText ? slot.text->text.size() : 0)) {
+  if (slot.holds == MacroSlot::Holds::nothing || depth_ >= ExpansionBudget::kMaxDepth) {
     appendUnknown(name.text);
-  } else if (isText) {
+    return;
+  }
+  if (!budget_.takeCalls(1, isText ? slot.text->text.size() : 0)) endAt(name.text);
+  if (isText) {
     begin(*slot.text, name.isReadOnly);
   } else {
     result_ += name.text;
@@ -129,11 +132,15 @@ void Expansion::appendUnknown(std::string_view name) {
   result_.append("$").append(name).append("$");
 }
 
-/// False if the budget has run out: then nothing more is logged.
-bool Expansion::log(const std::string& message) {
-  if (!budget_.takeText(message.size())) return false;
+void Expansion::log(const std::string& message) {
+  if (!budget_.takeText(message.size())) endAt(outermost_);
   state_.log.logMessage(message);
-  return true;
+}
+
+void Expansion::endAt(std::string_view call) const {
+  throw BudgetUsedUp("The expansion of " + std::string(outermost_) +
+                     " has no end: its bounds of calls and text are used up at $" +
+                     std::string(call) + "$");
 }
 
 }  // namespace tamrikon

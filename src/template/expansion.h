@@ -57,6 +57,8 @@ struct ExpansionState {
 /// One outermost call, with its budget. The texts in work stand on a stack of its own, so that no
 /// nesting of macros and constructs can exhaust the program's.
 class Expansion {
+  using Frame = ExpansionFrame;
+
  public:
   /// `table` is handed to the link resolver. Both must outlive this object.
   Expansion(ExpansionState& state, MacroTable& table, const ExpansionBudget& budget = {})
@@ -66,6 +68,9 @@ class Expansion {
     lists_.swap(state_.spareLists);
   }
   ~Expansion() {
+    for (const Frame& frame : frames_) {
+      if (frame.role == Frame::Role::macro) --frame.source->users;
+    }
     state_.slots.endUse();
     frames_.clear();
     lists_.clear();
@@ -75,15 +80,14 @@ class Expansion {
   Expansion(const Expansion&) = delete;
   Expansion& operator=(const Expansion&) = delete;
 
-  /// What a call of `name` gives, each "$$" still doubled.
+  /// What a call of `name` gives, each "$$" still doubled. BudgetUsedUp is thrown where that goes
+  /// beyond the budget.
   std::string evaluate(const MacroName& name);
 
   /// `text` with its macros expanded, without a translation of its own.
   std::string expandText(std::string_view text);
 
  private:
-  using Frame = ExpansionFrame;
-
   void run();
   const MacroToken* nextToken(const Frame& frame);
   void answer(const MacroName& name);
@@ -92,7 +96,8 @@ class Expansion {
   void leave();
   void appendLiteral(std::string_view text, bool translate);
   void appendUnknown(std::string_view name);
-  bool log(const std::string& message);
+  void log(const std::string& message);
+  [[noreturn]] void endAt(std::string_view call) const;
 
   // The two list macros, in list_macros.cpp.
   void expandConstruct(const MacroName& tag);
@@ -107,6 +112,7 @@ class Expansion {
   ExpansionState& state_;
   MacroTable& table_;
   ExpansionBudget budget_;
+  std::string_view outermost_ = "REPLACE-TABLE";  // whose expansion this is
   std::string result_;
   std::vector<Frame> frames_;
   std::vector<ListFrame> lists_;  // one for each frame that is a list's body

@@ -2,8 +2,15 @@
 #pragma once
 
 #include <cstddef>
+#include <stdexcept>
 
 namespace tamrikon {
+
+/// An expansion would go beyond its budget; the text says which one, and where.
+class BudgetUsedUp : public std::length_error {
+ public:
+  using std::length_error::length_error;
+};
 
 class ExpansionBudget {
  public:

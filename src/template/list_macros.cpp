@@ -98,7 +98,8 @@ void Expansion::reportSearch(const Construct& construct, bool isFound) {
   for (; wrong != source.wrongNames.end(); ++wrong) {
     const MacroToken& token = source.tokens[*wrong];
     if (isFound ? *wrong > construct.endMarker : token.start >= frame.end) return;
-    if (!log(wrongNameWarning(source.written(token))) || token.name->text.empty()) return;
+    log(wrongNameWarning(source.written(token)));
+    if (token.name->text.empty()) return;
   }
 }
 
@@ -124,10 +125,7 @@ void Expansion::expandDoList(const Construct& construct, const MacroName& argume
   ListFrame frame{ListWalk(argument.text, list), result_.size(), construct.lineEnd + 1, bodyEnd,
                   construct.bodyToken};
   if (frame.walk.isSorted()) {
-    if (!budget_.takeCalls(list->size(), list->size() * sizeof(LinkItem))) {
-      appendUnknown("DOLIST");
-      return;
-    }
+    if (!budget_.takeCalls(list->size(), list->size() * sizeof(LinkItem))) endAt("DOLIST");
     if (!frame.walk.sort(state_.resolver)) return;
   }
   lists_.push_back(std::move(frame));
@@ -140,10 +138,9 @@ void Expansion::nextListItem() {
   ListFrame& list = lists_.back();
   bool goesOn = !list.walk.isAtEnd();
   if (goesOn && !budget_.takeCalls(1, list.bodyEnd - list.bodyStart + list.walk.nextLength())) {
-    appendUnknown("DOLIST");
-    goesOn = false;
-  } else if (goesOn &&
-             !list.walk.setNextItem(state_.slots, state_.items, state_.resolver, table_)) {
+    endAt("DOLIST");
+  }
+  if (goesOn && !list.walk.setNextItem(state_.slots, state_.items, state_.resolver, table_)) {
     result_.resize(list.resultStart);
     goesOn = false;
   }

@@ -32,8 +32,9 @@ class MacroTable {
   /// The macro's value, expanded. An unknown macro gives "$NAME$", a list its name. Each "$$" of
   /// the result becomes "$", unless the result goes into another text (`isNestedEvaluation`).
   ///
-  /// What one call does is bounded (expansion_budget.h): a nested call beyond that is answered
-  /// like one of an unknown macro, so a macro that calls itself ends.
+  /// What one call does is bounded (expansion_budget.h). A nested call that is too deep is answered
+  /// like one of an unknown macro, so a macro that calls itself ends; where calls or text grow
+  /// beyond all bounds, BudgetUsedUp is thrown.
   std::string evaluateMacro(std::string_view macroName, bool isNestedEvaluation = false);
 
   /// Takes back a result that nobody needs any more: its memory serves the next one.

@@ -63,6 +63,35 @@ TEST_F(ProgressDlgTest, CompileStopsAtTheCheckpointBehindACancel) {
   }
 }
 
+TEST_F(ProgressDlgTest, FinishedTopicsOfASingleFileAreWrittenWhateverEndsTheCompile) {
+  folder_.put("CTwo.cls", "'**\n'$tamrik-loop$\nPublic Sub Spill()\nEnd Sub\n");
+  folder_.put("One.vbp", "Type=Exe\nName=\"One\"\nClass=COne; COne.cls\nClass=CTwo; CTwo.cls\n");
+  // What is left out counts, but takes no time.
+  std::string sections = "$SPLIT$ 0\n$MEMBER-EXT$ .m\n$tamrik-loop$\n$IFNOTEMPTY$ $NO$\n" +
+                         std::string(1 << 20, 'x') +
+                         "$END-IFNOTEMPTY$$tamrik-loop$$tamrik-loop$\n$end-tamrik-loop$\n";
+  for (const std::string name : {"project", "title", "contents"}) {
+    sections += "$tamrik-" + name + "-body$\n$end-tamrik-" + name + "-body$\n";
+  }
+  folder_.put("t.tmkt", sections +
+                            "$tamrik-object-body$\n$MEMBER-NAME$;\n$end-tamrik-object-body$\n"
+                            "$tamrik-method-body$\n$MEMBER-DESCRIPTION$;\n"
+                            "$end-tamrik-method-body$\n");
+  open();
+  toolkit_.onCheckpoint = [&] { session_.cancelRequested = dialog_.Animation1.done() == 2; };
+  dialog_.startCompile();
+  EXPECT_EQ(dialog_.outcome(), CompileOutcome::aborted);
+  EXPECT_EQ(folder_.get("out/One.m"), "COne;Fills.\r\n;");
+
+  toolkit_.onCheckpoint = [] {};
+  dialog_.startCompile();
+  EXPECT_EQ(dialog_.outcome(), CompileOutcome::failed);
+  EXPECT_EQ(folder_.get("out/One.m"), "COne;Fills.\r\n;CTwo;");
+  EXPECT_EQ(dialog_.Text1.text(),
+            "Project: One\r\nERROR: The expansion of tamrik-method-body has no end: its bounds of "
+            "calls and text are used up at $tamrik-loop$, in the topic of CTwo.Spill\r\n");
+}
+
 TEST_F(ProgressDlgTest, CompilePublishesPathsWithTheirDollarsAndOneSeparator) {
   folder_.put("t.tmkt",
               "$SPLIT$ 0\n$MEMBER-EXT$ .m\n$tamrik-project-body$\n$TAMRIK-PATH$ "

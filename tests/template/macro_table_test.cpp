@@ -104,21 +104,34 @@ TEST(EvaluateMacro, EndsARecursion) {
   EXPECT_EQ(macros.table.evaluateMacro("A"), std::string(200, 'a') + "$A$");
 
   macros.set("B", std::string(std::size_t{1} << 20, 'b') + "$B$$B$");
-  const std::size_t size = macros.table.evaluateMacro("B").size();
-  EXPECT_GT(size, std::size_t{255} << 20);
-  EXPECT_LE(size, std::size_t{256} << 20);
+  EXPECT_THROW(macros.table.evaluateMacro("B"), BudgetUsedUp);
+  macros.set("B", "b");  // which nothing expands any more
+  EXPECT_EQ(macros.table.evaluateMacro("B"), "b");
 }
 
-TEST(Expansion, AnswersCallsBeyondTheBudgetAsUnknown) {
+TEST(Expansion, EndsWhereItsBudgetIsUsedUp) {
   using Case = std::tuple<const char*, ExpansionBudget, const char*>;
-  for (const auto& [text, budget, expected] :
-       {Case{"$B$$B$$B$", {3, 1000}, "bb$B$"}, Case{"$B$$B$$B$", {100, 11}, "bb$B$"},
-        Case{"$B$", {100, 2}, "$A$"}}) {
+  for (const auto& [text, budget, place] :
+       {Case{"$B$$B$$B$", {4, 12}, ""}, Case{"$B$$B$$B$", {3, 12}, "$B$"},
+        Case{"$B$$B$$B$", {4, 11}, "$B$"}, Case{"$B$", {4, 2}, "$A$"},
+        Case{"$DOLIST$ $L$\r$END-DOLIST$", {2, 1000}, "$DOLIST$"}}) {
+    SCOPED_TRACE(text);
     Macros macros;
     ExpansionState state(macros.log);
     state.slots.setText(*state.slots.intern("A").slot, text);
     state.slots.setText(*state.slots.intern("B").slot, "b");
-    EXPECT_EQ(Expansion(state, macros.table, budget).evaluate(*state.slots.find("A")), expected);
+    state.slots.setList(*state.slots.intern("L").slot,
+                        std::make_shared<MacroList>(MacroList{{"x\r", "y\r"}}));
+    std::string message;
+    try {
+      Expansion(state, macros.table, budget).evaluate(*state.slots.find("A"));
+    } catch (const BudgetUsedUp& usedUp) {
+      message = usedUp.what();
+    }
+    EXPECT_EQ(message, *place == '\0' ? ""
+                                      : "The expansion of A has no end: its bounds of calls and "
+                                        "text are used up at " +
+                                            std::string(place));
   }
 }
 
