@@ -112,9 +112,8 @@ std::string OutputPages::topicOf(Wrapper& wrapper) {
   try {
     return wrapper.compile(context_);
   } catch (const BudgetUsedUp& usedUp) {
-    std::string place = wrapper.source().name();
-    if (wrapper.kind() != WrapperKind::module) place += "." + wrapper.name();
-    throw BudgetUsedUp(std::string(usedUp.what()) + ", in the topic of " + place);
+    throw BudgetUsedUp(std::string(usedUp.what()) + ", in the topic of " +
+                       store_.links.pageInWork());
   }
 }
 

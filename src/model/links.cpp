@@ -85,6 +85,13 @@ NamedLink Links::linkOf(const void* wrapper) {
           targetOf(named.topic != nullptr ? named.topic : &named)};
 }
 
+std::string Links::pageInWork() {
+  if (compiledWrapper == nullptr) return {};
+  const std::string& module = compiledWrapper->source().name();
+  const bool isModule = compiledWrapper->kind() == WrapperKind::module;
+  return isModule ? module : module + "." + compiledWrapper->name();
+}
+
 void Links::setModuleLists(const LinkTarget& target, MacroTable& macros) {
   const auto& wrapper = *static_cast<const Wrapper*>(target.wrapper);
   macros.setMacroValue("PROPS-LINK-LIST", lists_.getPropsList(wrapper));

@@ -36,6 +36,7 @@ class Links final : public LinkResolver {
   LinkTarget parseLink(std::string_view link) override;
   LinkTarget topicOf(std::string_view link) override;
   NamedLink linkOf(const void* wrapper) override;
+  std::string pageInWork() override;
   void setModuleLists(const LinkTarget& target, MacroTable& macros) override;
 
  private:

@@ -55,7 +55,7 @@ inline const MacroToken* Expansion::nextToken(const Frame& frame) {
   const MacroToken& token = source.tokens[frame.token];
   if (token.start >= frame.end) return nullptr;
   if (!source.wrongNames.empty() && source.isWrong(token)) {
-    log(wrongNameWarning(source.written(token)));
+    logWrongName(source, token);
     if (token.name->text.empty()) return nullptr;  // a lone "$" ends the search
   }
   return &token;
@@ -132,9 +132,19 @@ void Expansion::appendUnknown(std::string_view name) {
   result_.append("$").append(name).append("$");
 }
 
-void Expansion::log(const std::string& message) {
+void Expansion::logAs(const std::string& message, const std::string& wording) {
   if (!budget_.takeText(message.size())) endAt(outermost_);
-  state_.log.logMessage(message);
+  state_.log.logMessageAs(message, wording);
+}
+
+/// The log blames the template for each wrong name, also for one that a comment brought.
+void Expansion::logWrongName(const MacroText& source, const MacroToken& token) {
+  const std::string message = wrongNameWarning(source.written(token));
+  std::string place;
+  if (!source.isOfTemplate && state_.resolver != nullptr) place = state_.resolver->pageInWork();
+  if (place.empty()) return log(message);
+  logAs(message, "Warning: Wrong macro name " + std::string(source.written(token)) +
+                     " in the text of " + place + "; a dollar sign is written $$.");
 }
 
 void Expansion::endAt(std::string_view call) const {

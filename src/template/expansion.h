@@ -96,7 +96,9 @@ class Expansion {
   void leave();
   void appendLiteral(std::string_view text, bool translate);
   void appendUnknown(std::string_view name);
-  void log(const std::string& message);
+  void log(const std::string& message) { logAs(message, message); }
+  void logAs(const std::string& message, const std::string& wording);
+  void logWrongName(const MacroText& source, const MacroToken& token);
   [[noreturn]] void endAt(std::string_view call) const;
 
   // The two list macros, in list_macros.cpp.

@@ -1,6 +1,7 @@
 // What the list macros ask of the source model: which member or module a link leads to.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace tamrikon {
@@ -40,6 +41,9 @@ class LinkResolver {
 
   /// The same for a wrapper that is known.
   virtual NamedLink linkOf(const void* wrapper) = 0;
+
+  /// The module and member whose page is in work, as Module.Member; empty if it is that of none.
+  virtual std::string pageInWork() { return {}; }
 
   /// Sets PROPS-LINK-LIST, METHODS-LINK-LIST and EVENTS-LINK-LIST to the lists of the module that
   /// `target` (with a wrapper) names.

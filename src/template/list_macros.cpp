@@ -66,7 +66,7 @@ const MacroName* Expansion::findArgument(const Construct& construct, const Macro
   const MacroName* argument = nullptr;
   if (construct.tag + 1 < construct.bodyToken) {
     const MacroToken& token = source.tokens[construct.tag + 1];
-    if (source.isWrong(token)) log(wrongNameWarning(source.written(token)));
+    if (source.isWrong(token)) logWrongName(source, token);
     argument = token.name;
   }
   if (argument != nullptr && isArgument(*argument)) return argument;
@@ -98,7 +98,7 @@ void Expansion::reportSearch(const Construct& construct, bool isFound) {
   for (; wrong != source.wrongNames.end(); ++wrong) {
     const MacroToken& token = source.tokens[*wrong];
     if (isFound ? *wrong > construct.endMarker : token.start >= frame.end) return;
-    log(wrongNameWarning(source.written(token)));
+    logWrongName(source, token);
     if (token.name->text.empty()) return;
   }
 }

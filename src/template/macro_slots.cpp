@@ -148,6 +148,7 @@ inline MacroText& MacroSlots::newText(MacroSlot& slot) {
   retire(slot);
   if (!slot.text) slot.text = std::make_unique<MacroText>();
   slot.text->isScanned = false;
+  slot.text->isOfTemplate = false;
   slot.list.reset();
   slot.holds = MacroSlot::Holds::text;
   return *slot.text;

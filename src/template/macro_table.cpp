@@ -93,6 +93,7 @@ bool MacroTable::addMacro(std::string_view name, std::string_view text) {
   MacroSlot& slot = *slots.intern(name).slot;
   if (slot.holds != MacroSlot::Holds::nothing) return false;
   slots.setText(slot, text);
+  slot.text->isOfTemplate = true;
   return true;
 }
 

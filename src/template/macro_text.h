@@ -40,6 +40,7 @@ struct Construct {
 /// part of a text begins inside of a call, each part has exactly the tokens that lie within it.
 struct MacroText {
   std::string text;
+  bool isOfTemplate = false;  // as the template defines it
   bool isScanned = false;
   std::vector<MacroToken> tokens;
   std::vector<Construct> constructs;  // ascending

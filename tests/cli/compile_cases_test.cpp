@@ -1,5 +1,5 @@
 // Whole compiles: each folder of tests/data/compile holds a project, a template, the arguments (one
-// a line) and the expected pages, log and, if there is one, error output. CR LF of the pages is
+// a line) and the expected pages, log and, where they matter, both outputs. CR LF of the pages is
 // compared as LF, and the folder of the cases is left out of messages.
 #include <gtest/gtest.h>
 
@@ -70,6 +70,9 @@ TEST_P(CompileCase, GivesTheExpectedPagesAndLog) {
   EXPECT_EQ(run.status, warnings.empty() ? 0 : 3);
   EXPECT_EQ(replaceAll(run.err, TAMRIKON_TEST_DATA "/compile/", ""), warnings);
   EXPECT_EQ(log.get("log.txt"), textOf(folder / "expected.log"));
+  if (fs::exists(folder / "expected.out")) {
+    EXPECT_EQ(replaceAll(run.out, output.path(), "OUT"), textOf(folder / "expected.out"));
+  }
   const auto expected = textsIn(folder / "expected");
   const auto pages = textsIn(output.path());
   for (const auto& [name, text] : expected) {

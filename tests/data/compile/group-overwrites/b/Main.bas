@@ -1,5 +1,5 @@
 Attribute VB_Name = "Main"
 '**
-' Of B.
+' Of B, for $ 5.
 Public Sub Start()
 End Sub
