@@ -24,7 +24,9 @@ void addOnce(std::vector<std::string>& all, const std::string& text) {
 }  // namespace
 
 void WrittenSummary::addProject() {
-  addOnce(folders_, std::string(withoutTrailingSeparator(session_.settings.outputPath)));
+  const std::string& above = session_.groupFolders.above;
+  const std::string& folder = above.empty() ? session_.settings.outputPath : above;
+  addOnce(folders_, std::string(withoutTrailingSeparator(folder)));
   const std::string file = helpFile();
   if (session_.files.files().isFile(file)) addOnce(helpFiles_, file);
 }
