@@ -5,7 +5,7 @@
 #include "base/case_folding.h"
 #include "cli/commands.h"
 #include "cli/comment_lookup.h"
-#include "cli/path_from_here.h"
+#include "cli/patch_folder.h"
 #include "cli/project_opening.h"
 #include "cli/unified_diff.h"
 #include "cli/unwritten_files.h"
@@ -127,11 +127,19 @@ class CommentRun {
     const auto shown = [&](const std::string& bytes) {
       return streams_.outIsTerminal ? decodeText(bytes, page).text : bytes;
     };
+    std::vector<std::string> paths;
+    for (const auto& file : unwritten_.replacements()) paths.push_back(file.path);
+    const PatchFolder folder(files(), paths);
     for (const UnwrittenFiles::Replacement& file : unwritten_.replacements()) {
-      streams_.out << unifiedDiff(pathFromHere(files(), file.path), shown(file.before),
-                                  shown(file.after));
+      streams_.out << unifiedDiff(folder.nameOf(file.path), shown(file.before), shown(file.after));
     }
-    if (unwritten_.replacements().empty()) terminal_.complain("No comment is missing.");
+    if (paths.empty()) terminal_.complain("No comment is missing.");
+    if (folder.fromHere() != ".") {
+      terminal_.complain(
+          "tamrikon: not all of the files lie below this folder; apply the diff with "
+          "`patch -d " +
+          folder.fromHere() + " -p0`");
+    }
   }
 
   const CommentOptions& options_;

@@ -45,13 +45,16 @@ std::string commentAll(const test::TempFolder& folder, const std::string& projec
                            "comVariable=1", "comConstant=1", "comContextID=1", "addSame=1"});
   const auto before = filesIn(folder);
   const auto topics = topicsOf(project);
+  const fs::path home = fs::current_path();
+  fs::current_path(folder.path());
   const ProgramRun dry({"comment", project, "--missing", "--dry-run"});
+  fs::current_path(home);
   EXPECT_EQ(filesIn(folder), before);
   const ProgramRun run({"comment", project, "--missing"});
   EXPECT_EQ(run.status, 0) << run.err;
   const auto after = filesIn(folder);
   for (const auto& [name, text] : before) {
-    const std::size_t start = std::min(dry.out.find("--- " + folder / name + "\n"), dry.out.size());
+    const std::size_t start = std::min(dry.out.find("--- " + name + "\n"), dry.out.size());
     const std::string rest = dry.out.substr(start) + "--- ";
     const std::string diff = rest.substr(0, rest.find("\n--- ") + 1);
     EXPECT_EQ(test::patched(text, diff), after.at(name)) << name;

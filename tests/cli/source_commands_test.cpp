@@ -91,9 +91,29 @@ TEST_F(SourceCommandsTest, DryRunPrintsBytesForPatchAndTextForPeople) {
             "--- Till.bas\n+++ Till.bas\n@@ -1,3 +1,7 @@\n x = \"\xE9\"\n+'**\n+'\n"
             "+'@see\n+'@rem\n Sub Main()\n End Sub\n");
   const ProgramRun shown = run("comment", {"Till.Main", "--dry-run"});
-  EXPECT_TRUE(shown.out.starts_with("--- " + tillPath_ + "\n")) << "not below the current folder";
   EXPECT_NE(shown.out.find("\n x = \"é\"\n+'**\n"), std::string::npos) << shown.out;
   EXPECT_EQ(folder_.get("Till.bas"), "x = \"\xE9\"\nSub Main()\nEnd Sub\n");
+}
+
+TEST_F(SourceCommandsTest, DryRunNamesFilesSoThatPatchFindsThem) {
+  folder_.put("sub/a/Own.bas", "Sub Own()\nEnd Sub\n");
+  folder_.put("sub/Far.bas", "Sub Far()\nEnd Sub\n");
+  const std::string project =
+      folder_.put("sub/a/P.vbp", "Module=Own; Own.bas\nModule=Far; ..\\Far.bas\n");
+  const std::filesystem::path home = std::filesystem::current_path();
+  for (const auto& [here, way, target] : {std::tuple("", ".", "Far.Far"),
+                                          {"sub/a", ".", "Own.Own"},
+                                          {"sub/a", "..", "Far.Far"},
+                                          {"sub/a/b", "../..", "Far.Far"}}) {
+    std::filesystem::create_directories(folder_ / here);
+    std::filesystem::current_path(folder_ / here);
+    const ProgramRun run({"comment", project, target, "--dry-run"});
+    const std::string patch = "patch -d " + std::string(way) + " -p0";
+    EXPECT_EQ(run.err.find('`' + patch + '`') != std::string::npos, way[1] == '.') << run.err;
+    folder_.put("diff", run.out);
+    EXPECT_EQ(std::system((patch + " --dry-run -s < " + folder_ / "diff").c_str()), 0) << run.out;
+    std::filesystem::current_path(home);
+  }
 }
 
 TEST_F(SourceCommandsTest, RefuseToWriteIntoFilesThatCannotBeUnderstood) {
