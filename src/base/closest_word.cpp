@@ -46,4 +46,9 @@ std::string closestWord(std::string_view word, const std::vector<std::string>& w
   return closest;
 }
 
+std::string didYouMean(std::string_view word, const std::vector<std::string>& words) {
+  const std::string closest = closestWord(word, words);
+  return closest.empty() ? std::string() : " (did you mean '" + closest + "'?)";
+}
+
 }  // namespace tamrikon

@@ -12,4 +12,7 @@ namespace tamrikon {
 /// letters; empty if more than a third of its characters would have to change.
 std::string closestWord(std::string_view word, const std::vector<std::string>& words);
 
+/// " (did you mean 'WORD'?)" with the closest word, or nothing.
+std::string didYouMean(std::string_view word, const std::vector<std::string>& words);
+
 }  // namespace tamrikon

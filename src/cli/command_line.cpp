@@ -44,6 +44,8 @@ void addCompile(CLI::App& app, CompileOptions& options) {
       ->take_all()
       ->allow_extra_args(false)
       ->check(checkSetting);
+  command.add_flag("--add-modules", options.addsModules,
+                   "Document the modules that the settings file doesn't list as well");
   command.add_option("--template", options.templateFile, "Template for this run")
       ->type_name("FILE");
   command.add_option("--output", options.outputFolder, "Output folder for this run")
@@ -110,6 +112,13 @@ void addSettings(CLI::App& app, SettingsOptions& options) {
       ->type_name("KEY=VALUE")
       ->check(checkSetting);
   addAllProjects(command, options.allProjects);
+  CLI::Option* const adds =
+      command.add_flag("--add-modules", options.addsModules,
+                       "Select the modules that the settings file doesn't list");
+  command
+      .add_flag("--leave-out-modules", options.leavesOutModules,
+                "Note that the modules that aren't selected are left out on purpose")
+      ->excludes(adds);
 }
 
 /// "there is no KIND 'WORD'", and the one of `words` that may have been meant.

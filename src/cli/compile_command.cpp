@@ -60,12 +60,32 @@ void chooseFolders(Session& session, HostIde& ide, const CompileOptions& options
   session.groupFolders = foldersBelow(absoluteFolder(session, above), ide.VBProjects());
 }
 
+/// Tells of modules that are missed in the settings file, unless the file itself was told of.
+void tellUnlistedModules(Session& session, HostIde& ide, Terminal& terminal) {
+  if (session.settingsFile.unlistedModules(ide).empty()) return;
+  for (const std::string& note : session.settingsFile.notes(ide)) {
+    terminal.complain("warning: " + note);
+  }
+  terminal.complain(
+      "tamrikon: the command `settings` adds them with --add-modules, or notes with "
+      "--leave-out-modules that they are left out on purpose");
+}
+
 /// Makes a project the active one, with its settings as the command line changes them. False if
 /// there is no template or no place for its pages.
 bool prepare(Session& session, HostIde& ide, VBProject& project, const CompileOptions& options,
              Terminal& terminal) {
   activateProject(session, ide, project, terminal);
-  applySettings(session, ide, options.settings);
+  const std::string fault = applySettings(session, ide, options.settings);
+  if (!fault.empty()) {
+    terminal.complain("tamrikon: " + fault);
+    return false;
+  }
+  if (options.addsModules) {
+    session.settingsFile.addOtherModules(ide);
+  } else if (!setsKey(options.settings, "comModules")) {
+    tellUnlistedModules(session, ide, terminal);
+  }
   const std::string& file = options.templateFile;
   if (!file.empty() && !chooseTemplate(session, file, terminal)) return false;
   const GroupFolders& folders = session.groupFolders;

@@ -25,11 +25,16 @@ struct CompileOptions : ProjectOptions {
   bool failsOnWarnings = false;
   bool opens = false;
   bool printsTimes = false;
+  bool addsModules = false;
 };
 
 struct SettingsOptions : ProjectOptions {
-  std::vector<std::string> settings;  // KEY=VALUE; none: the settings are printed
-  bool allProjects = false;           // of a group; otherwise the one that starts
+  std::vector<std::string> settings;  // KEY=VALUE
+  bool addsModules = false;
+  bool leavesOutModules = false;
+  bool allProjects = false;  // of a group; otherwise the one that starts
+
+  bool onlyPrints() const { return settings.empty() && !addsModules && !leavesOutModules; }
 };
 
 struct CommentOptions : ProjectOptions {

@@ -24,12 +24,9 @@ std::vector<VBProject*> projectsOf(const HostIde& ide, bool all) {
 void activateProject(Session& session, HostIde& ide, VBProject& project, Terminal& terminal) {
   ide.activate(project);
   session.files.setCodePage(ide.codePageOf(project));
-  const std::string path = SettingsFile::settingsFilePath(ide);
-  if (session.settingsFile.readProjectSettings(ide) || !session.files.files().isFile(path)) {
-    return;
-  }
-  terminal.complain("warning: " + path +
-                    " isn't a settings file that can be used; the defaults hold");
+  session.settingsFile.readProjectSettings(ide);
+  const std::string& fault = session.settingsFile.fault();
+  if (!fault.empty()) terminal.complain("warning: " + fault + "; the defaults hold");
 }
 
 }  // namespace tamrikon

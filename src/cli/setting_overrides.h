@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "compiler/session.h"
@@ -9,12 +10,18 @@
 
 namespace tamrikon {
 
-/// What is wrong with a KEY=VALUE argument, naming it; empty if nothing is.
+/// What is wrong with a KEY=VALUE argument, naming it; empty if nothing is. Other than in the
+/// settings file, a switch is on or off by 1 and 0, yes and no, true and false alone.
 std::string faultOfSetting(const std::string& argument);
 
 /// Applies KEY=VALUE arguments without faults to the session's settings, by the rules of the
 /// settings file. Relative folders count from the current folder; comModules takes names divided
-/// by commas, in place of the selection before.
-void applySettings(Session& session, VBE& ide, const std::vector<std::string>& arguments);
+/// by commas, in place of the selection before. The template is looked up when all else is set,
+/// with
+/// ".tmkt" added if it has no extension. What is wrong if it isn't there; otherwise empty.
+std::string applySettings(Session& session, VBE& ide, const std::vector<std::string>& arguments);
+
+/// Whether one of the arguments sets `key`.
+bool setsKey(const std::vector<std::string>& arguments, std::string_view key);
 
 }  // namespace tamrikon

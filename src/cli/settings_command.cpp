@@ -1,3 +1,4 @@
+#include "base/paths.h"
 #include "base/text.h"
 #include "cli/commands.h"
 #include "cli/project_opening.h"
@@ -12,12 +13,28 @@ void printSettings(const Session& session, std::ostream& out) {
   out << replaceAll(session.settingsFile.settingsLines(), "\r", "\n") << '\n';
 }
 
+/// What is wrong with the settings that are given; empty if nothing is and they were applied.
+std::string applyGiven(Session& session, HostIde& ide, const std::vector<std::string>& given) {
+  std::string fault = applySettings(session, ide, given);
+  if (!fault.empty() || !setsKey(given, "templateFolder")) return fault;
+  if (session.settingsFile.findsTemplate()) return {};
+  return "there is no template " + std::string(lastName(session.settings.templatePath)) + " in " +
+         session.settings.templateFolder + ": set templatePath as well";
+}
+
 /// Whether they were saved.
-bool changeSettings(Session& session, HostIde& ide, const std::vector<std::string>& settings,
+bool changeSettings(Session& session, HostIde& ide, const SettingsOptions& options,
                     Terminal& terminal) {
-  applySettings(session, ide, settings);
-  const int result = session.settingsFile.writeSettingsFile(ide);
-  const std::string& backup = session.settingsFile.keptAs();
+  const std::string fault = applyGiven(session, ide, options.settings);
+  if (!fault.empty()) {
+    terminal.complain("tamrikon: " + fault);
+    return false;
+  }
+  SettingsFile& file = session.settingsFile;
+  if (options.addsModules) file.addOtherModules(ide);
+  if (options.leavesOutModules) file.leaveOutOtherModules(ide);
+  const int result = file.writeSettingsFile(ide);
+  const std::string& backup = file.keptAs();
   if (!backup.empty()) terminal.complain("warning: its text is kept as " + backup);
   return result == 0;
 }
@@ -32,8 +49,8 @@ int settingsCommand(const SettingsOptions& options, const Streams& streams) {
   bool worked = true;
   for (VBProject* project : projectsOf(*ide, options.allProjects)) {
     activateProject(session, *ide, *project, terminal);
-    if (!options.settings.empty()) {
-      worked = changeSettings(session, *ide, options.settings, terminal) && worked;
+    if (!options.onlyPrints()) {
+      worked = changeSettings(session, *ide, options, terminal) && worked;
       continue;
     }
     if (options.allProjects) streams.out << "Project: " << project->Name() << '\n';

@@ -144,6 +144,9 @@ void connect::loadSettings() {
   session_.settings = ProjectSettings();  // a load that fails leaves no modules of another project
   session_.loadProjectSettings(*VBInstance);
   hasSettings_ = true;
+  for (const std::string& note : session_.settingsFile.notes(*VBInstance)) {
+    host_.warn("warning: " + note);
+  }
 }
 
 void connect::keepUpSettings() {

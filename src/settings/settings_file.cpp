@@ -6,6 +6,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "platform/text_decoding.h"
+#include "settings/setting_faults.h"
 #include "settings/setting_fields.h"
 #include "settings/settings_text.h"
 
@@ -13,6 +14,7 @@ namespace tamrikon {
 namespace {
 
 constexpr std::string_view kModulesKey = "comModules";
+constexpr std::string_view kLeftOutMark = "#left out: ";
 
 bool holdsCode(ComponentType type) {
   return type != ComponentType::resourceFile && type != ComponentType::relatedDocument;
@@ -61,6 +63,8 @@ void SettingsFile::setDefaultSettings(VBE& ide) {
   settings_.outputPath = defaultOutputFolder(ide);
   setTemplateDefaults();
   settings_.comModules = codeModules(ide);
+  isFromFile_ = false;
+  leftOut_.clear();
 }
 
 void SettingsFile::loadProjectSettings(VBE& ide) {
@@ -77,14 +81,19 @@ bool SettingsFile::readProjectSettings(VBE& ide) {
   unusable_.clear();
   setDefaultSettings(ide);
   if (readSettingsFile(ide, true) == 0) return true;
+  const std::string fault = std::move(fault_);
+  fault_.clear();
   setDefaultSettings(ide);
   tryStep([&] { unusable_ = settingsFilePath(ide); });
+  if (files_.files().isFile(unusable_)) fault_ = unusable_ + fault;
   return false;
 }
 
 int SettingsFile::readSettingsFile(VBE& ide, bool silent) {
   const KeyedList<CodeModule*> modules = codeModules(ide);
   settings_.comModules = {};
+  leftOut_.clear();
+  fault_ = " can't be read";
   std::string path;
   if (!tryStep([&] { path = settingsFilePath(ide); })) return 3;
   std::string text;
@@ -92,14 +101,27 @@ int SettingsFile::readSettingsFile(VBE& ide, bool silent) {
   if (result != 0) return result;
   const std::vector<std::string_view> lines = splitLines(text);
   if (lines.empty()) {
+    fault_ = " is empty";
     const FileErrorAnswer answer = files_.ask(path, "reading", FileError::pastEndOfFile, silent);
     return answer == FileErrorAnswer::giveUp ? 2 : 3;
   }
-  if (lines.front() != kSettingsHeader) return 1;
-  for (std::size_t n = 1; n < lines.size(); ++n) {
-    const int outcome = applyLine(lines[n], path, modules, silent);
-    if (outcome != 0) return outcome;
+  if (lines.front() != kSettingsHeader) {
+    fault_ = " isn't a settings file: line 1 isn't '" + std::string(kSettingsHeader) + "'";
+    return 1;
   }
+  for (std::size_t n = 1; n < lines.size(); ++n) {
+    if (lines[n].starts_with(kLeftOutMark)) {
+      const std::string_view name = trim(lines[n].substr(kLeftOutMark.size()));
+      if (modules.contains(name)) leftOut_.emplace_back(name);
+      continue;
+    }
+    const int outcome = applyLine(lines[n], path, modules, silent);
+    if (outcome == 0) continue;
+    fault_ = ", line " + std::to_string(n + 1) + ": " + fault_;
+    return outcome;
+  }
+  fault_.clear();
+  isFromFile_ = true;
   return 0;
 }
 
@@ -111,8 +133,8 @@ int SettingsFile::applyLine(std::string_view line, const std::string& path,
   const std::string_view value = trim(line.substr(sign + 1));
   switch (apply(key, value, modules)) {
     case SettingOutcome::applied: return 0;
-    case SettingOutcome::unknownKey: return 1;
-    case SettingOutcome::badNumber: break;
+    case SettingOutcome::unknownKey: fault_ = faultOfKey(key); return 1;
+    case SettingOutcome::badNumber: fault_ = std::string(key) + ": " + faultOfNumber(value); break;
   }
   for (;;) {
     switch (files_.ask(path, "reading", FileError::typeMismatch, silent)) {
@@ -164,6 +186,10 @@ void SettingsFile::setTemplatePath(std::string_view name) {
   if (!files_.files().isFile(settings_.templatePath)) setTemplateDefaults();
 }
 
+bool SettingsFile::findsTemplate() const {
+  return files_.files().isFile(joinPath(settings_.templateFolder, templateText(settings_)));
+}
+
 std::string SettingsFile::settingsLines() const {
   std::string text;
   const auto addLine = [&](std::string_view key, std::string_view value) {
@@ -174,7 +200,46 @@ std::string SettingsFile::settingsLines() const {
     addLine(field.key, field.key == "templatePath" ? templateText(settings_) : fieldText(field));
   }
   for (const CodeModule* module : settings_.comModules) addLine(kModulesKey, module->Name());
+  for (const std::string& name : leftOut_) {
+    if (!settings_.comModules.contains(name)) text.append("\r").append(kLeftOutMark).append(name);
+  }
   return text;
+}
+
+bool SettingsFile::isLeftOut(std::string_view module) const {
+  return std::any_of(leftOut_.begin(), leftOut_.end(),
+                     [&](const std::string& name) { return equalIgnoringCase(name, module); });
+}
+
+std::vector<CodeModule*> SettingsFile::unlistedModules(VBE& ide) const {
+  return isFromFile_ ? otherModules(ide) : std::vector<CodeModule*>();
+}
+
+std::vector<CodeModule*> SettingsFile::otherModules(VBE& ide) const {
+  std::vector<CodeModule*> others;
+  for (CodeModule* module : codeModules(ide)) {
+    const std::string name = module->Name();
+    if (!settings_.comModules.contains(name) && !isLeftOut(name)) others.push_back(module);
+  }
+  return others;
+}
+
+void SettingsFile::addOtherModules(VBE& ide) {
+  for (CodeModule* module : otherModules(ide)) settings_.comModules.add(module, module->Name());
+}
+
+void SettingsFile::leaveOutOtherModules(VBE& ide) {
+  for (const CodeModule* module : otherModules(ide)) leftOut_.push_back(module->Name());
+}
+
+std::vector<std::string> SettingsFile::notes(VBE& ide) const {
+  if (!fault_.empty()) return {fault_ + "; the defaults hold"};
+  std::vector<std::string> notes;
+  for (const CodeModule* module : unlistedModules(ide)) {
+    notes.push_back("module " + module->Name() + " isn't documented, as " + settingsFilePath(ide) +
+                    " doesn't list it");
+  }
+  return notes;
 }
 
 int SettingsFile::writeSettingsFile(VBE& ide) {

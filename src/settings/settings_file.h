@@ -3,10 +3,14 @@
 // The file is plain text: the header line "#Tamrikon Project Settings#", then a line "key = value"
 // for each key in a fixed order, then a line for each selected module. It is taken whole or not at
 // all: one unknown key or bad number, and every setting has its default.
+//
+// Lines without "=" say nothing to its readers, but for one form: "#left out: NAME" notes that a
+// module isn't among the selected ones on purpose, so that nobody is told of it.
 #pragma once
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/text_files.h"
 #include "settings/project_settings.h"
@@ -45,6 +49,22 @@ class SettingsFile {
   /// The file that the last write kept such a text in; empty if it kept none.
   const std::string& keptAs() const { return keptAs_; }
 
+  /// Why the settings are the defaults though there is a file: its path, the line and what is wrong
+  /// with it. Empty if the file was taken or there is none.
+  const std::string& fault() const { return fault_; }
+
+  /// The modules of the project that the file doesn't select, in the order of the components,
+  /// without those that it says are left out on purpose; none if there is no file.
+  std::vector<CodeModule*> unlistedModules(VBE& ide) const;
+
+  /// Select the modules that are neither selected nor left out on purpose, or note that they are
+  /// left out.
+  void addOtherModules(VBE& ide);
+  void leaveOutOtherModules(VBE& ide);
+
+  /// What to tell of the settings that were read: the fault, or each unlisted module.
+  std::vector<std::string> notes(VBE& ide) const;
+
   /// Sets one field from the text of a settings line. `modules` are the modules that a comModules
   /// line may name; other names are passed over.
   SettingOutcome apply(std::string_view key, std::string_view value,
@@ -52,6 +72,9 @@ class SettingsFile {
 
   /// The code modules of the active project, by name, in the order of its components.
   static KeyedList<CodeModule*> codeModules(VBE& ide);
+
+  /// Whether the next run that reads what would be written now finds the template.
+  bool findsTemplate() const;
 
   /// The lines below the header, divided by CR.
   std::string settingsLines() const;
@@ -61,6 +84,8 @@ class SettingsFile {
   std::string defaultOutputFolder(VBE& ide) const;
 
  private:
+  std::vector<CodeModule*> otherModules(VBE& ide) const;
+  bool isLeftOut(std::string_view module) const;
   int keepUnusable(const std::string& path);
   int applyLine(std::string_view line, const std::string& path,
                 const KeyedList<CodeModule*>& modules, bool silent);
@@ -71,6 +96,9 @@ class SettingsFile {
   const std::string& addInFolder_;
   TextFiles& files_;
   std::string unusable_;  // the file that was there and couldn't be taken
+  std::string fault_;
+  bool isFromFile_ = false;
+  std::vector<std::string> leftOut_;  // modules of the project
   std::string keptAs_;
 };
 

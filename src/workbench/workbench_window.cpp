@@ -138,7 +138,8 @@ void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
 }
 
 void WorkbenchWindow::showWarning(const std::string& line) {
-  messages_.add({toQt(line), nullptr, {}});
+  const QString text = toQt(line);
+  if (messages_.findItems(text, Qt::MatchExactly).isEmpty()) messages_.add({text, nullptr, {}});
   messagesDock_->show();
 }
 

@@ -44,7 +44,10 @@ void WorkbenchWindow::connectParts() {
   connect(&keeper_, &ProjectKeeper::opened, this, &WorkbenchWindow::projectOpened);
   connect(&keeper_, &ProjectKeeper::closing, this, &WorkbenchWindow::projectClosing);
   connect(&keeper_, &ProjectKeeper::closed, this, &WorkbenchWindow::showState);
-  connect(&keeper_, &ProjectKeeper::saved, this, &WorkbenchWindow::showState);
+  connect(&keeper_, &ProjectKeeper::saved, this, [this] {
+    showState();
+    for (const std::string& warning : ide()->takeSaveWarnings()) showWarning(warning);
+  });
   connect(&diskChanges_, &DiskChanges::reopenWanted, this, &WorkbenchWindow::reopenProject);
   connect(&diskChanges_, &DiskChanges::reloaded, &explorer_, &ProjectExplorer::refresh);
   connect(&tabs_, &CodeTabs::frontChanged, this, &WorkbenchWindow::frontChanged);

@@ -167,6 +167,16 @@ TEST_F(ConnectionTest, ModesDecideWhatIsShownAtOnce) {
   connectIn(ConnectMode::startup);  // never does
 }
 
+TEST_F(ConnectionTest, ShowsWhyTheSettingsOfAProjectAreTheDefaults) {
+  const std::string path = folder_.put("One.tamrik", "#Tamrikon Project Settings#\naddSe=1\n");
+  openBoth();
+  connectIn(ConnectMode::startup);
+  ASSERT_EQ(ide_->warnings.size(), 1U);
+  EXPECT_EQ(ide_->warnings.front(), "warning: " + path +
+                                        ", line 2: there is no setting 'addSe' (did you mean "
+                                        "'addSee'?); the defaults hold");
+}
+
 TEST_F(ConnectionTest, ItsOwnerMayLetGoOfItWhileItIsAtWork) {
   openBoth();
   for (const bool compiles : {false, true}) {
