@@ -61,6 +61,21 @@ TEST_F(CommandTest, GroupCompileUsesEachProjectsSettingsAndLeavesTheWindowsAsThe
   }
 }
 
+TEST_F(CommandTest, GroupCompileTellsTheHostOfPagesThatWereWrittenOver) {
+  folder_.put("Two.vbp", "Type=Exe\nName=\"one\"\nClass=CTwo; CTwo.cls\n");
+  folder_.put("Two.tamrik", folder_.get("One.tamrik"));
+  openBoth();
+  for (int run = 0; run < 2; ++run) {
+    onOptions([](User& user, frmAddIn& dialog) { user.click(dialog.Command14); });
+    toolkit_.onDialog("ProgressDlg",
+                      [&](User& user) { user.click(addIn_->session.progressDlg.OKButton); });
+    ide_->click("Add-Ins", "Tamrikon");
+  }
+  ASSERT_EQ(ide_->warnings.size(), 2U) << "each run by itself";
+  EXPECT_NE(ide_->warnings[1].find("differ in case alone"), std::string::npos);
+  EXPECT_NE(ide_->warnings[1].find("--folders"), std::string::npos);
+}
+
 TEST_F(CommandTest, WithoutAProjectNoItemFails) {
   openBoth();
   ide_->project.reset();
