@@ -131,8 +131,8 @@ TEST_F(FilesTest, ACharacterThatTheFileCannotHoldStopsItsSaveAlone) {
   show("Warehouse").insertSource(QString::fromUtf8("\u4E2D"));
   prompts_.answers = {"OK"};
   trigger("saveAll");
-  EXPECT_TRUE(
-      prompts_.asked.last().contains("Warehouse.cls, line 1, column 3: code page 1252 lacks '中' (U+4E2D)"));
+  EXPECT_TRUE(prompts_.asked.last().contains(
+      "Warehouse.cls, line 1, column 3: code page 1252 lacks '中' (U+4E2D)"));
   EXPECT_TRUE(module("Warehouse").isChanged());
   EXPECT_FALSE(module("StockText").isChanged());
   prompts_.answers = {"Save", "OK"};
