@@ -35,9 +35,9 @@ struct IAddInApplication : IUnknown {
   ~IAddInApplication() = default;
 };
 
-/// {D80B1F36-5A92-4C71-8E0D-3F64B7A2C915}
+/// {26A5D360-BC2D-47F9-8A54-A24670A1D772}
 constexpr IID IID_IAddInApplication = {
-    0xD80B1F36, 0x5A92, 0x4C71, {0x8E, 0x0D, 0x3F, 0x64, 0xB7, 0xA2, 0xC9, 0x15}};
+    0x26A5D360, 0xBC2D, 0x47F9, {0x8A, 0x54, 0xA2, 0x46, 0x70, 0xA1, 0xD7, 0x72}};
 
 struct IAddIn : IUnknown {
   /// `application` answers to IAddInApplication. `addInInst` stands for the add-in with its host

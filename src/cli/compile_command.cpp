@@ -217,6 +217,7 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
   std::unique_ptr<HostIde> ide = openProject(options, terminal);
   times.enter(CompilePhase::other);
   if (!ide) return kFailed;
+  if (options.saves) ide->writeHeldHelpIds();
   Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
   session.runsPrograms = options.runsPrograms;
   session.showsCommands = options.verbose;

@@ -73,7 +73,7 @@ bool store::analyseAndList() {
   for (const WrapperRef& wrapper : wrappers.all) {
     wrapper->needsModule = lists.needsModuleName(*wrapper);
   }
-  compiledList = makeIndex(wrappers);
+  compiledList = makeIndex(wrappers, session_.settings);
   macros.setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(compiledList));
   makeContents(compiledList, macros);
   return true;

@@ -25,7 +25,29 @@ void EditHistory::clear() {
   setSaved();
 }
 
-EditStep& EditHistory::beginEdit(int typedLine) {
+EditSubjects EditHistory::changedSubjects() const {
+  EditSubjects subjects;
+  const auto add = [&](auto first, auto last) {
+    for (; first != last; ++first) subjects |= first->subjects;
+  };
+  if (saved_ == kNever) {
+    subjects.set(EditSubject::code);  // the steps back to it are gone
+    add(done_.begin(), done_.end());
+  } else if (saved_ <= done_.size()) {
+    add(done_.begin() + static_cast<std::ptrdiff_t>(saved_), done_.end());
+  } else {
+    add(undone_.end() - static_cast<std::ptrdiff_t>(saved_ - done_.size()), undone_.end());
+  }
+  return subjects;
+}
+
+EditStep& EditHistory::beginEdit(EditSubject::Value subject, int typedLine) {
+  EditStep& step = openStep(typedLine);
+  step.subjects.set(subject);
+  return step;
+}
+
+EditStep& EditHistory::openStep(int typedLine) {
   if (depth_ > 0 && isGroupStepOpen_) return done_.back();
   undone_.clear();
   if (saved_ > done_.size()) saved_ = kNever;

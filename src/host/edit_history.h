@@ -1,6 +1,7 @@
 // The steps by which a source file was edited, each with what it takes to undo it.
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -42,8 +43,15 @@ struct AttributeChange {
 
 using SourceChange = std::variant<LinesChange, GroupChange, AttributeChange>;
 
+/// What an edit is about: the lines that a person sees, or one of the attributes behind them.
+struct EditSubject {
+  enum Value : std::size_t { code, description, helpContextId };
+};
+using EditSubjects = std::bitset<3>;
+
 struct EditStep {
   std::vector<SourceChange> changes;  // in the order in which they were made
+  EditSubjects subjects;
   std::vector<std::unique_ptr<const std::string>> texts;
   int typedLine = 0;  // the line that all of the step was typed on; 0 for any other step
 
@@ -73,8 +81,11 @@ class EditHistory {
   /// Forgets all steps; the file counts as saved.
   void clear();
 
+  /// What the steps are about that lie between the file and what was read or saved last.
+  EditSubjects changedSubjects() const;
+
   /// The step for the edit that is about to be made. `typedLine` is 0 unless a keystroke makes it.
-  EditStep& beginEdit(int typedLine = 0);
+  EditStep& beginEdit(EditSubject::Value subject, int typedLine = 0);
 
   /// The step that a keystroke on `line` joins, or null.
   EditStep* typingOn(int line);
@@ -87,6 +98,8 @@ class EditHistory {
 
  private:
   static constexpr std::size_t kNever = SIZE_MAX;
+
+  EditStep& openStep(int typedLine);
 
   std::vector<EditStep> done_;
   std::vector<EditStep> undone_;  // the one to redo first is the last

@@ -48,6 +48,10 @@ void HostComponent::setHelpContextID(int id) {
   writableAttributes().setHelpContextID({}, id);
 }
 
+void HostComponent::holdHelpContextID(int id) {
+  writableAttributes().holdHelpContextID({}, id);
+}
+
 MemberAttributes& HostComponent::writableAttributes() const {
   if (!module_) throw IdeError("the component has no code");
   return module_->attributes();

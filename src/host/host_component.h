@@ -35,9 +35,10 @@ class HostComponent final : public VBComponent {
   std::string Description() const override;
   int HelpContextID() const override;
 
-  /// Both fail for a component without code.
+  /// All fail for a component without code.
   void setDescription(const std::string& text) override;
   void setHelpContextID(int id) override;
+  void holdHelpContextID(int id) override;
 
   HostProject& project() const { return project_; }
 

@@ -172,6 +172,10 @@ bool HostIde::isProjectFile(const std::string& path) {
   return equalIgnoringCase(extension, ".vbp") || equalIgnoringCase(extension, ".vbg");
 }
 
+void HostIde::writeHeldHelpIds() {
+  for (const auto& source : sources_.sources()) source->attributes().writeHeldIds();
+}
+
 bool HostIde::hasUnsavedChanges() const {
   const auto isChanged = [](const auto& entry) { return entry->file().isChanged(); };
   const auto& sources = sources_.sources();

@@ -71,6 +71,11 @@ class HostIde final : public VBE {
   /// Whether `path` names a project or a group by its extension.
   static bool isProjectFile(const std::string& path);
 
+  /// From now on, help context IDs that nobody has asked to find in the source get there too: the
+  /// holdHelpContextID() of members and components does as setHelpContextID() does. As long as this
+  /// isn't called, they can be read, but change no file.
+  void writeHeldHelpIds();
+
   bool hasUnsavedChanges() const;
 
   /// Saves each source and project file that has changed. The result is those that couldn't be

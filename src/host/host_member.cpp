@@ -48,6 +48,10 @@ void HostMember::setHelpContextID(int id) {
   module_.attributes().setHelpContextID(owner(), id);
 }
 
+void HostMember::holdHelpContextID(int id) {
+  module_.attributes().holdHelpContextID(owner(), id);
+}
+
 int HostMembers::Count() const {
   module_.analysis();
   return static_cast<int>(current_.size());

@@ -29,6 +29,7 @@ class HostMember final : public Member {
   void setDescription(const std::string& text) override;
   int HelpContextID() const override;
   void setHelpContextID(int id) override;
+  void holdHelpContextID(int id) override;
 
  private:
   friend class HostMembers;

@@ -80,6 +80,9 @@ class HostModule final : public CodeModule {
   /// Whether the source differs from what was read or saved last.
   bool isChanged() const { return file().isChanged(); }
 
+  /// What has changed in it since then.
+  EditSubjects changedSubjects() const { return file().history().changedSubjects(); }
+
   /// Absolute path of the source.
   const std::string& path() const { return source_.path(); }
 

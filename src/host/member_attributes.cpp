@@ -133,6 +133,8 @@ std::string MemberAttributes::description(const AttributeOwner& owner) {
 }
 
 int MemberAttributes::helpContextID(const AttributeOwner& owner) {
+  const auto held = heldIds_.find(owner.name);
+  if (held != heldIds_.end()) return held->second;
   std::string buffer;
   for (const std::uint32_t number : find(owner, Property::helpId)) {
     const int id = readId(parse(joined(file_.attribute(number), buffer)).value);
@@ -147,13 +149,23 @@ void MemberAttributes::setDescription(const AttributeOwner& owner, std::string_v
 }
 
 void MemberAttributes::setHelpContextID(const AttributeOwner& owner, int id) {
+  heldIds_.erase(std::string(owner.name));
   write(owner, Property::helpId, std::to_string(id), id == 0);
+}
+
+void MemberAttributes::holdHelpContextID(const AttributeOwner& owner, int id) {
+  if (writesHeldIds_) {
+    setHelpContextID(owner, id);
+  } else {
+    heldIds_[std::string(owner.name)] = std::max(id, 0);
+  }
 }
 
 void MemberAttributes::write(const AttributeOwner& owner, Property property, std::string_view value,
                              bool isEmpty) {
   const EditGroup group(file_.history());
   const bool isText = property == Property::description;
+  const auto subject = isText ? EditSubject::description : EditSubject::helpContextId;
   const std::vector<std::uint32_t> numbers = find(owner, property);
   std::string key(owner.writtenName);
   if (!key.empty()) key += '.';
@@ -177,11 +189,11 @@ void MemberAttributes::write(const AttributeOwner& owner, Property property, std
     const std::string_view newValue = std::string_view(newLine).substr(valueOffset);
     const bool isSame = isText ? readAttributeText(oldValue) == readAttributeText(newValue)
                                : readId(oldValue) == readId(newValue);
-    if (!isSame) file_.replaceAttribute(number, std::move(newLine));
+    if (!isSame) file_.replaceAttribute(number, std::move(newLine), subject);
   }
   if (!numbers.empty() || isEmpty) return;
   const std::string line = lineWith(std::string(kKeyword) + ' ' + key + " = ");
-  remember(file_.addAttribute(owner.declarationEnd, line), owner.declarationEnd == 0);
+  remember(file_.addAttribute(owner.declarationEnd, line, subject), owner.declarationEnd == 0);
 }
 
 void MemberAttributes::noteCut(const AttributeOwner& owner, std::string_view kept,

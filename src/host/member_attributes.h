@@ -51,6 +51,13 @@ class MemberAttributes {
   int helpContextID(const AttributeOwner& owner);
   void setHelpContextID(const AttributeOwner& owner, int id);
 
+  /// The number is the owner's until another one is set, but the file stays as it is.
+  void holdHelpContextID(const AttributeOwner& owner, int id);
+
+  /// From now on, numbers that are to be held are set.
+  void writeHeldIds() { writesHeldIds_ = true; }
+  void forgetHeldIds() { heldIds_.clear(); }
+
  private:
   enum class Property { name, description, helpId };
   struct Reference {
@@ -73,6 +80,8 @@ class MemberAttributes {
   std::unordered_map<std::string, std::vector<Reference>, CaseInsensitiveHash, CaseInsensitiveEqual>
       byName_;  // the module's own under the empty name
   std::vector<CutDescription> cuts_;
+  std::unordered_map<std::string, int, CaseInsensitiveHash, CaseInsensitiveEqual> heldIds_;
+  bool writesHeldIds_ = false;
 };
 
 }  // namespace tamrikon

@@ -77,11 +77,11 @@ class SourceFile {
   /// The numbers of the attributes behind visible line `line`; those of the head for line 0.
   const std::vector<std::uint32_t>& attributesBehind(int line) const;
   std::string_view attribute(std::uint32_t number) const { return attributes_[number].text; }
-  void replaceAttribute(std::uint32_t number, std::string text);
+  void replaceAttribute(std::uint32_t number, std::string text, EditSubject::Value subject);
 
   /// Adds one behind visible line `line`, before those that stand there, or for line 0 at the end
   /// of the head. Returns its number.
-  std::uint32_t addAttribute(int line, std::string text);
+  std::uint32_t addAttribute(int line, std::string text, EditSubject::Value subject);
 
   /// Whether it differs from what was read or saved last.
   bool isChanged() const { return history_.isChanged(); }

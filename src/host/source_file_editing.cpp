@@ -46,7 +46,7 @@ void SourceFile::setSaved() {
 
 void SourceFile::insertLines(int line, std::string_view text) {
   const SavedStateWatch watch(*this);
-  EditStep& step = history_.beginEdit();
+  EditStep& step = history_.beginEdit(EditSubject::code);
   const std::vector<std::string_view> pieces =
       dividedLines(step.keep(withoutLeadingTabs(text).value_or(std::string(text))));
   std::vector<std::uint32_t> before;  // attributes that come above the first visible line
@@ -78,7 +78,7 @@ void SourceFile::insertLines(int line, std::string_view text) {
 void SourceFile::deleteLines(int first, int count) {
   if (count == 0) return;
   const SavedStateWatch watch(*this);
-  apply(history_.beginEdit(), LinesChange{first, count, {}});
+  apply(history_.beginEdit(EditSubject::code), LinesChange{first, count, {}});
 }
 
 void SourceFile::replaceLines(int first, int count, std::string_view text, EditKind kind) {
@@ -95,7 +95,7 @@ void SourceFile::replaceLines(int first, int count, std::string_view text, EditK
   EditStep* run = isTyped && count == 1 ? history_.typingOn(first) : nullptr;
   if (run != nullptr) return retype(*run, first, text);
 
-  EditStep& step = history_.beginEdit(isTyped ? first : 0);
+  EditStep& step = history_.beginEdit(EditSubject::code, isTyped ? first : 0);
   LinesChange change{first + static_cast<int>(match.prefix), count - static_cast<int>(same), {}};
   if (same < pieces.size()) {
     const char* start = pieces[match.prefix].data();
@@ -159,16 +159,17 @@ void SourceFile::retype(EditStep& step, int line, std::string_view text) {
   observers_.linesChanged(line, 1, 1);
 }
 
-void SourceFile::replaceAttribute(std::uint32_t number, std::string text) {
+void SourceFile::replaceAttribute(std::uint32_t number, std::string text,
+                                  EditSubject::Value subject) {
   const SavedStateWatch watch(*this);
-  EditStep& step = history_.beginEdit();
+  EditStep& step = history_.beginEdit(subject);
   const SourceAttribute attribute{step.keep(std::move(text)), kNoOrigin, attributes_[number].end};
   apply(step, AttributeChange{number, attribute});
 }
 
-std::uint32_t SourceFile::addAttribute(int line, std::string text) {
+std::uint32_t SourceFile::addAttribute(int line, std::string text, EditSubject::Value subject) {
   const SavedStateWatch watch(*this);
-  EditStep& step = history_.beginEdit();
+  EditStep& step = history_.beginEdit(subject);
   const std::uint32_t group =
       line == 0 ? 0 : groupBehind(tails_[static_cast<std::size_t>(line - 1)]);
   const std::uint32_t number =

@@ -21,6 +21,7 @@ std::optional<std::string> Source::reload(FileSystem& files) {
   std::optional<std::string> failure = disk_.read(files, bytes);
   if (failure) return failure;
   ++generation_;
+  attributes_->forgetHeldIds();
   file_->reload(std::move(bytes));
   return std::nullopt;
 }

@@ -51,6 +51,10 @@ class Member {
   virtual void setDescription(const std::string& text) = 0;
   virtual int HelpContextID() const = 0;
   virtual void setHelpContextID(int id) = 0;
+
+  /// The same for a number that nobody has asked to find in the source: an IDE that can may hold it
+  /// in memory alone.
+  virtual void holdHelpContextID(int id) { setHelpContextID(id); }
 };
 
 /// All members of a module, a property being one.
@@ -151,6 +155,10 @@ class VBComponent {
   virtual void setDescription(const std::string& text) = 0;
   virtual int HelpContextID() const = 0;
   virtual void setHelpContextID(int id) = 0;
+
+  /// The same for a number that nobody has asked to find in the source: an IDE that can may hold it
+  /// in memory alone.
+  virtual void holdHelpContextID(int id) { setHelpContextID(id); }
 };
 
 class VBComponents {

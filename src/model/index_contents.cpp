@@ -16,25 +16,26 @@ constexpr std::array<std::string_view, 9> kContentsLists = {
 
 /// Whether a topic of its own serves the wrapper; if not, it takes the help id of the one that
 /// does.
-bool keepsTopic(Wrapper& wrapper) {
+bool keepsTopic(Wrapper& wrapper, const ProjectSettings& settings) {
   if (wrapper.topic == nullptr || wrapper.topic == &wrapper) return true;
   wrapper.helpID = wrapper.topic->helpID;
-  tryStep([&] { wrapper.setIdeHelpContextID(wrapper.helpID); });
+  tryStep([&] { wrapper.setIdeHelpContextID(wrapper.helpID, settings.comContextID); });
   return false;
 }
 
 }  // namespace
 
-std::vector<WrapperRef> makeIndex(const WrapperCollections& wrappers) {
+std::vector<WrapperRef> makeIndex(const WrapperCollections& wrappers,
+                                  const ProjectSettings& settings) {
   std::vector<WrapperRef> result;
   for (const WrapperRef& wrapper : wrappers.all) {
-    if (keepsTopic(*wrapper)) result.push_back(wrapper);
+    if (keepsTopic(*wrapper, settings)) result.push_back(wrapper);
   }
   return result;
 }
 
-void makeSameHelpIDs(const WrapperCollections& wrappers) {
-  for (const WrapperRef& wrapper : wrappers.all) keepsTopic(*wrapper);
+void makeSameHelpIDs(const WrapperCollections& wrappers, const ProjectSettings& settings) {
+  for (const WrapperRef& wrapper : wrappers.all) keepsTopic(*wrapper, settings);
 }
 
 void makeContents(const std::vector<WrapperRef>& compiledList, MacroTable& macros) {

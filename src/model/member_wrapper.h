@@ -17,7 +17,9 @@ class MemberWrapper : public Wrapper {
   std::string ideDescription() const final { return member_.Description(); }
   void setIdeDescription(const std::string& text) final { member_.setDescription(text); }
   int ideHelpContextID() const final { return member_.HelpContextID(); }
-  void setIdeHelpContextID(int id) final { member_.setHelpContextID(id); }
+  void setIdeHelpContextID(int id, bool isKept) final {
+    isKept ? member_.setHelpContextID(id) : member_.holdHelpContextID(id);
+  }
 
  protected:
   MemberWrapper(WrapperKind kind, ModuleSource& source, Member& member)

@@ -50,7 +50,8 @@ void writeIdeDescription(PageContext& context, Wrapper& wrapper) {
   tryStep([&] { helpContextID = wrapper.ideHelpContextID(); });
   tryStep([&] { wrapper.setIdeDescription(text); });
   // An IDE may lose the number when the text is written.
-  if (helpContextID > 0) tryStep([&] { wrapper.setIdeHelpContextID(helpContextID); });
+  if (helpContextID <= 0) return;
+  tryStep([&] { wrapper.setIdeHelpContextID(helpContextID, context.settings.comContextID); });
 }
 
 }  // namespace tamrikon

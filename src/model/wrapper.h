@@ -62,7 +62,9 @@ class Wrapper {
   virtual std::string ideDescription() const = 0;
   virtual void setIdeDescription(const std::string& text) = 0;
   virtual int ideHelpContextID() const = 0;
-  virtual void setIdeHelpContextID(int id) = 0;
+
+  /// `isKept`: the number shall get into the source, where the IDE makes a difference.
+  virtual void setIdeHelpContextID(int id, bool isKept) = 0;
 
  protected:
   Wrapper(WrapperKind kind, ModuleSource& source, std::string name);

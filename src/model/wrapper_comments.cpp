@@ -57,7 +57,8 @@ CommentList WrapperComments::getModuleComment(const ModuleSource& source) {
 
 void WrapperComments::takeHelpId(Wrapper& wrapper) {
   wrapper.helpID = nextHelpId++;
-  if (settings_.comContextID) tryStep([&] { wrapper.setIdeHelpContextID(wrapper.helpID); });
+  if (!settings_.comContextID) return;
+  tryStep([&] { wrapper.setIdeHelpContextID(wrapper.helpID, true); });
 }
 
 bool WrapperComments::prepareComment(Wrapper& wrapper) const {

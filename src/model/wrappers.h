@@ -135,7 +135,10 @@ class Smodule final : public Wrapper {
   std::string ideDescription() const override { return cmo().Parent().Description(); }
   void setIdeDescription(const std::string& text) override { cmo().Parent().setDescription(text); }
   int ideHelpContextID() const override { return cmo().Parent().HelpContextID(); }
-  void setIdeHelpContextID(int id) override { cmo().Parent().setHelpContextID(id); }
+  void setIdeHelpContextID(int id, bool isKept) override {
+    VBComponent& component = cmo().Parent();
+    isKept ? component.setHelpContextID(id) : component.holdHelpContextID(id);
+  }
 };
 
 /// A wrapper for the member, or null if its kind isn't known or, for a property, if its declaration

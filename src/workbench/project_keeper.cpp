@@ -58,23 +58,44 @@ bool ProjectKeeper::isUnsaved(const HostModule& module) const {
 
 /// Asks what to do about changes that aren't saved. Whether the project may be closed.
 bool ProjectKeeper::letGo() {
-  QStringList names;
+  QStringList edited;
+  QStringList written;  // nobody has edited these, but a command has written to them
+  QStringList what;
   for (const HostModule* module : modulesOf(*ide_)) {
     if (!isUnsaved(*module)) continue;
-    const QString note = ide_->isGone(*module) ? " (gone from the disk)" : "";
-    names += toQt(module->path()) + note;
+    const bool isGone = ide_->isGone(*module);
+    const QString name = toQt(module->path()) + (isGone ? " (gone from the disk)" : "");
+    const EditSubjects subjects = module->changedSubjects();
+    if (isGone || subjects.test(EditSubject::code)) {
+      edited += name;
+      continue;
+    }
+    written += name;
+    if (subjects.test(EditSubject::helpContextId)) what += "help context IDs";
+    if (subjects.test(EditSubject::description)) what += "descriptions";
   }
   for (int i = 1; i <= ide_->VBProjects().Count(); ++i) {
     const HostProject& project = ide_->VBProjects().Item(i);
-    if (project.isChanged()) names += toQt(project.FileName());
+    if (!project.isChanged()) continue;
+    written += toQt(project.FileName());
+    what += "the name of the help file";
   }
-  if (names.isEmpty()) return true;
+  if (edited.isEmpty() && written.isEmpty()) return true;
+  what.removeDuplicates();
   enum { save, discard, cancel };
-  const QString text = names.size() == 1
-                           ? QString("Save the changes to this file before it is closed?")
-                           : QString("Save the changes to these %1 files?").arg(names.size());
-  const int answer =
-      prompts_.ask({text, inLines(names), {"&Save", "&Don't Save", "Cancel"}, save, cancel});
+  Question question{"Save the changes to this file before it is closed?",
+                    inLines(edited + written),
+                    {"&Save", "&Don't Save", "Cancel"},
+                    save,
+                    cancel};
+  const qsizetype all = edited.size() + written.size();
+  if (all > 1) question.text = QString("Save the changes to these %1 files?").arg(all);
+  if (!written.isEmpty()) {
+    const QString where =
+        edited.isEmpty() ? QString() : QString(" in %1 of them").arg(written.size());
+    question.text += "\nNothing but " + what.join(" and ") + " has changed" + where + '.';
+  }
+  const int answer = prompts_.ask(question);
   return answer == save ? saveAll() : answer == discard;
 }
 

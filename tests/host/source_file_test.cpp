@@ -149,6 +149,37 @@ TEST(MemberAttributes, FindsThemAgainAfterAnEdit) {
   EXPECT_EQ(saved(file), "c\nb\nAttribute b.VB_HelpID = 3\n");
 }
 
+TEST(MemberAttributes, HoldsNumbersThatNobodyWantsInTheFile) {
+  SourceFile file("a\nAttribute a.VB_HelpID = 1\n", page());
+  MemberAttributes attributes(file);
+  const AttributeOwner a{"a", "a", false, 1};
+  attributes.holdHelpContextID(a, 7);
+  EXPECT_EQ(attributes.helpContextID({"A", "a"}), 7);
+  EXPECT_FALSE(file.isChanged() || file.history().canUndo());
+  attributes.setHelpContextID(a, 1);
+  EXPECT_EQ(attributes.helpContextID(a), 1);
+  attributes.writeHeldIds();
+  attributes.holdHelpContextID(a, 8);
+  EXPECT_EQ(saved(file), "a\nAttribute a.VB_HelpID = 8\n");
+}
+
+TEST(SourceFile, KnowsWhatHasChangedSinceTheLastSave) {
+  SourceFile file("a\n", page());
+  MemberAttributes attributes(file);
+  const auto changed = [&] { return file.history().changedSubjects().to_string(); };
+  attributes.setHelpContextID({"a", "a", false, 1}, 2);
+  EXPECT_EQ(changed(), "100");
+  file.insertLines(1, "b");
+  attributes.setDescription({"a", "a", false, 2}, "c");
+  EXPECT_EQ(changed(), "111");
+  file.setSaved();
+  EXPECT_EQ(changed(), "000");
+  file.undo();
+  EXPECT_EQ(changed(), "010");
+  attributes.setHelpContextID({"a", "a", false, 2}, 3);  // the way back to what is saved is gone
+  EXPECT_EQ(changed(), "101");
+}
+
 TEST(SourceFile, HeadWithoutLineEndGrows) {
   SourceFile file("VERSION 1.0 CLASS", page());
   MemberAttributes attributes(file);

@@ -148,6 +148,7 @@ TEST_F(AddInTest, GroupCompilesFromTheOptionsToTheFinishedPages) {
   });
   choose("Add-Ins", "Tamrikon", steps);
   EXPECT_TRUE(folder_.has("out/Warehouse-Book.html"));
+  EXPECT_FALSE(window_->ide()->hasUnsavedChanges()) << "of numbers that nobody wants in sources";
   EXPECT_TRUE(folder_.has("out/frmDesk.html"));
   EXPECT_TRUE(folder_.has("out/Group+.contents.html")) << "written behind the last project";
   EXPECT_EQ(tabs().windows().size(), 2) << "the code windows are those of before";

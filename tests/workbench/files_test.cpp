@@ -103,10 +103,14 @@ TEST_F(FilesTest, ClosingAsksAboutChanges) {
   open();
   edit("Warehouse");
   edit("DeskMain");
+  module("StockText").Parent().setHelpContextID(7);
   prompts_.answers = {"Cancel"};
   EXPECT_FALSE(window_->close());
-  EXPECT_TRUE(prompts_.asked.last().contains(path("Stock/Warehouse.cls") + '\n' +
-                                             path("Desk/DeskMain.bas")));
+  EXPECT_EQ(fromQt(prompts_.asked.last()),
+            "Save the changes to these 3 files?\nNothing but help context IDs has changed in 1 of "
+            "them.\n" +
+                fromQt(path("Stock/Warehouse.cls") + '\n' + path("Desk/DeskMain.bas") + '\n' +
+                       path("Stock/StockText.bas")));
   prompts_.answers = {"Cancel", "Don't Save"};
   trigger("closeWindow");
   EXPECT_EQ(tabs().count(), 2);
