@@ -25,6 +25,13 @@ class FolderTree final : public Control {
   const std::string& selected() const { return selected_; }
   void select(const std::string& path) { set(selected_, path); }
 
+  /// Folders have come or gone: the tree is read again.
+  void refresh() {
+    ++readings_;
+    changed();
+  }
+  int readings() const { return readings_; }
+
   std::vector<std::string> subfolders(const std::string& path) const { return lister_(path); }
 
   std::function<void()> onSelectionChanged;
@@ -40,6 +47,7 @@ class FolderTree final : public Control {
   Lister lister_;
   std::string root_;
   std::string selected_;
+  int readings_ = 1;
 };
 
 }  // namespace tamrikon

@@ -7,9 +7,14 @@
 
 #include "base/paths.h"
 #include "base/text.h"
+#include "toolkit/toolkit.h"
 
 namespace tamrikon {
 namespace {
+
+std::string childOf(const std::string& folder, const std::string& name) {
+  return endsInSeparator(folder) ? folder + name : folder + "/" + name;
+}
 
 /// As far as the folders of `path` are there below `root`.
 std::string existingPart(const FolderTree& tree, const std::string& root, const std::string& path) {
@@ -22,19 +27,26 @@ std::string existingPart(const FolderTree& tree, const std::string& root, const 
     const std::string name(part);
     const std::vector<std::string> names = tree.subfolders(found);
     if (std::find(names.begin(), names.end(), name) == names.end()) break;
-    found = endsInSeparator(found) ? found + name : found + "/" + name;
+    found = childOf(found, name);
   }
   return found;
 }
 
 }  // namespace
 
-frmBrowseDlg::frmBrowseDlg(Toolkit& toolkit, FolderTree::Lister lister)
+frmBrowseDlg::frmBrowseDlg(Toolkit& toolkit, FolderTree::Lister lister, Maker maker)
     : Dialog(toolkit, "frmBrowseDlg", "Browse For Folder"),
-      FolderTreeview1(*this, "FolderTreeview1", std::move(lister)) {
+      FolderTreeview1(*this, "FolderTreeview1", std::move(lister)),
+      maker_(std::move(maker)) {
   cmdOK.setRole(ButtonRole::default_);
   cmdCancel.setRole(ButtonRole::cancel);
   FolderTreeview1.onSelectionChanged = [this] { BrowseDlg_SelectionChanged(); };
+  cmdNewFolder.onClick = [this] { makeFolder(); };
+  txtNewFolder.onKeyDown = [this](KeyEvent& event) {
+    if (event.key != Key::enter || trim(txtNewFolder.text()).empty()) return;
+    event.handled = true;
+    makeFolder();
+  };
   cmdOK.onClick = [this] {
     selectedFolder_ = FolderTreeview1.selected();
     chosen_ = !selectedFolder_.empty();
@@ -68,14 +80,34 @@ void frmBrowseDlg::BrowseDlg_SelectionChanged() {
   lblPrompt2.setCaption(Prompt2);
 }
 
+void frmBrowseDlg::makeFolder() {
+  const std::string name(trim(txtNewFolder.text()));
+  if (name.empty()) return txtNewFolder.setFocus();
+  const std::string folder = childOf(FolderTreeview1.selected(), name);
+  const bool isName = name.find_first_of("/\\") == std::string::npos && name != "." && name != "..";
+  if (!isName || !maker_(folder)) {
+    toolkit().messageBox({caption(),
+                          isName ? "The folder can't be created:\r\n" + folder
+                                 : "\"" + name + "\" is no name for a folder.",
+                          MessageButtons::ok, MessageIcon::exclamation});
+    return;
+  }
+  txtNewFolder.setText("");
+  FolderTreeview1.refresh();
+  FolderTreeview1.select(folder);
+  BrowseDlg_SelectionChanged();
+  FolderTreeview1.setFocus();
+}
+
 Layout frmBrowseDlg::layout() {
   return column({item(lblPrompt1), item(lblPrompt2), item(FolderTreeview1).sized(50, 16).growing(),
+                 row({item(lblNewFolder), item(txtNewFolder).growing(), item(cmdNewFolder)}),
                  row({space(), item(cmdOK), item(cmdCancel)})});
 }
 
-std::string browseForFolder(Toolkit& toolkit, FolderTree::Lister lister, const std::string& prompt,
-                            const std::string& start) {
-  frmBrowseDlg dialog(toolkit, std::move(lister));
+std::string browseForFolder(Toolkit& toolkit, FolderTree::Lister lister, frmBrowseDlg::Maker maker,
+                            const std::string& prompt, const std::string& start) {
+  frmBrowseDlg dialog(toolkit, std::move(lister), std::move(maker));
   dialog.Prompt1 = prompt;
   dialog.PreSelectedFolder = start;
   dialog.ShowPrompt2 = true;

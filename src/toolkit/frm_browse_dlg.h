@@ -1,6 +1,7 @@
 // The folder chooser.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "toolkit/buttons.h"
@@ -12,7 +13,10 @@ namespace tamrikon {
 
 class frmBrowseDlg final : public Dialog {
  public:
-  frmBrowseDlg(Toolkit& toolkit, FolderTree::Lister lister);
+  /// Makes a folder; false if that fails.
+  using Maker = std::function<bool(const std::string& folder)>;
+
+  frmBrowseDlg(Toolkit& toolkit, FolderTree::Lister lister, Maker maker);
 
   // What the caller sets. The folders are full paths.
   std::string Prompt1;
@@ -31,6 +35,9 @@ class frmBrowseDlg final : public Dialog {
   Label lblPrompt1{*this, "lblPrompt1"};
   Label lblPrompt2{*this, "lblPrompt2"};
   FolderTree FolderTreeview1;
+  Label lblNewFolder{*this, "lblNewFolder", "New folder in it:"};
+  TextBox txtNewFolder{*this, "txtNewFolder"};
+  CommandButton cmdNewFolder{*this, "cmdNewFolder", "Create"};
   CommandButton cmdOK{*this, "cmdOK", "OK"};
   CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
 
@@ -38,13 +45,15 @@ class frmBrowseDlg final : public Dialog {
   Layout layout() override;
   void onLoad() override;
   void BrowseDlg_SelectionChanged();
+  void makeFolder();
 
+  Maker maker_;
   std::string selectedFolder_;
   bool chosen_ = false;
 };
 
 /// Runs the folder chooser over the whole tree; empty if it was cancelled.
-std::string browseForFolder(Toolkit& toolkit, FolderTree::Lister lister, const std::string& prompt,
-                            const std::string& start);
+std::string browseForFolder(Toolkit& toolkit, FolderTree::Lister lister, frmBrowseDlg::Maker maker,
+                            const std::string& prompt, const std::string& start);
 
 }  // namespace tamrikon

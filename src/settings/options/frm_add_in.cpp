@@ -35,7 +35,7 @@ void frmAddIn::addHandlers() {
   }
   outputPage.Command12.onClick = [this] {
     const std::string folder =
-        browseForFolder("Specify the output folder", outputPage.Text8.text());
+        browseForFolder("Specify the output folder", inProject(outputPage.Text8.text()));
     if (!folder.empty()) outputPage.setOutputPath(folder);
   };
   outputPage.Command13.onClick = [this] {
@@ -118,11 +118,32 @@ void frmAddIn::apply() {
   for (const auto& [box, setting] : checkBoxes()) settings.*setting = box.isChecked();
   commentPage.takeUserTags(settings);
   miscPage.take(settings);
+  outputPage.setOutputPath(inProject(copy_.outputPath));
   settings.outputPath = copy_.outputPath;
   settings.templateFolder = copy_.templateFolder;
   settings.templatePath = copy_.templatePath;
   settings.comModules = compilePage.chosenModules();
   tryStep([this] { session_.settingsFile.writeSettingsFile(*VBInstance); });
+  createOutputFolder();
+}
+
+std::string frmAddIn::inProject(const std::string& folder) const {
+  std::string path = folder;
+  if (trim(path).empty()) path = session_.settingsFile.defaultOutputFolder(*VBInstance);
+  if (isAbsolutePath(path)) return path;
+  tryStep([&] {
+    const std::string project = VBInstance->ActiveVBProject().FileName();
+    path = joinPath(folderOf(project), path);
+  });
+  // A path of another system stays as its user writes it.
+  return path.find('\\') == std::string::npos ? session_.files.files().absolute(path) : path;
+}
+
+void frmAddIn::createOutputFolder() {
+  const std::string& folder = session_.settings.outputPath;
+  if (session_.files.files().createFolders(folder) == FileError::none) return;
+  toolkit().messageBox({caption(), "The output folder can't be created:\r\n" + folder,
+                        MessageButtons::ok, MessageIcon::exclamation});
 }
 
 void frmAddIn::requestCompile(bool wholeGroup) {
@@ -142,7 +163,10 @@ std::string frmAddIn::browseForFolder(const std::string& prompt, const std::stri
   const auto subfolders = [&files = session_.files.files()](const std::string& folder) {
     return foldersIn(files, folder);
   };
-  return tamrikon::browseForFolder(toolkit(), subfolders, prompt, start);
+  const auto make = [&files = session_.files.files()](const std::string& folder) {
+    return files.createFolder(folder) == FileError::none;
+  };
+  return tamrikon::browseForFolder(toolkit(), subfolders, make, prompt, start);
 }
 
 std::string frmAddIn::validateTagName(const std::string& text, int index) {

@@ -75,6 +75,13 @@ class frmAddIn final : public Dialog {
   void addHandlers();
   void showProject();
   void apply();
+
+  /// A path that isn't absolute is one from the folder of the project, and an empty one is that of
+  /// the default.
+  std::string inProject(const std::string& folder) const;
+
+  /// Tells of a failure.
+  void createOutputFolder();
   void requestCompile(bool wholeGroup);
 
   Session& session_;

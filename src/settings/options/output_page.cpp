@@ -26,6 +26,7 @@ OutputPage::OutputPage(Dialog& dialog, Session& session, ProjectSettings& copy)
 
 void OutputPage::show() {
   Text9.setText(copy_.templateFolder);
+  listedFolder_ = Text9.text();
   Text8.setText(copy_.outputPath);
   const std::string name(lastName(copy_.templatePath));
   // The separator stays at the end, so that a root remains one.
@@ -45,6 +46,8 @@ void OutputPage::setOutputPath(const std::string& folder) {
 }
 
 void OutputPage::readTemplateFolder() {
+  if (Text9.text() == listedFolder_) return;
+  listedFolder_ = Text9.text();
   Text1.setText("");
   File1.setPath(copy_.templateFolder);
 }

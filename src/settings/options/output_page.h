@@ -30,7 +30,8 @@ class OutputPage {
   void setTemplateFolder(const std::string& folder);
   void setOutputPath(const std::string& folder);
 
-  /// Reads the folder again, and no template is selected then.
+  /// Reads the folder, and no template is selected then. The folder that is shown already stays as
+  /// it is.
   void readTemplateFolder();
 
   Frame Frame5{dialog_, "Frame5", "Template"};
@@ -45,6 +46,8 @@ class OutputPage {
   CommandButton Command12{dialog_, "Command12", "..."};
 
  private:
+  std::string listedFolder_;  // as it stands in Text9
+
   void chooseTemplate();
   void showDescription();
 };

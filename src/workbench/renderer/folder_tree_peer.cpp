@@ -106,7 +106,8 @@ std::string FolderTreePeer::shownSelection() const {
 
 void FolderTreePeer::update() {
   Peer::update();
-  if (widget_->topLevelItemCount() == 0 || shownRoot_ != tree_.root()) {
+  if (shownReading_ != tree_.readings() || shownRoot_ != tree_.root()) {
+    shownReading_ = tree_.readings();
     shownRoot_ = tree_.root();
     widget_->clear();
     if (!shownRoot_.empty()) addFolder(nullptr, shownRoot_, shownRoot_)->setExpanded(true);

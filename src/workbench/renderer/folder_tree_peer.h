@@ -44,6 +44,7 @@ class FolderTreePeer final : public Peer {
   FolderTree& tree_;
   FolderView* widget_;
   std::string shownRoot_;
+  int shownReading_ = 0;
 };
 
 }  // namespace tamrikon

@@ -127,6 +127,9 @@ TEST_F(OutputPageTest, AnotherTemplateIsTakenByAClick) {
   folder_.put("own/notes.txt", "");
   show("Group3", [&](User& user) {
     EXPECT_EQ(page_.File1.selectedText(), "chm.tmkt");
+    user.focus(page_.Text9);  // and leave it
+    user.focus(page_.Text8);
+    EXPECT_EQ(page_.File1.selectedText(), "chm.tmkt");
     EXPECT_EQ(page_.Text1.text(), "first line");
     user.type(page_.Text9, own + "/");
     user.focus(page_.File1);
@@ -151,6 +154,26 @@ TEST_F(OutputPageTest, TemplateThatIsGoneIsToldAndTheDialogWorksOn) {
   });
   EXPECT_EQ(saved("templatePath"), "chm.tmkt");
   EXPECT_TRUE(toolkit_.boxes.empty());
+}
+
+TEST_F(OutputPageTest, OutputFolderThatIsTypedIsMadeFromTheProjectOn) {
+  folder_.put("file", "");
+  for (const auto& [typed, taken] : {std::pair{"docs/api", "docs/api"}, {"", "Tamrik"}}) {
+    show("Group3", [&, typed = typed](User& user) {
+      user.type(page_.Text8, typed);
+      user.click(dialog_.cmdApply);
+      user.click(dialog_.cmdCancel);
+    });
+    EXPECT_EQ(saved("outputPath"), folder_ / taken);
+    EXPECT_TRUE(std::filesystem::is_directory(folder_ / taken));
+  }
+  EXPECT_TRUE(toolkit_.boxes.empty());
+  show("Group3", [&](User& user) {
+    user.type(page_.Text8, "file/x");
+    user.click(dialog_.Command1);
+  });
+  ASSERT_EQ(toolkit_.boxes.size(), 1U);
+  EXPECT_EQ(toolkit_.boxes[0].text, "The output folder can't be created:\r\n" + folder_ / "file/x");
 }
 
 TEST_F(OutputPageTest, FoldersAreChosenInATree) {
