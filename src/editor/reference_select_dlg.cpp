@@ -24,7 +24,10 @@ ReferenceSelectDlg::ReferenceSelectDlg(Session& session, const Wrapper& member,
   ModuleCombo.onClick = ModuleCombo.onLostFocus = [this] { fillMembers(); };
   MembersList.onClick = [this] { enableOK(); };
   MembersList.onDblClick = [this] { pick(); };
-  FileText.onChange = [this] { enableOK(); };
+  FileText.onChange = [this] {
+    if (isOutside()) AbsolutePathCheck.setChecked(true);
+    enableOK();
+  };
   AbsolutePathCheck.onClick = [this] { enableOK(); };
   SelectFileBtn.onClick = [this] { selectFile(); };
   cmdOK.onClick = [this] { pick(); };
@@ -173,7 +176,16 @@ void ReferenceSelectDlg::selectFile() {
       exampleFileChoice("Select Example File", member_, FileText.text(), session_.settings));
   if (!path) return;
   FileText.setText(*path);
+  AbsolutePathCheck.setChecked(isOutside());
   enableOK();
+}
+
+bool ReferenceSelectDlg::isOutside() const {
+  const std::string& file = FileText.text();
+  const auto folder = [this](std::string_view path) {
+    return session_.files.files().absolute(std::string(withoutTrailingSeparator(path)));
+  };
+  return isAbsolutePath(file) && folder(folderOf(file)) != folder(session_.settings.outputPath);
 }
 
 Layout ReferenceSelectDlg::layout() {

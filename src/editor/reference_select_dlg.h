@@ -63,6 +63,9 @@ class ReferenceSelectDlg final : public Dialog {
   void pick();
   void selectFile();
 
+  /// Whether the box names a file by a path that doesn't lead into the output folder itself.
+  bool isOutside() const;
+
   Session& session_;
   const Wrapper& member_;
   std::string listedModule_;  // whose members are listed
