@@ -41,6 +41,12 @@ void CommentParser::setComment(CommentList comment) {
   }
 }
 
+std::vector<std::size_t> CommentParser::tagLines() const {
+  std::vector<std::size_t> lines;
+  for (const TagLine& tagLine : tagLines_) lines.push_back(tagLine.line);
+  return lines;
+}
+
 CommentParser::Entries CommentParser::getParamList() const {
   Entries entries = entriesFor(param);
   for (const TagLine& tagLine : tagLines_) {

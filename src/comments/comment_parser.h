@@ -28,6 +28,9 @@ class CommentParser {
   void setComment(CommentList comment);
   const CommentList& comment() const { return comment_; }
 
+  /// The lines, from 0, that begin a tag.
+  std::vector<std::size_t> tagLines() const;
+
   /// "@see" and "@example": target, CR, label.
   Entries getSeeList() const { return linkEntries(see); }
   Entries getExampleList() const { return linkEntries(example); }

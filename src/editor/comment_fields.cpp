@@ -53,6 +53,21 @@ CommentFields parseIntoFields(const Comment& comment, const ProjectSettings& set
   return fields;
 }
 
+std::vector<CommentLines> commentBlocks(const CommentLines& body, const ProjectSettings& settings) {
+  std::vector<CommentLines> blocks;
+  std::size_t start = 0;
+  std::vector<std::size_t> ends = IndentKeepingParser(body, settings)->tagLines();
+  ends.push_back(body.size());
+  for (const std::size_t end : ends) {
+    if (end > start) {
+      blocks.emplace_back(body.begin() + static_cast<std::ptrdiff_t>(start),
+                          body.begin() + static_cast<std::ptrdiff_t>(end));
+    }
+    start = end;
+  }
+  return blocks;
+}
+
 GeneratedFields parseGeneratedFields(const CommentLines& generatedLines,
                                      const ProjectSettings& settings) {
   const IndentKeepingParser parser(generatedLines, settings);

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "comments/comment_lines.h"
 #include "editor/field_text.h"
@@ -33,6 +34,9 @@ struct CommentFields {
 
 /// Takes body lines apart. Blanks in front of a line stay, whatever the settings say of indents.
 CommentFields parseIntoFields(const Comment& comment, const ProjectSettings& settings);
+
+/// The lines of the description, if there are any, then those of each tag with what continues it.
+std::vector<CommentLines> commentBlocks(const CommentLines& body, const ProjectSettings& settings);
 
 /// What an update takes over from a generated comment.
 struct GeneratedFields {

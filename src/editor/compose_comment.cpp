@@ -7,63 +7,60 @@
 #include "comments/word_wrapper.h"
 
 namespace tamrikon {
-namespace {
 
-class Composer {
- public:
-  explicit Composer(const ProjectSettings& settings) : settings_(settings) {}
-
-  void add(std::string_view text) { addCommentLines(text, lines_, settings_); }
-  void addTag(std::string_view tag, std::string_view text) { add(tagLine(tag, text)); }
-
-  /// Leaves out a text of blanks alone; one of empty lines stays.
-  void addField(std::string_view tag, std::string_view text) {
-    if (!trim(text).empty()) addTag(tag, text);
-  }
-
-  void addLinks(std::string_view tag, const FieldList& links) {
+std::vector<FieldItem> fieldItems(const CommentFields& fields, const ProjectSettings& settings) {
+  std::vector<FieldItem> items;
+  const auto add = [&](std::string tag, const std::string& value, std::string text) {
+    items.push_back({std::move(tag), value, std::move(text)});
+  };
+  // Leaves out a text of blanks alone; one of empty lines stays.
+  const auto addField = [&](std::string tag, const std::string& text) {
+    if (!trim(text).empty()) add(std::move(tag), text, text);
+  };
+  const auto addLinks = [&](const char* tag, const FieldList& links) {
     for (const std::string& item : links) {
       const LinkAndLabel parts = splitLinkItem(item);
-      addTag(tag, parts.link + " " + parts.label);
+      add(tag, item, parts.link + " " + parts.label);
     }
-  }
-
-  CommentLines take() { return std::move(lines_); }
-
- private:
-  const ProjectSettings& settings_;
-  CommentLines lines_;
-};
-
-}  // namespace
-
-CommentLines composeComment(const CommentFields& fields, const ProjectSettings& settings) {
-  Composer comment(settings);
-  comment.add(fields.description);
-  comment.addField("@rem", fields.remarks);
+  };
+  if (!fields.description.empty()) add("", fields.description, fields.description);
+  addField("@rem", fields.remarks);
   for (const std::string& item : fields.parameters) {
-    comment.addTag("@param", itemName(item) + " " + parameterText(item));
+    add("@param", item, itemName(item) + " " + parameterText(item));
   }
   for (const FieldList& list : fields.settingsLists) {
     for (const std::string& item : list) {
       const SettingRow row = settingRow(item);
-      comment.addTag("@set", join({row.begin(), row.end()}, " "));
+      add("@set", item, join({row.begin(), row.end()}, " "));
     }
   }
-  comment.addField("@return", fields.returns);
-  comment.addField("@author", fields.author);
-  comment.addField("@version", fields.version);
-  comment.addField("@revision", fields.revision);
-  if (!trim(fields.includeSource).empty()) comment.add("@includesource yes");
+  addField("@return", fields.returns);
+  addField("@author", fields.author);
+  addField("@version", fields.version);
+  addField("@revision", fields.revision);
+  if (!trim(fields.includeSource).empty()) add("@includesource", fields.includeSource, "yes");
   for (std::size_t i = 0; i < fields.user.size(); ++i) {
-    comment.addField("@" + settings.userName[i], fields.user[i]);
+    addField("@" + settings.userName[i], fields.user[i]);
   }
-  comment.addLinks("@see", fields.seeList);
-  comment.addLinks("@example", fields.exampleList);
-  comment.addField("@same", fields.sameAs);
-  CommentLines lines = comment.take();
+  addLinks("@see", fields.seeList);
+  addLinks("@example", fields.exampleList);
+  addField("@same", fields.sameAs);
+  return items;
+}
+
+CommentLines composeItem(const FieldItem& item, const ProjectSettings& settings) {
+  CommentLines lines;
+  addCommentLines(item.tag.empty() ? item.text : tagLine(item.tag, item.text), lines, settings);
   if (settings.wordWrapLength <= 0) return lines;
   return WordWrapper().makeWordWrapping(lines, settings.wordWrapLength);
+}
+
+CommentLines composeComment(const CommentFields& fields, const ProjectSettings& settings) {
+  CommentLines lines;
+  for (const FieldItem& item : fieldItems(fields, settings)) {
+    for (std::string& line : composeItem(item, settings)) lines.push_back(std::move(line));
+  }
+  return lines;
 }
 
 void addCommentLines(std::string_view text, CommentLines& lines, const ProjectSettings& settings) {

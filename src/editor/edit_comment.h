@@ -3,11 +3,13 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "compiler/session.h"
 #include "editor/comment_fields.h"
 #include "editor/edited_comment.h"
 #include "editor/field_boxes.h"
+#include "editor/field_origins.h"
 #include "editor/parameters_page.h"
 #include "editor/references_page.h"
 #include "editor/text_pages.h"
@@ -53,14 +55,32 @@ class EditComment final : public Dialog {
   Layout layout() override;
   void onLoad() override;
 
+  void onKeyDown(KeyEvent& event) override;
+  bool onQueryClose() override;
+
   void load();
   void fillControls();
+  void takeBoxes();
   CommentLines composeComment();
-  void apply();
+
+  /// False if the user doesn't want what it would do.
+  bool apply();
+
+  /// Shows the lines that would be lost, if there are any; whether the user agrees.
+  bool mayLose();
+
+  /// Whether the user has changed a field since the comment was read or written.
+  bool isChanged();
+
+  /// Asks what to do with changes; whether the dialog may close.
+  bool letGo();
   void showOptions();
 
   Session& session_;
   std::unique_ptr<EditedComment> edited_;
+  FieldOrigins origins_;
+  std::vector<FieldItem> unchanged_;
+  bool laysOutAll_ = false;  // the user has chosen another layout
 };
 
 }  // namespace tamrikon

@@ -27,6 +27,14 @@ WrapperRef wrapperOver(ModuleSource& source, const Wrapper& wrapper) {
   return nullptr;
 }
 
+/// The words of a marker line, which begins with a quote and two stars.
+std::string_view headlineOf(std::string_view marker) {
+  constexpr std::string_view kOrnaments = "'*-=_#~+ \t";
+  const std::size_t first = marker.find_first_not_of(kOrnaments);
+  if (first == std::string_view::npos) return {};
+  return marker.substr(first, marker.find_last_not_of(kOrnaments) - first + 1);
+}
+
 }  // namespace
 
 EditedComment::EditedComment(CodeModule& module, int line, const ProjectSettings& settings)
@@ -43,16 +51,21 @@ EditedComment::EditedComment(CodeModule& module, int line, const ProjectSettings
   }
   hadComment_ = member_->hadComment;
   commentLines_ = hadComment_ ? stripCommentQuotes(*raw)->lines() : generatedLines_;
+  if (const auto range = hadComment_ ? findRange() : std::nullopt) {
+    headline_ = headlineOf(source_->lines().line(range->first));
+  }
+}
+
+std::optional<LineRange> EditedComment::findRange() const {
+  return isModule() ? getModuleCommentRange(source_->lines())
+                    : getCommentRange(source_->lines(), member_->CodeLocation());
 }
 
 void EditedComment::replace(CommentLines lines, const EditGrouping& group) {
   refresh();
   const int codeLocation = member_->CodeLocation();
   std::optional<LineRange> old;
-  if (hadComment_) {
-    old = isModule() ? getModuleCommentRange(source_->lines())
-                     : getCommentRange(source_->lines(), codeLocation);
-  }
+  if (hadComment_) old = findRange();
   const auto edit = [&] { replaceComment(member_->cmo(), old, codeLocation, lines); };
   if (group) {
     group(member_->cmo(), edit);
@@ -60,6 +73,7 @@ void EditedComment::replace(CommentLines lines, const EditGrouping& group) {
     edit();
   }
   hadComment_ = true;
+  headline_.clear();
   commentLines_ = std::move(lines);
   tryStep([this] { refresh(); });
 }

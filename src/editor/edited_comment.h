@@ -3,7 +3,10 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 
+#include "comments/comment_finder.h"
 #include "comments/comment_lines.h"
 #include "ide/ide.h"
 #include "model/wrapper.h"
@@ -28,6 +31,10 @@ class EditedComment {
 
   /// Body lines: those of the source, or the generated ones if there are none.
   const CommentLines& commentLines() const { return commentLines_; }
+
+  /// What stands on the comment's first line behind its mark, without the stars of a banner. It
+  /// belongs to no field, and replace() drops it.
+  const std::string& headline() const { return headline_; }
   const CommentLines& generatedLines() const { return generatedLines_; }
 
   /// Puts `lines` into the source, in place of the comment that is there. Throws IdeError, and the
@@ -36,11 +43,13 @@ class EditedComment {
 
  private:
   void refresh();
+  std::optional<LineRange> findRange() const;
 
   std::unique_ptr<ModuleSource> source_;
   WrapperRef member_;
   bool hadComment_ = false;
   CommentLines commentLines_;
+  std::string headline_;
   CommentLines generatedLines_;
 };
 

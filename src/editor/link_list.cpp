@@ -29,6 +29,10 @@ void LinkList::show() {
   if (list.count() > 0) list.select(0);
 }
 
+void LinkList::fillBoxes() {
+  if (link.text().empty() && label.text().empty()) showSelected();
+}
+
 void LinkList::addLink() {
   if (trim(link.text()).empty()) return;
   append(linkItem(link.text(), label.text()));

@@ -24,6 +24,9 @@ class LinkList {
   /// Shows the field, with the first item selected and empty boxes.
   void show();
 
+  /// Puts the selected item into the boxes, unless they hold something.
+  void fillBoxes();
+
   /// Appends what the boxes hold, unless there is no link.
   void addLink();
 

@@ -1,6 +1,7 @@
 #include "editor/parameter_update.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "base/case_folding.h"
@@ -35,17 +36,36 @@ std::string_view behindHeader(std::string_view current, bool isReturn) {
 
 }  // namespace
 
-void updateParameters(CommentFields& fields, const GeneratedFields& generated) {
-  fields.returns = generated.returns.empty() ? std::string()
-                                             : mergeHeader(fields.returns, generated.returns, true);
+CommentFields updateParameters(CommentFields& fields, const GeneratedFields& generated) {
+  CommentFields gone;
+  if (generated.returns.empty()) {
+    gone.returns = behindHeader(fields.returns, true);
+    fields.returns.clear();
+  } else {
+    fields.returns = mergeHeader(fields.returns, generated.returns, true);
+  }
   FieldList updated;
+  std::set<std::string> kept;
   for (const std::string& item : generated.parameters) {
     const std::string name = itemName(item);
     const std::string text = textOf(fields.parameters, name);
     updated.push_back(parameterItem(name, mergeHeader(text, parameterText(item), false)));
+    kept.insert(name);
+  }
+  for (const std::string& item : fields.parameters) {
+    if (kept.erase(itemName(item)) > 0) continue;  // a second one of the name goes
+    const std::string text = parameterText(item);
+    const std::string_view own = behindHeader(text, false);
+    if (!trim(own).empty()) gone.parameters.push_back(parameterItem(itemName(item), own));
   }
   fields.parameters = std::move(updated);
+  gone.settingsLists = fields.settingsLists;
   keepSettingsOf(fields.settingsLists, fields.parameters);
+  for (FieldList& table : gone.settingsLists) {
+    if (!table.empty() && findSettings(fields.settingsLists, itemName(table.front())))
+      table.clear();
+  }
+  return gone;
 }
 
 std::string mergeHeader(std::string_view current, std::string_view generated, bool isReturn) {

@@ -10,8 +10,9 @@
 namespace tamrikon {
 
 /// The parameters become those of `generated`, in their order. A parameter that the declaration
-/// doesn't have goes, with its settings.
-void updateParameters(CommentFields& fields, const GeneratedFields& generated);
+/// doesn't have goes, with its settings, and so does the text of a return value that it doesn't
+/// have. Returns what goes so, headers left out, as it would stand in the fields of a comment.
+CommentFields updateParameters(CommentFields& fields, const GeneratedFields& generated);
 
 /// Puts `generated` in place of the header of `current`: "Required. " or "Optional. " unless it
 /// `isReturn`, a type and a full stop, and the default value of an optional parameter. Without

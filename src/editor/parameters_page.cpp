@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "editor/compose_comment.h"
 #include "editor/parameter_update.h"
 
 namespace tamrikon {
@@ -61,7 +62,9 @@ void ParametersPage::take() {
 void ParametersPage::update() {
   fields_.returns = ReturnsText.text();
   take();
-  updateParameters(fields_, parseGeneratedFields(generatedLines, settings_));
+  const CommentFields gone =
+      updateParameters(fields_, parseGeneratedFields(generatedLines, settings_));
+  for (std::string& line : composeComment(gone, settings_)) lost.push_back(std::move(line));
   ReturnsText.setText(fields_.returns);
   show();
 }

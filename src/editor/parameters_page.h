@@ -34,8 +34,9 @@ class ParametersPage {
   /// Takes over what stands in the boxes of the selected parameter.
   void take();
 
-  /// Brings the fields up to date with the declaration.
+  /// Brings the fields up to date with the declaration. What gets lost is added to `lost`.
   void update();
+  CommentLines lost;
 
   Frame ParametersFrame{dialog_, "ParametersFrame", "Parameters"};
   Label ParamLabel{dialog_, "ParamLabel", "Parameter name"};

@@ -33,6 +33,11 @@ void ReferencesPage::show() {
   examples.show();
 }
 
+void ReferencesPage::fillBoxes() {
+  seeAlso.fillBoxes();
+  examples.fillBoxes();
+}
+
 void ReferencesPage::selectSeeAlso() {
   ReferenceSelectDlg picker(session_, edited->member(), seeAlso.link.text());
   picker.initBoth();

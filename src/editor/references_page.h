@@ -27,6 +27,9 @@ class ReferencesPage {
 
   void show();
 
+  /// Shows the selected links, as a click on them would.
+  void fillBoxes();
+
   Frame SeeAlsoFrame{dialog_, "SeeAlsoFrame", "See Also"};
   LinkList seeAlso;
   CommandButton findInterestBtn{dialog_, "findInterestBtn", "Find interesting references",

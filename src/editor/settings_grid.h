@@ -28,6 +28,9 @@ class SettingsGrid {
   /// Puts what an open box holds into its cell and the cells into the fields.
   void commit();
 
+  /// Whether a box is open.
+  bool isEditing() const { return SetGrid.openedBox() != nullptr; }
+
   Label SettingsLabel{dialog_, "SettingsLabel", "Settings"};
   Grid SetGrid{dialog_, "SetGrid", {"Constant Name", "Value", "Description"}};
   TextBox Text1{dialog_, "Text1"};  // over the first two columns

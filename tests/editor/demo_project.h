@@ -12,6 +12,7 @@
 #include "editor/edit_comment.h"
 #include "editor/edit_comment_options.h"
 #include "editor/interest_links.h"
+#include "editor/lost_lines_dlg.h"
 #include "editor/open_comment_editor.h"
 #include "editor/reference_select_dlg.h"
 #include "support/open_project.h"
@@ -55,6 +56,7 @@ class DemoProject : public testing::Test {
 
   static const char* nameOf(EditComment*) { return "EditComment"; }
   static const char* nameOf(EditCommentOptions*) { return "EditCommentOptions"; }
+  static const char* nameOf(LostLinesDlg*) { return "LostLinesDlg"; }
   static const char* nameOf(InterestLinks*) { return "InterestLinks"; }
   static const char* nameOf(ReferenceSelectDlg*) { return "ReferenceSelectDlg"; }
 

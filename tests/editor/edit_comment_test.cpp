@@ -61,18 +61,21 @@ TEST_F(EditCommentTest, WritesTheFieldsBack) {
     user.type(editor.userPage.users[1].text, "x");
     user.press(KeyEvent{Key::tab, true});  // the box still has the focus
   };
+  toolkit_.answers = {MessageAnswer::cancel, MessageAnswer::no};
   edit("Static a", [&](User& user, EditComment& editor) {
     change(user, editor);
     user.press(Key::escape);
+    EXPECT_TRUE(editor.isShown());
+    user.clickCloseBox();
   });
   EXPECT_EQ(source(), before);
   EXPECT_FALSE(folder_.has("Demo.tamrik"));
 
   const std::string written =
       "  '**\n  'Adds an item.\n  '@rem          One\n  'Two\n"
-      "  '@param        key Required. Integer. The key.\n  '@param        item What to add.\n"
-      "  '@set          key A 1 first\n  '@return       True.\n"
-      "  '@includesource yes\n  '@user2        x\n  '@see          Shelf the place\n"
+      "  '@param key  Required. Integer. The key.\n  '@param        item What to add.\n"
+      "  '@set key A 1 first\n  '@return       True.\n"
+      "  '@includesource yes\n  '@user2        x\n  '@see Shelf the place\n"
       "  Public Function Add(";
   std::string after;
   const auto applyAgain = [&](User& user, EditComment& editor) {
@@ -88,7 +91,7 @@ TEST_F(EditCommentTest, WritesTheFieldsBack) {
   EXPECT_EQ(after.find(written), before.find("  '**"));
   EXPECT_EQ(after.substr(after.find("Public Function")),
             before.substr(before.find("Public Function")));
-  EXPECT_EQ(groups, 3);
+  EXPECT_EQ(groups, 1);
   EXPECT_TRUE(folder_.has("Demo.tamrik"));
 }
 
@@ -189,6 +192,61 @@ TEST_F(EditCommentTest, EditsSettingsInTheGrid) {
   EXPECT_NE(source().find(written), std::string::npos) << source();
 }
 
+TEST_F(EditCommentTest, NothingIsLostWithoutAWord) {
+  // What stands above Add, what is done, what is shown as lost, and what is written.
+  struct Case {
+    const char *comment, *remarks, *lost, *written;
+  };
+  const std::string banner = "==== " + std::string(90, '-') + " ====";
+  const std::string wide = banner + "|@rem    " + banner;
+  const std::string rewritten = banner + "|@rem          new";
+  for (const Case& c : {
+           Case{"A.|@author  X|@param    key|   The key.|@author Y|@same .A|@includesource no", "",
+                "", "="},
+           Case{"A.|@author  X|@param    key|   The key.|@author Y|and|@return  z|@author", "new",
+                "@author Y|and",
+                "A.|@rem          new|@param    key|   The key.|@return  z|@author  X"},
+           Case{"@set a A 1|@set b B|@set c  C|@set d D 2 two|@see A  it|@deprecated|@since 2",
+                "new", "@set d D 2 two|@deprecated|@since 2",
+                "@rem          new|@set a A 1|@set b B|@set c  C|@see A  it"},
+           Case{"@same .A|@same .B|@includesource no|@see a[0]   b", "new", "@same .A",
+                "@rem          new|@includesource no|@see a[0]   b|@same .B"},
+           Case{wide.c_str(), "new", "", rewritten.c_str()},
+       }) {
+    SCOPED_TRACE(c.comment);
+    CodeModule& store = module("Store");
+    const int line = lineOf("Public Function Add(");
+    const auto above = [&](const std::string& text) {
+      return "'**\r\n'" + replaceAll(text, "|", "\r\n'");
+    };
+    const int lines = static_cast<int>(split(c.comment, '|').size()) + 1;
+    store.InsertLines(line, above(c.comment));
+    const std::string before = source();
+    edit("Static a", [&](User& user, EditComment& editor) {
+      if (*c.remarks != '\0') user.type(editor.basicPage.RemarksText, c.remarks);
+      if (*c.lost != '\0') {
+        onDialog<LostLinesDlg>([&](User& u, LostLinesDlg& warning) {
+          EXPECT_EQ(warning.LinesText.text(), replaceAll(c.lost, "|", "\r\n"));
+          u.press(Key::escape);
+        });
+        user.click(editor.cmdOK);
+        EXPECT_EQ(source(), before);
+        onDialog<LostLinesDlg>([](User& u, LostLinesDlg& warning) { u.click(warning.WriteBtn); });
+        user.click(editor.cmdApply);  // what it doesn't lose, it needn't show
+      }
+      user.click(editor.cmdOK);
+    });
+    if (c.written == std::string("=")) {
+      EXPECT_EQ(source(), before);
+      store.DeleteLines(line, lines);
+      continue;
+    }
+    const std::string indented = "  " + replaceAll(above(c.written), "\r\n", "\n  ") + "\n";
+    EXPECT_NE(source().find(indented + "  Public Function Add("), std::string::npos) << source();
+    store.DeleteLines(line, static_cast<int>(split(c.written, '|').size()) + 1);
+  }
+}
+
 TEST_F(EditCommentTest, OptionsChangeWhatIsWritten) {
   struct Case {
     int stored;
@@ -220,10 +278,12 @@ TEST_F(EditCommentTest, OptionsChangeWhatIsWritten) {
       u.type(dialog.Text1, "wide");
       u.click(dialog.OKButton);
       EXPECT_TRUE(dialog.isShown());
-      u.type(dialog.Text1, "30");
+      u.type(dialog.Text1, "12");
       u.click(dialog.OKButton);
     });
     user.click(editor.sourcePage.Command1);
+    EXPECT_NE(editor.sourcePage.SourceView.text().find("'Adds an\r\n'item.\r\n"),
+              std::string::npos);
     EXPECT_NE(editor.sourcePage.SourceView.text().find("One$EOL$\r\n'two"), std::string::npos);
     user.click(editor.cmdCancel);
   });

@@ -18,7 +18,7 @@ class ReferencesTest : public test::DemoProject {
     edit(text, [&](User& user, EditComment& editor) {
       user.selectTab(editor.tbsOptions, "Group3");
       script(user, editor.referencesPage);
-      user.press(Key::escape);
+      user.click(editor.cmdCancel);
     });
   }
 };
@@ -27,7 +27,7 @@ TEST_F(ReferencesTest, ListsFollowTheirButtons) {
   editReferences("Static a", [](User& user, ReferencesPage& page) {
     LinkList& see = page.seeAlso;
     EXPECT_EQ(see.list.selectedText(), "Shelf [the place]");
-    EXPECT_EQ(see.link.text(), "");
+    EXPECT_EQ(see.link.text() + "|" + see.label.text(), "Shelf|the place");
     user.type(see.link, "  ");
     user.type(see.label, "red");
     user.click(see.add);  // there is no link
@@ -66,6 +66,7 @@ TEST_F(ReferencesTest, ExamplesAreMadeAndOpened) {
 
 TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
   editReferences("Static a", [this](User& user, ReferencesPage& page) {
+    user.type(page.seeAlso.link, "");
     user.type(page.seeAlso.label, "gone");
     onDialog<ReferenceSelectDlg>([](User& u, ReferenceSelectDlg& picker) {
       EXPECT_EQ(picker.MembersList.count(), 10);
@@ -78,13 +79,15 @@ TEST_F(ReferencesTest, ThePickerServesAllThreeBoxes) {
     user.type(page.examples.label, "kept");
     onDialog<ReferenceSelectDlg>([this](User& u, ReferenceSelectDlg& picker) {
       EXPECT_FALSE(u.canReach(picker.Option1) || u.canReach(picker.cmdOK));
-      toolkit_.files = {"/far/x.txt"};
-      u.click(picker.SelectFileBtn);
-      u.check(picker.AbsolutePathCheck, true);
-      u.press(Key::enter);
+      toolkit_.files = {folder_ / "out/x.txt", folder_ / "out/sub/x.txt"};
+      for (const bool isOutside : {false, true}) {
+        u.click(picker.SelectFileBtn);
+        EXPECT_EQ(picker.AbsolutePathCheck.isChecked(), isOutside);
+      }
+      u.click(picker.cmdOK);
     });
     user.click(page.examples.select);
-    EXPECT_EQ(page.examples.list.items(), (Items{"\"/far/x.txt [kept]"}));
+    EXPECT_EQ(page.examples.list.items(), (Items{"\"" + folder_ / "out/sub/x.txt" + " [kept]"}));
 
     onDialog<ReferenceSelectDlg>([](User& u, ReferenceSelectDlg& picker) {
       EXPECT_FALSE(u.canReach(picker.Option2));

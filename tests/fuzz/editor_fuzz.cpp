@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "editor/compose_comment.h"
 #include "editor/edited_comment.h"
+#include "editor/field_origins.h"
 #include "fuzz/fuzz_target.h"
 #include "fuzz/layout.h"
 #include "fuzz/memory_files.h"
@@ -48,6 +49,11 @@ void fuzz(const std::string& data) {
   for (int line = 1; line <= count; ++line, ++edits) {
     EditedComment edited(module, line, settings);
     const CommentFields fields = parseIntoFields(edited.commentLines(), settings);
+    if (edited.hadComment()) {
+      const FieldOrigins origins(edited.commentLines(), settings);
+      test::demand(origins.compose(fields, settings, false) == edited.commentLines(),
+                   "an unchanged comment doesn't stay");
+    }
     edited.replace(composeComment(fields, settings), group);
     test::demand(codeOf(module) == code, "a comment isn't all that changes");
     CommentLines lines = edited.commentLines();
