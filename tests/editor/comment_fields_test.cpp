@@ -83,10 +83,14 @@ TEST(ParameterUpdate, FollowsTheDeclaration) {
                        "B\r\nanother case"};
   fields.settingsLists = {FieldList{"old\r\nA\r\n1\r\n"}, FieldList{"b\r\nA\r\n1\r\n"},
                           FieldList{"B\r\nA\r\n1\r\n"}};
-  updateParameters(fields, {{"new\r\nRequired. Long.", "b\r\nRequired. Byte."}, ""});
+  const CommentFields gone =
+      updateParameters(fields, {{"new\r\nRequired. Long.", "b\r\nRequired. Byte."}, ""});
   EXPECT_EQ(fields.returns, "");
   EXPECT_EQ(fields.parameters, (FieldList{"new\r\nRequired. Long.", "b\r\nRequired. Byte. kept"}));
   EXPECT_EQ(fields.settingsLists, (SettingTables{FieldList{"b\r\nA\r\n1\r\n"}, {}, {}}));
+  EXPECT_EQ(join(composeComment(gone, layoutOf(0, 0)), "|"),
+            "@param        old  gone|@param        B another case|@set          old A 1 |"
+            "@set          B A 1 |@return        x");
 }
 
 TEST(SettingTables, TheLastThatWasStoredStandsFirst) {
