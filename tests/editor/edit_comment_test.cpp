@@ -1,6 +1,7 @@
 #include "editor/edit_comment.h"
 
 #include "editor/demo_project.h"
+#include "editor/lines.h"
 
 namespace tamrikon {
 namespace {
@@ -193,40 +194,19 @@ TEST_F(EditCommentTest, EditsSettingsInTheGrid) {
 }
 
 TEST_F(EditCommentTest, NothingIsLostWithoutAWord) {
-  // What stands above Add, what is done, what is shown as lost, and what is written.
-  struct Case {
-    const char *comment, *remarks, *lost, *written;
-  };
-  const std::string banner = "==== " + std::string(90, '-') + " ====";
-  const std::string wide = banner + "|@rem    " + banner;
-  const std::string rewritten = banner + "|@rem          new";
-  for (const Case& c : {
-           Case{"A.|@author  X|@param    key|   The key.|@author Y|@same .A|@includesource no", "",
-                "", "="},
-           Case{"A.|@author  X|@param    key|   The key.|@author Y|and|@return  z|@author", "new",
-                "@author Y|and",
-                "A.|@rem          new|@param    key|   The key.|@return  z|@author  X"},
-           Case{"@set a A 1|@set b B|@set c  C|@set d D 2 two|@see A  it|@deprecated|@since 2",
-                "new", "@set d D 2 two|@deprecated|@since 2",
-                "@rem          new|@set a A 1|@set b B|@set c  C|@see A  it"},
-           Case{"@same .A|@same .B|@includesource no|@see a[0]   b", "new", "@same .A",
-                "@rem          new|@includesource no|@see a[0]   b|@same .B"},
-           Case{wide.c_str(), "new", "", rewritten.c_str()},
-       }) {
-    SCOPED_TRACE(c.comment);
-    CodeModule& store = module("Store");
-    const int line = lineOf("Public Function Add(");
-    const auto above = [&](const std::string& text) {
-      return "'**\r\n'" + replaceAll(text, "|", "\r\n'");
-    };
-    const int lines = static_cast<int>(split(c.comment, '|').size()) + 1;
-    store.InsertLines(line, above(c.comment));
+  const std::string declaration = "  Public Function Add(";
+  CodeModule& store = module("Store");
+  const int line = lineOf(declaration);
+  for (test::TextCase& c : test::casesIn("lost-lines.txt")) {
+    SCOPED_TRACE(c["name"]);
+    const std::string comment = "'**" + c["headline"] + "|'" + replaceAll(c["comment"], "|", "|'");
+    store.InsertLines(line, replaceAll(comment, "|", "\r\n"));
     const std::string before = source();
     edit("Static a", [&](User& user, EditComment& editor) {
-      if (*c.remarks != '\0') user.type(editor.basicPage.RemarksText, c.remarks);
-      if (*c.lost != '\0') {
+      if (!c["remarks"].empty()) user.type(editor.basicPage.RemarksText, c["remarks"]);
+      if (!c["lost"].empty()) {
         onDialog<LostLinesDlg>([&](User& u, LostLinesDlg& warning) {
-          EXPECT_EQ(warning.LinesText.text(), replaceAll(c.lost, "|", "\r\n"));
+          EXPECT_EQ(warning.LinesText.text(), replaceAll(c["lost"], "|", "\r\n"));
           u.press(Key::escape);
         });
         user.click(editor.cmdOK);
@@ -236,14 +216,13 @@ TEST_F(EditCommentTest, NothingIsLostWithoutAWord) {
       }
       user.click(editor.cmdOK);
     });
-    if (c.written == std::string("=")) {
+    const std::string written = "  '**\n  '" + replaceAll(c["written"], "|", "\n  '") + "\n";
+    if (c["written"].empty()) {
       EXPECT_EQ(source(), before);
-      store.DeleteLines(line, lines);
-      continue;
+    } else {
+      EXPECT_NE(source().find(written + declaration), std::string::npos) << source();
     }
-    const std::string indented = "  " + replaceAll(above(c.written), "\r\n", "\n  ") + "\n";
-    EXPECT_NE(source().find(indented + "  Public Function Add("), std::string::npos) << source();
-    store.DeleteLines(line, static_cast<int>(split(c.written, '|').size()) + 1);
+    store.DeleteLines(line, lineOf(declaration) - line);
   }
 }
 
