@@ -142,9 +142,23 @@ void CodePage::appendDecoded(std::string& text, std::string_view bytes, std::siz
   ++offset;
 }
 
-bool CodePage::appendEncoded(std::string& bytes, char32_t codePoint) const {
-  const auto found = bytesOf_.find(codePoint);
+/// Whether a lead byte without its second one would get it from the text that follows.
+bool CodePage::swallows(unsigned byte, std::string_view rest) const {
+  if (!isDoubleByte_ || single_[byte] != 0 || rest.empty()) return false;
+  unsigned next = byteAt(rest, 0);
+  if (next >= 0x80) {
+    std::size_t offset = 0;
+    const auto found = bytesOf_.find(readCodePoint(rest, offset));
+    if (found == bytesOf_.end()) return false;  // no pair ends in the "?" that stands for it
+    next = found->second > 0xFF ? found->second >> 8 : found->second;
+  }
+  return pairs_[byte * 256 + next] != 0;
+}
+
+bool CodePage::appendEncoded(std::string& bytes, std::string_view text, std::size_t& offset) const {
+  const auto found = bytesOf_.find(readCodePoint(text, offset));
   if (found == bytesOf_.end()) return false;
+  if (found->second <= 0xFF && swallows(found->second, text.substr(offset))) return false;
   if (found->second > 0xFF) bytes += static_cast<char>(found->second >> 8);
   bytes += static_cast<char>(found->second & 0xFF);
   return true;
@@ -156,7 +170,7 @@ std::string CodePage::encode(std::string_view text) const {
   bytes.reserve(text.size());
   for (std::size_t offset = 0; offset < text.size();) {
     copyAscii(bytes, text, offset);
-    if (offset < text.size() && !appendEncoded(bytes, readCodePoint(text, offset))) bytes += '?';
+    if (offset < text.size() && !appendEncoded(bytes, text, offset)) bytes += '?';
   }
   return bytes;
 }
@@ -170,7 +184,7 @@ std::optional<std::string> CodePage::encodeExactly(std::string_view text,
     copyAscii(bytes, text, offset);
     if (offset == text.size()) break;
     lacking = offset;
-    if (!appendEncoded(bytes, readCodePoint(text, offset))) return std::nullopt;
+    if (!appendEncoded(bytes, text, offset)) return std::nullopt;
   }
   return bytes;
 }

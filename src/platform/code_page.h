@@ -15,7 +15,8 @@ namespace tamrikon {
 /// One of the Windows code pages 1250 to 1258, 874, 932, 936, 949, 950, or 65001 (UTF-8).
 ///
 /// A byte that the page leaves undefined (in a double-byte page also a lead byte without its second
-/// byte) decodes to the control character U+0080 + (byte - 0x80), and encodes back to that byte.
+/// byte) decodes to the control character U+0080 + (byte - 0x80), and encodes back to that byte,
+/// unless that would swallow the byte behind it: then the page lacks the character.
 class CodePage {
  public:
   /// The page of that number, or null if it isn't one of those above. The tables are made on first
@@ -44,7 +45,8 @@ class CodePage {
 
   void fillTables();
   void appendDecoded(std::string& text, std::string_view bytes, std::size_t& offset) const;
-  bool appendEncoded(std::string& bytes, char32_t codePoint) const;
+  bool appendEncoded(std::string& bytes, std::string_view text, std::size_t& offset) const;
+  bool swallows(unsigned byte, std::string_view rest) const;
 
   int number_;
   bool isDoubleByte_ = false;

@@ -46,6 +46,8 @@ TEST(CodePage, TellsCharactersThatItLacks) {
            Case{1251, "\xC3\x80", "?",
                 0},  // À: its number is a byte of the page, for another letter
            Case{949, "x\xF0\x9F\x98\x80", "x?", 1},
+           Case{932, "\u00E0\"\u00E0\\\"", "\xE0\"?\\\"", 3},  // a lead byte and a trail byte
+           Case{932, "\u00E0\u00E0\\x", "??\\x", 0},
        }) {
     const CodePage& page = *CodePage::find(number);
     EXPECT_EQ(page.encode(text), encoded);
