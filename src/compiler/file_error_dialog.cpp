@@ -26,10 +26,16 @@ std::string messageFor(FileError error) {
 
 FileErrorAnswer FileErrorDialog::reportFileError(const std::string& path, std::string_view verb,
                                                  FileError error) {
+  return reportFault(path, verb, error, {});
+}
+
+FileErrorAnswer FileErrorDialog::reportFault(const std::string& path, std::string_view verb,
+                                             FileError error, const std::string& what) {
   const MessageButtons buttons =
       error == FileError::diskFull ? MessageButtons::yesNoCancel : MessageButtons::retryCancel;
   const std::string title = "Error " + std::string(verb) + " " + path + " file";
-  switch (toolkit_.messageBox({title, messageFor(error), buttons})) {
+  const std::string message = messageFor(error) + (what.empty() ? "" : " " + what);
+  switch (toolkit_.messageBox({title, message, buttons})) {
     case MessageAnswer::ok:
     case MessageAnswer::retry:
     case MessageAnswer::yes: return FileErrorAnswer::repeat;

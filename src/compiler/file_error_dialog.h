@@ -14,6 +14,8 @@ class FileErrorDialog final : public FileErrorReporter {
 
   FileErrorAnswer reportFileError(const std::string& path, std::string_view verb,
                                   FileError error) override;
+  FileErrorAnswer reportFault(const std::string& path, std::string_view verb, FileError error,
+                              const std::string& what) override;
 
  private:
   Toolkit& toolkit_;

@@ -8,10 +8,18 @@
 #include "template/expansion_budget.h"
 
 namespace tamrikon {
+namespace {
+
+// Some sentences: a template that runs away mustn't freeze the dialog that lists it.
+constexpr std::size_t kMaxCalls = 10'000;
+constexpr std::size_t kMaxText = std::size_t{1} << 20;
+
+}  // namespace
 
 std::string readTemplateDescription(Session& session, const std::string& path) {
   session.currentStore = std::make_unique<store>(session);
   store& described = *session.currentStore;
+  described.macros.setBudget(ExpansionBudget(kMaxCalls, kMaxText));
   if (described.loadSrc(path, true) != 0) return "Cannot read descriptionfrom " + path + "file.";
   const std::string folder(withoutTrailingSeparator(session.settings.outputPath));
   described.macros.setMacroValue("TAMRIK-PATH", session.addInFolder);

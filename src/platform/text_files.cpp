@@ -6,8 +6,8 @@
 namespace tamrikon {
 
 FileErrorAnswer TextFiles::ask(const std::string& path, std::string_view verb, FileError error,
-                               bool silent) {
-  return silent ? FileErrorAnswer::fail : reporter_.reportFileError(path, verb, error);
+                               bool silent, const std::string& what) {
+  return silent ? FileErrorAnswer::fail : reporter_.reportFault(path, verb, error, what);
 }
 
 void TextFiles::breakLines(std::string_view text) {

@@ -23,6 +23,13 @@ class FileErrorReporter {
   /// running compile.
   virtual FileErrorAnswer reportFileError(const std::string& path, std::string_view verb,
                                           FileError error) = 0;
+
+  /// The same for what the error's own message can't tell: `what` is a sentence about it.
+  virtual FileErrorAnswer reportFault(const std::string& path, std::string_view verb,
+                                      FileError error, const std::string& what) {
+    static_cast<void>(what);
+    return reportFileError(path, verb, error);
+  }
 };
 
 class TextFiles {
@@ -54,7 +61,9 @@ class TextFiles {
   int readTextFile(const std::string& path, bool silent, std::string& text);
 
   /// Asks what to do about a failing step: `fail` at once if `silent` is set.
-  FileErrorAnswer ask(const std::string& path, std::string_view verb, FileError error, bool silent);
+  /// `what` is a sentence about the error, if there is more to tell than its kind.
+  FileErrorAnswer ask(const std::string& path, std::string_view verb, FileError error, bool silent,
+                      const std::string& what = {});
 
   FileSystem& files() { return files_; }
 

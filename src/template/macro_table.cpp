@@ -42,6 +42,7 @@ struct MacroTable::Memory {
   explicit Memory(MessageLog& log) : state(log) {}
 
   ExpansionState state;
+  ExpansionBudget budget;
   bool isCleared = false;
 };
 
@@ -60,10 +61,14 @@ int MacroTable::loadSrc(const std::string& file, bool silent, TextFiles& files) 
   TemplateDefinition definition;
   while (reader.next(definition)) {
     if (addMacro(definition.name, definition.value)) continue;
-    const auto end = endOfLoad(files.ask(file, "reading", FileError::keyExists, silent));
+    const std::string twice = "The macro " + std::string(definition.name) + " is defined on line " +
+                              std::to_string(firstDefinition(text, definition.name)) +
+                              " and again on line " + std::to_string(definition.line) +
+                              "; the first one counts.";
+    const auto end = endOfLoad(files.ask(file, "reading", FileError::keyExists, silent, twice));
     if (end) return *end;
   }
-  if (const auto end = addCharacterMacros(file, silent, files)) return *end;
+  if (const auto end = addCharacterMacros(file, text, silent, files)) return *end;
   state.replaceTable = ReplaceTable();
   if (const MacroSlot* slot = state.slots.findSlot("REPLACE-TABLE")) {
     state.replaceTable = ReplaceTable(parseReplaceMacro(slot->text->text));
@@ -73,13 +78,17 @@ int MacroTable::loadSrc(const std::string& file, bool silent, TextFiles& files) 
 
 /// Adds CHR0 to CHR255. A template that defines one of them makes this fail each time it is tried
 /// again, so the answer alone ends it.
-std::optional<int> MacroTable::addCharacterMacros(const std::string& file, bool silent,
-                                                  TextFiles& files) {
+std::optional<int> MacroTable::addCharacterMacros(const std::string& file, std::string_view text,
+                                                  bool silent, TextFiles& files) {
   for (int code = 0; code <= 255; ++code) {
     const char byte = static_cast<char>(code);
     const std::string character = files.codePage().decode(std::string_view(&byte, 1));
-    while (!addMacro("CHR" + std::to_string(code), character)) {
-      const FileErrorAnswer answer = files.ask(file, "reading", FileError::keyExists, silent);
+    const std::string name = "CHR" + std::to_string(code);
+    while (!addMacro(name, character)) {
+      const std::string taken = "The macro " + name + " is the program's own; line " +
+                                std::to_string(firstDefinition(text, name)) + " defines it.";
+      const FileErrorAnswer answer =
+          files.ask(file, "reading", FileError::keyExists, silent, taken);
       if (const auto end = endOfLoad(answer)) return end;
       if (answer == FileErrorAnswer::goOn) break;
     }
@@ -101,7 +110,7 @@ std::string MacroTable::evaluateMacro(std::string_view macroName, bool isNestedE
   const MacroName* name = memory_->state.slots.find(macroName);
   if (name == nullptr) return asUnknown(macroName);
   if (name->slot->holds == MacroSlot::Holds::list) return std::string(macroName);
-  std::string result = Expansion(memory_->state, *this).evaluate(*name);
+  std::string result = Expansion(memory_->state, *this, memory_->budget).evaluate(*name);
   if (!isNestedEvaluation) undoubleDollars(result);
   return result;
 }
@@ -139,7 +148,7 @@ bool MacroTable::isReadOnlyMacro(std::string_view name) {
 }
 
 std::vector<std::string> MacroTable::parseReplaceMacro(std::string_view macro) {
-  Expansion expansion(memory_->state, *this);
+  Expansion expansion(memory_->state, *this, memory_->budget);
   std::vector<std::string> words;
   for (const std::string_view word : split(macro, ' ')) {
     words.push_back(expansion.expandText(word));
@@ -150,6 +159,10 @@ std::vector<std::string> MacroTable::parseReplaceMacro(std::string_view macro) {
 void MacroTable::clear() {
   memory_->state.slots.unsetAll();
   memory_->isCleared = true;
+}
+
+void MacroTable::setBudget(const ExpansionBudget& budget) {
+  memory_->budget = budget;
 }
 
 void MacroTable::setLinkResolver(LinkResolver* resolver) {

@@ -9,6 +9,7 @@
 
 #include "base/message_log.h"
 #include "platform/text_files.h"
+#include "template/expansion_budget.h"
 #include "template/link_resolver.h"
 #include "template/macro_list.h"
 
@@ -60,6 +61,9 @@ class MacroTable {
   /// From here to the next loadSrc() every macro is unknown and none can be set.
   void clear();
 
+  /// What each call may do from now on.
+  void setBudget(const ExpansionBudget& budget);
+
   /// Who resolves the links of list items; must outlive its use. Null: links lead nowhere.
   void setLinkResolver(LinkResolver* resolver);
 
@@ -68,7 +72,8 @@ class MacroTable {
 
  private:
   bool addMacro(std::string_view name, std::string_view text);
-  std::optional<int> addCharacterMacros(const std::string& file, bool silent, TextFiles& files);
+  std::optional<int> addCharacterMacros(const std::string& file, std::string_view text, bool silent,
+                                        TextFiles& files);
 
   struct Memory;
   std::unique_ptr<Memory> memory_;

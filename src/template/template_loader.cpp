@@ -2,11 +2,19 @@
 
 #include <utility>
 
+#include "base/case_folding.h"
 #include "base/text.h"
 #include "platform/text_decoding.h"
 #include "template/macro_scanner.h"
 
 namespace tamrikon {
+namespace {
+
+struct NoLog final : MessageLog {
+  void logMessage(const std::string&) override {}
+};
+
+}  // namespace
 
 TemplateReader::TemplateReader(std::string_view text, std::string file, MessageLog& log)
     : lines_(splitLines(text)), file_(std::move(file)), log_(log) {}
@@ -19,6 +27,7 @@ bool TemplateReader::next(TemplateDefinition& definition) {
     const std::string_view tag = line.substr(0, parsed.length());
     if (!parsed.isClosed) log_.logMessage(wrongNameWarning(tag));
     definition.name = parsed.name;
+    definition.line = nextLine_;
     if (parsed.name.starts_with("tamrik-")) return readBody(tag.substr(1), definition.value);
     definition.value = trimLeading(line.substr(tag.size()));
     return true;
@@ -43,6 +52,16 @@ bool TemplateReader::readBody(std::string_view tag, std::string& body) {
   log_.logMessage("ERROR (config file): Error in configuration file " + file_ + " on line " +
                   std::to_string(openingLine) + ". Terminating tag " + terminator + " missing.");
   return false;
+}
+
+std::size_t firstDefinition(std::string_view text, std::string_view name) {
+  NoLog log;
+  TemplateReader reader(text, {}, log);
+  TemplateDefinition definition;
+  while (reader.next(definition)) {
+    if (equalIgnoringCase(definition.name, name)) return definition.line;
+  }
+  return 0;
 }
 
 }  // namespace tamrikon

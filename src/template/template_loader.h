@@ -14,6 +14,7 @@ namespace tamrikon {
 struct TemplateDefinition {
   std::string_view name;
   std::string value;
+  std::size_t line = 0;  // where it begins, from 1
 };
 
 /// Hands out the definitions of a template from top to bottom. Faults are logged as they are met.
@@ -33,5 +34,8 @@ class TemplateReader {
   std::string file_;
   MessageLog& log_;
 };
+
+/// The line of the first definition of `name`, whose case doesn't matter; 0 if `text` has none.
+std::size_t firstDefinition(std::string_view text, std::string_view name);
 
 }  // namespace tamrikon

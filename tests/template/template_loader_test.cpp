@@ -17,6 +17,12 @@ struct Reporter : FileErrorReporter {
     errors.push_back(error);
     return repeats-- > 0 ? FileErrorAnswer::repeat : FileErrorAnswer::giveUp;
   }
+  FileErrorAnswer reportFault(const std::string& path, std::string_view verb, FileError error,
+                              const std::string& what) override {
+    said = what;
+    return reportFileError(path, verb, error);
+  }
+  std::string said;
   int repeats = 1'000'000;
   std::vector<FileError> errors;
 };
@@ -103,10 +109,14 @@ TEST_F(LoadSrc, NamesDefinedTwiceAreFailures) {
   EXPECT_EQ(load(twice, false), 0);  // Retry goes on with the next definition
   EXPECT_EQ(body("A") + body("B") + body("CHR65"), "13A");
   EXPECT_EQ(reporter_.errors, std::vector{FileError::keyExists});
+  EXPECT_EQ(reporter_.said,
+            "The macro a is defined on line 1 and again on line 2; the first one counts.");
 
   reporter_.repeats = 0;
   EXPECT_EQ(load(twice, false), 2);
   EXPECT_EQ(load("$CHR65$ a"), 3);
+  EXPECT_EQ(load("\n$chr65$ a", false), 2);
+  EXPECT_EQ(reporter_.said, "The macro CHR65 is the program's own; line 2 defines it.");
 }
 
 TEST_F(LoadSrc, MissingFileForgetsTheOldTemplate) {
