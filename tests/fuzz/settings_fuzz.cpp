@@ -1,5 +1,6 @@
 // A settings file: loaded or refused, and if it's loaded, saved so that loading it again gives the
 // same.
+#include "base/paths.h"
 #include "fuzz/fuzz_target.h"
 #include "fuzz/memory_files.h"
 #include "host/host_ide.h"
@@ -46,7 +47,8 @@ void fuzz(const std::string& data) {
                "what couldn't be taken is lost");
 
   // A template that stands before its folder is looked for in the one before.
-  if (!settings.templatePath.starts_with(settings.templateFolder)) return;
+  const std::string folder = joinPath(withoutTrailingSeparator(settings.templateFolder), "");
+  if (!settings.templatePath.starts_with(folder)) return;
   ProjectSettings again;
   SettingsFile second(again, kData, files);
   test::demand(second.readProjectSettings(*ide), "what was saved is refused");
