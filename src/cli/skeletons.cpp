@@ -53,6 +53,8 @@ Skeleton skeletonOf(const Wrapper& wrapper, std::string name, const ProjectSetti
   // A declaration can begin on a line that continues another statement.
   skeleton.line = wrapper.source().lines().statementStartLine(wrapper.CodeLocation());
   skeleton.comment = withoutBlanksAtEnds(wrapper.generateComment(settings));
+  // In a comment the IDE's description is read by a template, for which a "$" calls a macro.
+  skeleton.comment.front() = doubleDollars(skeleton.comment.front());
   return skeleton;
 }
 
