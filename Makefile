@@ -41,7 +41,7 @@ sanitize:
 # Each fuzz target for so many seconds. What it finds is left in build/fuzz, with its log. (A template
 # may use up all the calls that an expansion has, which takes its time here.)
 SECONDS ?= 60
-FUZZERS = template comment declaration source settings editor project
+FUZZERS = template comment declaration source settings editor project markup
 fuzz:
 	@scripts/install_packages.sh build test fuzz
 	cmake --preset fuzz

@@ -37,6 +37,9 @@ class Comment {
   CommentLines lines() const { return {lines_.begin(), lines_.end()}; }
   const std::shared_ptr<const void>& memory() const { return memory_; }
 
+  /// Whether nobody wrote it: it was made of a declaration and the IDE's description.
+  bool isGenerated = false;
+
  private:
   std::shared_ptr<const void> memory_;
   std::vector<std::string_view> lines_;

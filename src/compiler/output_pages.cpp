@@ -68,7 +68,7 @@ void OutputPages::putPage(std::string_view progress, std::string_view extensionM
 }
 
 void OutputPages::setProjectName() {
-  store_.macros.setMacroValue("PROJECT-NAME", projectName_);
+  store_.macros.setProjectText("PROJECT-NAME", projectName_);
 }
 
 bool OutputPages::groupPages() {

@@ -1,5 +1,6 @@
 #include "compiler/store.h"
 
+#include "base/case_folding.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "compiler/output_pages.h"
@@ -28,7 +29,10 @@ PageContext store::pageContext() {
   PageContext context{macros, parser_, session_.settings, wrappers, lists, {}};
   // The table ignores case, so that the names need no capitals.
   for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {
-    context.userTagMacros[tag] = "MEMBER-" + session_.settings.userName[tag];
+    std::string macro = "MEMBER-" + session_.settings.userName[tag];
+    // That one is no text: it is part of the names of files, and of links to them.
+    if (macros.limitsComments() && equalIgnoringCase(macro, "MEMBER-EXT")) macro.clear();
+    context.userTagMacros[tag] = std::move(macro);
   }
   return context;
 }
@@ -106,7 +110,7 @@ void store::publishPaths() {
   publish("TEMPLATE-PATH", settings.templateFolder);
   publish("OUTPUT-PATH", settings.outputPath);
   settings.outputPath = joinPath(withoutTrailingSeparator(settings.outputPath), "");
-  macros.setMacroValue("TITLE-PAGE-TEXT", settings.titlePageText);
+  macros.setCommentText("TITLE-PAGE-TEXT", settings.titlePageText);
 }
 
 void store::publishGroup(VBE& ide) {

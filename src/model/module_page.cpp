@@ -11,11 +11,11 @@ std::string Smodule::compile(PageContext& context) {
   macros.setMacroValue("PROPS-LINK-LIST", context.lists.getPropsList(*this));
   macros.setMacroValue("METHODS-LINK-LIST", context.lists.getMethodsList(*this));
   macros.setMacroValue("EVENTS-LINK-LIST", context.lists.getEventsList(*this));
-  macros.setMacroValue("SEE-LINK-LIST", macroList(parser.getSeeList()));
+  macros.setMacroValue("SEE-LINK-LIST", macroList(context, parser.getSeeList()));
   macros.setMacroValue("PARAM-LIST", "");
-  macros.setMacroValue("EXAMPLE-LINK-LIST", macroList(parser.getExampleList()));
-  macros.setMacroValue("MEMBER-DESCRIPTION", parser.getDescription());
-  macros.setMacroValue("MEMBER-REMARKS", parser.getRemarks());
+  macros.setMacroValue("EXAMPLE-LINK-LIST", macroList(context, parser.getExampleList()));
+  setCommentText(context, "MEMBER-DESCRIPTION", parser.getDescription());
+  setCommentText(context, "MEMBER-REMARKS", parser.getRemarks());
   macros.setMacroValue("MEMBER-RETURN", "");
   setNameMacros(context, *this);
   setTagMacros(context);

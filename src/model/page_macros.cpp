@@ -6,30 +6,49 @@
 
 namespace tamrikon {
 
-LinkListRef macroList(CommentParser::Entries entries) {
+namespace {
+
+bool isGenerated(const PageContext& context) {
+  const CommentList& comment = context.parser.comment();
+  return comment && comment->isGenerated;
+}
+
+}  // namespace
+
+LinkListRef macroList(const PageContext& context, CommentParser::Entries entries) {
   static const LinkListRef empty = std::make_shared<const MacroList>();
   if (entries.empty()) return empty;
-  return std::make_shared<const MacroList>(MacroList{std::move(entries)});
+  return std::make_shared<const MacroList>(MacroList{std::move(entries), {}, isGenerated(context)});
+}
+
+void setCommentText(PageContext& context, std::string_view macro, std::string_view text) {
+  if (isGenerated(context)) {
+    context.macros.setProjectText(macro, text);
+  } else {
+    context.macros.setCommentText(macro, text);
+  }
 }
 
 void setNameMacros(PageContext& context, const Wrapper& wrapper) {
   const std::string& module = wrapper.source().name();
-  context.macros.setMacroValue("MEMBER-NAME", wrapper.name());
-  context.macros.setMacroValue("MEMBER-MODULE", module);
-  context.macros.setMacroValue("MEMBER-FILE", module + "-" + wrapper.name());
+  context.macros.setProjectText("MEMBER-NAME", wrapper.name());
+  context.macros.setProjectText("MEMBER-MODULE", module);
+  context.macros.setProjectText("MEMBER-FILE", module + "-" + wrapper.name());
 }
 
 void setTagMacros(PageContext& context) {
   MacroTable& macros = context.macros;
-  macros.setMacroValue("MEMBER-AUTHOR", context.parser.getAuthor());
-  macros.setMacroValue("MEMBER-REVISION", context.parser.getRevision());
-  macros.setMacroValue("MEMBER-VERSION", context.parser.getVersion());
+  setCommentText(context, "MEMBER-AUTHOR", context.parser.getAuthor());
+  setCommentText(context, "MEMBER-REVISION", context.parser.getRevision());
+  setCommentText(context, "MEMBER-VERSION", context.parser.getVersion());
   constexpr std::string_view kNumbered[] = {"MEMBER-USER1", "MEMBER-USER2", "MEMBER-USER3",
                                             "MEMBER-USER4", "MEMBER-USER5"};
   for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {
     const std::string text = context.parser.getUser(tag + 1);
-    macros.setMacroValue(context.userTagMacros[tag], text);
-    macros.setMacroValue(kNumbered[tag], text);
+    // Of a generated comment these are what the settings say, so they call what comments may.
+    const std::string& named = context.userTagMacros[tag];
+    if (!named.empty()) macros.setCommentText(named, text);
+    macros.setCommentText(kNumbered[tag], text);
   }
 }
 

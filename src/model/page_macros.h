@@ -2,19 +2,24 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "model/page_context.h"
 
 namespace tamrikon {
 
-/// A list macro's value from the entries of a comment.
-LinkListRef macroList(CommentParser::Entries entries);
+/// A list macro's value from the entries of the comment that the parser has.
+LinkListRef macroList(const PageContext& context, CommentParser::Entries entries);
+
+/// Sets what that comment says.
+void setCommentText(PageContext& context, std::string_view macro, std::string_view text);
 
 /// MEMBER-NAME, MEMBER-MODULE and MEMBER-FILE.
 void setNameMacros(PageContext& context, const Wrapper& wrapper);
 
 /// MEMBER-AUTHOR, MEMBER-REVISION, MEMBER-VERSION and the user tags, each of these by its name and
-/// by its number, so that a tag's name can take the place of a macro that was set before.
+/// by its number, so that a tag's name can take the place of a macro that was set before. A tag
+/// without a name in `userTagMacros` has its number alone.
 void setTagMacros(PageContext& context);
 
 /// MEMBER-PUBLIC, MEMBER-PRIVATE and MEMBER-FRIEND: the word in one of them, the others empty.

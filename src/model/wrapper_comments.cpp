@@ -67,8 +67,10 @@ bool WrapperComments::prepareComment(Wrapper& wrapper) const {
     return true;
   }
   if (!settings_.comNonCommented) return false;
-  return tryStep(
-      [&] { wrapper.comment = std::make_shared<Comment>(wrapper.generateComment(settings_)); });
+  return tryStep([&] {
+    wrapper.comment = std::make_shared<Comment>(wrapper.generateComment(settings_));
+    wrapper.comment->isGenerated = true;
+  });
 }
 
 }  // namespace tamrikon

@@ -88,7 +88,7 @@ inline void Expansion::call(const MacroName& name) {
   }
   if (!budget_.takeCalls(1, isText ? slot.text->text.size() : 0)) endAt(name.text);
   if (isText) {
-    begin(*slot.text, name.isReadOnly);
+    begin(*slot.text, name.isReadOnly || slot.text->isFromProject);
   } else {
     result_ += name.text;
   }
@@ -122,7 +122,10 @@ inline void Expansion::leave() {
 inline void Expansion::appendLiteral(std::string_view text, bool translate) {
   if (text.empty()) return;  // as half of them are
   if (translate && state_.replaceOn) {
-    state_.replaceTable.appendReplaced(text, result_, budget_);
+    const std::size_t start = result_.size();
+    const bool isWhole = state_.replaceTable.appendReplaced(text, result_, budget_);
+    // Half translated it could be markup.
+    if (!isWhole && state_.slots.limitsComments()) result_.resize(start);
   } else {
     result_ += text;
   }

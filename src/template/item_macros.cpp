@@ -65,15 +65,15 @@ bool ListWalk::setNextItem(MacroSlots& slots, const ItemMacros& macros, LinkReso
 bool ListWalk::setFields(std::string_view item, MacroSlots& slots, const ItemMacros& macros) const {
   const std::optional<std::string_view> param = cutAtCr(item);
   if (!param) return false;
-  slots.setText(macros.label, item);
-  slots.setText(macros.param, *param);
+  slots.setText(macros.label, item, origin());
+  slots.setText(macros.param, *param, origin());
   if (form_ == Form::param) return true;
   for (MacroSlot* macro : {&macros.constant, &macros.value}) {
     const std::optional<std::string_view> field = cutAtCr(item);
     if (!field) return false;
-    slots.setText(*macro, *field);
+    slots.setText(*macro, *field, origin());
   }
-  slots.setText(macros.label, item);
+  slots.setText(macros.label, item, origin());
   return true;
 }
 
@@ -84,15 +84,17 @@ void ListWalk::setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros
   // A link that leads nowhere is warned of here once more, at its place in the order of the walk.
   const bool isDead = !isFile && target.wrapper == nullptr && !item.isOfProgram;
   if (isDead && resolver != nullptr) resolver->parseLink(item.reference);
-  slots.setText(macros.file, isFile ? target.member : std::string_view());
-  slots.setText(macros.item, target.member);
-  slots.setText(macros.location, target.module);
-  slots.setText(macros.label, item.label);
+  // What a link leads to is no text, and may stand where the template wants no call's result.
+  const std::string_view file = isFile ? target.member : std::string_view();
+  slots.setText(macros.file, file, TextOrigin::project);
+  slots.setText(macros.item, target.member, TextOrigin::project);
+  slots.setText(macros.location, target.module, TextOrigin::project);
+  slots.setText(macros.label, item.label, item.isOwnLabel ? origin() : TextOrigin::project);
   slots.setNumber(macros.helpId, target.helpId);
   // Only of a project that has a folder of its own: else a template's own macro stays.
   const std::size_t folderEnd = target.member.rfind('/');
   if (form_ == Form::project && folderEnd != std::string_view::npos) {
-    slots.setText(macros.folder, target.member.substr(0, folderEnd));
+    slots.setText(macros.folder, target.member.substr(0, folderEnd), TextOrigin::project);
   }
   if (form_ == Form::moduleLink && target.wrapper != nullptr) {
     resolver->setModuleLists(target, table);

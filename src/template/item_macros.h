@@ -57,6 +57,11 @@ class ListWalk {
   void setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros& macros,
                LinkResolver* resolver, MacroTable& table) const;
 
+  /// Whose words the texts of the list are.
+  TextOrigin origin() const {
+    return list_->isGenerated ? TextOrigin::project : TextOrigin::comment;
+  }
+
   Form form_;
   std::shared_ptr<const MacroList> list_;
   LinkItems links_;

@@ -61,7 +61,8 @@ bool LinkItems::addText(std::string_view text, LinkResolver* resolver) {
   if (cr == std::string_view::npos) return false;
   const std::string_view reference = text.substr(0, cr);
   items_.push_back({reference, targetOf(reference, resolver), text.substr(cr + 1)});
-  if (items_.back().label.empty()) makeUpLabel();
+  items_.back().isOwnLabel = !items_.back().label.empty();
+  if (!items_.back().isOwnLabel) makeUpLabel();
   return true;
 }
 

@@ -16,6 +16,7 @@ struct LinkItem {
   LinkTarget target;           // the topic that serves it; of a file, its name
   std::string_view label;
   bool isOfProgram = false;  // nobody wrote the link
+  bool isOwnLabel = false;  // the list's item has it; otherwise it was made up
 };
 
 /// Whether `reference` names a file: then the rest behind its double quote is the name.

@@ -110,10 +110,10 @@ void Expansion::expandIfNotEmpty(const Construct& construct, const MacroSlot& ar
   const TextIndex elseStart = hasElse ? source->tokens[construct.elseMarker].start : end;
   if (!isEmpty(argument)) {
     frames_.push_back({source, construct.lineEnd + 1, elseStart, construct.bodyToken,
-                       Frame::Role::branch, false});
+                       Frame::Role::branch, source->isFromProject});
   } else if (hasElse) {
     frames_.push_back({source, elseStart + kElseTagLength, end, construct.elseMarker + 1,
-                       Frame::Role::branch, false});
+                       Frame::Role::branch, source->isFromProject});
   }
 }
 
@@ -129,7 +129,8 @@ void Expansion::expandDoList(const Construct& construct, const MacroName& argume
     if (!frame.walk.sort(state_.resolver)) return;
   }
   lists_.push_back(std::move(frame));
-  frames_.push_back({source, bodyEnd, bodyEnd, construct.bodyToken, Frame::Role::listBody, false});
+  frames_.push_back({source, bodyEnd, bodyEnd, construct.bodyToken, Frame::Role::listBody,
+                     source->isFromProject});
   nextListItem();
 }
 

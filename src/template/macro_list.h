@@ -23,6 +23,7 @@ struct TopicItem {
 struct MacroList {
   std::vector<std::string> texts;  // the fields of an item divided by CR
   std::vector<TopicItem> topics = {};
+  bool isGenerated = false;  // the texts are of no comment: where comments are limited, none calls
 
   std::size_t size() const { return texts.size() + topics.size(); }
   bool empty() const { return texts.empty() && topics.empty(); }

@@ -149,21 +149,45 @@ inline MacroText& MacroSlots::newText(MacroSlot& slot) {
   if (!slot.text) slot.text = std::make_unique<MacroText>();
   slot.text->isScanned = false;
   slot.text->isOfTemplate = false;
+  slot.text->isFromProject = false;
+  slot.text->given.clear();
   slot.list.reset();
   slot.holds = MacroSlot::Holds::text;
   return *slot.text;
 }
 
-void MacroSlots::setText(MacroSlot& slot, std::string_view text) {
+void MacroSlots::setText(MacroSlot& slot, std::string_view text, TextOrigin origin) {
+  if (origin != TextOrigin::program && limitsComments()) {
+    setProjectText(slot, text, origin);
+    return;
+  }
   // From page to page most values are as they were, and what was found in them with them.
-  if (slot.holds == MacroSlot::Holds::text && slot.text->text == text) return;
-  newText(slot).text = text;
+  const bool isKept = slot.holds == MacroSlot::Holds::text && slot.text->text == text;
+  if (!isKept || slot.text->isFromProject) newText(slot).text = text;
+}
+
+/// Sets a text that calls what comments may, or nothing.
+void MacroSlots::setProjectText(MacroSlot& slot, std::string_view text, TextOrigin origin) {
+  const bool hasDollars = text.find('$') != std::string_view::npos;
+  const bool isKept = slot.holds == MacroSlot::Holds::text && slot.text->text == text;
+  if (isKept && !hasDollars && slot.text->isFromProject) return;
+  MacroText& value = newText(slot);
+  value.isFromProject = true;
+  if (!hasDollars) {
+    value.text = text;
+    value.beginScan();  // there is nothing to find
+    return;
+  }
+  value.given = text;
+  value.text =
+      origin == TextOrigin::comment ? commentMacros_->withListedCalls(text) : doubleDollars(text);
 }
 
 void MacroSlots::setLines(MacroSlot& slot, std::string_view lines) {
   constexpr std::string_view kEol = "$EOL$";
   const MacroName& eol = intern(kEol.substr(1, kEol.size() - 2));
   MacroText& value = newText(slot);
+  value.isFromProject = limitsComments();
   value.text.clear();
   value.beginScan();
   std::string doubled;

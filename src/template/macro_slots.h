@@ -5,12 +5,14 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 #include "base/case_folding.h"
+#include "template/comment_macros.h"
 #include "template/macro_list.h"
 #include "template/macro_text.h"
 
@@ -50,8 +52,20 @@ struct MacroName {
 
 bool isReadOnlyName(std::string_view name);
 
+/// Whose words a value is. Where the template limits what comments may call, it decides which calls
+/// are made; otherwise all are.
+enum class TextOrigin : std::uint8_t {
+  program,  // the template or the program: any call
+  comment,  // what people wrote for the pages: the calls that the template lists
+  project,  // names, declarations and the like: none
+};
+
 class MacroSlots {
  public:
+  /// Limits what texts of a project call from now on; nothing: not at all.
+  void setCommentMacros(std::optional<CommentMacros> macros) { commentMacros_ = std::move(macros); }
+  bool limitsComments() const { return commentMacros_.has_value(); }
+
   /// The record of this spelling, which lives as long as this object.
   const MacroName& intern(std::string_view name);
 
@@ -59,7 +73,7 @@ class MacroSlots {
   const MacroName* find(std::string_view name);
   const MacroSlot* findSlot(std::string_view name) const;
 
-  void setText(MacroSlot& slot, std::string_view text);
+  void setText(MacroSlot& slot, std::string_view text, TextOrigin origin = TextOrigin::program);
   /// Sets `lines` with each "$" doubled and each CR as a call of EOL. The calls needn't be looked
   /// for then: a page has one for each line of source code.
   void setLines(MacroSlot& slot, std::string_view lines);
@@ -76,6 +90,7 @@ class MacroSlots {
  private:
   void retire(MacroSlot& slot);
   MacroText& newText(MacroSlot& slot);
+  void setProjectText(MacroSlot& slot, std::string_view text, TextOrigin origin);
 
   const MacroName& findOrAdd(std::string_view name);
 
@@ -87,6 +102,7 @@ class MacroSlots {
   std::unordered_map<std::string, MacroSlot, CaseInsensitiveHash, CaseInsensitiveEqual> slots_;
   std::vector<std::unique_ptr<MacroText>> retired_;
   int runs_ = 0;
+  std::optional<CommentMacros> commentMacros_;
 };
 
 }  // namespace tamrikon

@@ -54,6 +54,7 @@ int MacroTable::loadSrc(const std::string& file, bool silent, TextFiles& files) 
   ExpansionState& state = memory_->state;
   memory_->isCleared = false;
   state.slots.unsetAll();
+  state.slots.setCommentMacros(std::nullopt);
   std::string text;
   const int failure = files.readTextFile(file, silent, text);
   if (failure != 0) return failure;
@@ -69,6 +70,9 @@ int MacroTable::loadSrc(const std::string& file, bool silent, TextFiles& files) 
     if (end) return *end;
   }
   if (const auto end = addCharacterMacros(file, text, silent, files)) return *end;
+  if (const MacroSlot* slot = state.slots.findSlot("COMMENT-MACROS")) {
+    state.slots.setCommentMacros(CommentMacros(slot->text->text));
+  }
   state.replaceTable = ReplaceTable();
   if (const MacroSlot* slot = state.slots.findSlot("REPLACE-TABLE")) {
     state.replaceTable = ReplaceTable(parseReplaceMacro(slot->text->text));
@@ -122,13 +126,30 @@ void MacroTable::reuse(std::string&& result) {
 std::string MacroTable::getMacroBody(std::string_view macroName) const {
   const MacroSlot* slot = memory_->state.slots.findSlot(macroName);
   if (slot == nullptr) return asUnknown(macroName);
-  return slot->holds == MacroSlot::Holds::text ? slot->text->text : std::string(macroName);
+  if (slot->holds != MacroSlot::Holds::text) return std::string(macroName);
+  return slot->text->given.empty() ? slot->text->text : slot->text->given;
 }
 
 void MacroTable::setMacroValue(std::string_view macro, std::string_view text) {
   if (memory_->isCleared) return;
   MacroSlots& slots = memory_->state.slots;
   slots.setText(*slots.intern(macro).slot, text);
+}
+
+void MacroTable::setCommentText(std::string_view macro, std::string_view text) {
+  if (memory_->isCleared) return;
+  MacroSlots& slots = memory_->state.slots;
+  slots.setText(*slots.intern(macro).slot, text, TextOrigin::comment);
+}
+
+void MacroTable::setProjectText(std::string_view macro, std::string_view text) {
+  if (memory_->isCleared) return;
+  MacroSlots& slots = memory_->state.slots;
+  slots.setText(*slots.intern(macro).slot, text, TextOrigin::project);
+}
+
+bool MacroTable::limitsComments() const {
+  return memory_->state.slots.limitsComments();
 }
 
 void MacroTable::setMacroLines(std::string_view macro, std::string_view lines) {

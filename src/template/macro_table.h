@@ -41,10 +41,21 @@ class MacroTable {
   /// Takes back a result that nobody needs any more: its memory serves the next one.
   void reuse(std::string&& result);
 
-  /// The unexpanded text; a list gives its name, an unknown macro "$NAME$".
+  /// The unexpanded text as it was set; a list gives its name, an unknown macro "$NAME$".
   std::string getMacroBody(std::string_view macroName) const;
 
   void setMacroValue(std::string_view macro, std::string_view text);
+
+  /// The same for what people wrote for the pages. If the template has a line COMMENT-MACROS, the
+  /// macros listed there are called and each other "$" of `text` is a "$".
+  void setCommentText(std::string_view macro, std::string_view text);
+
+  /// The same for names, declarations and the like, which then call nothing.
+  void setProjectText(std::string_view macro, std::string_view text);
+
+  /// Whether the template has that line. All text from the project then goes through the replace
+  /// table, whatever the name of its macro.
+  bool limitsComments() const;
 
   /// Sets a text that the expansion gives back as it is, but for its CRs: each calls EOL.
   void setMacroLines(std::string_view macro, std::string_view lines);

@@ -41,6 +41,8 @@ struct Construct {
 struct MacroText {
   std::string text;
   bool isOfTemplate = false;  // as the template defines it
+  std::string given;           // what `text` was made of, if that had other dollars
+  bool isFromProject = false;  // and the template limits what such texts may call
   bool isScanned = false;
   std::vector<MacroToken> tokens;
   std::vector<Construct> constructs;  // ascending

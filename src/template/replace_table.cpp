@@ -64,13 +64,14 @@ ReplaceTable::PairSet ReplaceTable::beginningIn(std::string_view text) const {
   return pairs;
 }
 
-void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
+bool ReplaceTable::appendReplaced(std::string_view text, std::string& result,
                                   ExpansionBudget& budget) {
   PairSet possible = beginningIn(text);
   if (possible == 0) {
     result += text;
-    return;
+    return true;
   }
+  isWhole_ = true;
   const std::size_t maxLength = text.size() + budget.textLeft();
   std::string_view replaced = text;
   for (std::size_t i = 0; i < pairs_.size(); ++i) {
@@ -83,13 +84,17 @@ void ReplaceTable::appendReplaced(std::string_view text, std::string& result,
     const Pair& pair = pairs_[i];
     if ((possible & pair.self) == 0) continue;
     // Pairs that make the text longer and longer have to pay for each walk through it.
-    if (replaced.size() / kFairGrowth > text.size() && !budget.takeText(replaced.size())) break;
+    if (replaced.size() / kFairGrowth > text.size() && !budget.takeText(replaced.size())) {
+      isWhole_ = false;
+      break;
+    }
     replaced = pair.isExact ? replaceExact(pair, replaced, maxLength)
                             : replaceGeneral(pair, replaced, maxLength);
     possible |= pair.enables;
   }
   result += replaced;
   if (replaced.size() > text.size()) budget.takeText(replaced.size() - text.size());
+  return isWhole_;
 }
 
 std::string_view ReplaceTable::replaceExact(const Pair& pair, std::string_view text,
@@ -104,10 +109,13 @@ std::string_view ReplaceTable::replaceExact(const Pair& pair, std::string_view t
   next_.clear();
   for (; at != std::string_view::npos; at = next(copied)) {
     next_.append(text.substr(copied, at - copied)).append(pair.with);
-    if (next_.size() > maxLength) return text;
+    if (next_.size() > maxLength) break;
     copied = at + find.size();
   }
-  if (next_.size() + text.size() - copied > maxLength) return text;
+  if (next_.size() + text.size() - copied > maxLength) {
+    isWhole_ = false;
+    return text;
+  }
   next_.append(text.substr(copied));
   work_.swap(next_);
   return work_;
@@ -119,7 +127,10 @@ std::string_view ReplaceTable::replaceGeneral(const Pair& pair, std::string_view
   if (!pair.with.empty() && text.size() > maxLength / pair.with.size()) {
     const std::size_t without = replaceIgnoringCase(text, pair.find, "").size();
     const std::size_t matches = replaceIgnoringCase(text, pair.find, ".").size() - without;
-    if (matches > (maxLength - without) / pair.with.size()) return text;
+    if (matches > (maxLength - without) / pair.with.size()) {
+      isWhole_ = false;
+      return text;
+    }
   }
   work_ = replaceIgnoringCase(text, pair.find, pair.with);
   return work_;

@@ -20,8 +20,8 @@ class ReplaceTable {
 
   /// Appends `text`, translated, to `result`. The pairs work one after the other, each on what
   /// the one before it left, without regard to case. The first pair that would let the text grow
-  /// beyond the budget ends the translation.
-  void appendReplaced(std::string_view text, std::string& result, ExpansionBudget& budget);
+  /// beyond the budget ends the translation: the result is then false.
+  bool appendReplaced(std::string_view text, std::string& result, ExpansionBudget& budget);
 
  private:
   /// A bit for each pair; those from the 64th on share the last one.
@@ -47,6 +47,7 @@ class ReplaceTable {
   // They are kept, as pages bring thousands of short texts.
   std::string work_;
   std::string next_;
+  bool isWhole_ = true;  // no pair was left out
 };
 
 /// `text` translated by the words of a replace table.

@@ -149,5 +149,43 @@ TEST_F(LoadSrc, ReadsTheReplaceTable) {
   EXPECT_EQ(macros_.expand("$MEMBER-USER1$"), "<");
 }
 
+TEST_F(LoadSrc, LimitsWhatCommentsCall) {
+  load(
+      "$COMMENT-MACROS$ EOL Code  MEMBER-NAME\n$REPLACE-TABLE$ < &lt; $${ &#36;{\n$EOL$ <br>\n"
+      "$CODE$ <pre>\n$BAD$ <b>\n$MEMBER-EXT$ <x>");
+  MacroTable& table = macros_.table;
+  using Case = std::tuple<const char*, const char*, const char*>;  // as a comment's, as a name's
+  for (const auto& [text, comment, name] : {
+           Case{"costs $< 5", "costs $&lt; 5", "costs $&lt; 5"},
+           Case{"$CHR60$b $BAD$", "$CHR60$b $BAD$", "$CHR60$b $BAD$"},
+           Case{"a$EOL$b$eol$<", "a<br>b<br>&lt;", "a$EOL$b$eol$&lt;"},
+           Case{"$$EOL$ $$$EOL$$", "$EOL$ $<br>$", "$$EOL$ $$$EOL$$"},
+           Case{"5$,$EOL$ $x$EOL$", "5$,<br> $x<br>", "5$,$EOL$ $x$EOL$"},
+           Case{"$CODE$$MEMBER-NAME$", "<pre>&lt;n>", "$CODE$$MEMBER-NAME$"},
+           Case{"${x}", "&#36;{x}", "&#36;{x}"},
+           Case{"$REPLACE-OFF$<$", "$REPLACE-OFF$&lt;$", "$REPLACE-OFF$&lt;$"},
+           Case{"$DOLIST$ $L$", "$DOLIST$ $L$", "$DOLIST$ $L$"},
+       }) {
+    SCOPED_TRACE(text);
+    table.setProjectText("MEMBER-NAME", "<n>");
+    table.setCommentText("MEMBER-TODO", text);
+    EXPECT_EQ(table.getMacroBody("MEMBER-TODO"), text);
+    EXPECT_EQ(macros_.expand("$REPLACE-ON$$MEMBER-TODO$"), comment);
+    table.setProjectText("MEMBER-TODO", text);
+    EXPECT_EQ(macros_.expand("$MEMBER-TODO$"), name);
+    macros_.setList("SEE-LINK-LIST", {std::string("\"") + text + "|" + text});
+    EXPECT_EQ(macros_.expand("$DOLIST$ $SEE-LINK-LIST$|$LIST-ITEM$$LIST-ITEM-LABEL$$END-DOLIST$"),
+              std::string(name) + comment);
+  }
+  EXPECT_TRUE(macros_.log.messages.empty());
+}
+
+TEST_F(LoadSrc, DropsWhatItCantTranslate) {
+  load("$COMMENT-MACROS$\n$REPLACE-TABLE$ < &lt;");
+  macros_.table.setBudget(ExpansionBudget(100, 65));
+  macros_.table.setCommentText("MEMBER-NAME", "<<<<");
+  EXPECT_EQ(macros_.expand("$REPLACE-ON$$MEMBER-NAME$$MEMBER-NAME$."), "&lt;&lt;&lt;&lt;.");
+}
+
 }  // namespace
 }  // namespace tamrikon
