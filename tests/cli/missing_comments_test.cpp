@@ -112,17 +112,19 @@ TEST(MissingComments, AreInsertedOnceWhateverTheSourceLooksLike) {
 
 TEST(MissingComments, AreThoseThatTheSettingsWantInTheModulesThatAreGiven) {
   const test::TempFolder folder;
-  const std::string source = "Public Sub A()\nEnd Sub\nPrivate Sub B()\nEnd Sub\nConst C = 1\n";
+  const std::string source =
+      "Public Sub A()\nAttribute A.VB_Description = \"5 $\"\nEnd Sub\nPrivate Sub B()\nEnd Sub\n"
+      "Const C = 1\n";
   for (const char* name : {"One.cls", "Two.cls", "Three.cls"}) folder.put(name, source);
   const std::string project =
       folder.put("All.vbp", "Class=One; One.cls\nClass=Two; Two.cls\nClass=Three; Three.cls\n");
   folder.put("All.tamrik",
              "#Tamrikon Project Settings#\ncomNonCommented = 0\ncomObject = 0\n"
-             "comModules = One\ncomModules = Two\n");
+             "addDescription = 1\ncomModules = One\ncomModules = Two\n");
   const ProgramRun run({"comment", project, "--missing", "TWO", "Three"});
   EXPECT_EQ(run.out, "Two.A\n1 comment inserted in 1 module.\n");
   EXPECT_EQ(run.err, "warning: the settings don't select module Three to be documented\n");
-  EXPECT_EQ(folder.get("Two.cls"), "'**\n'\n'@see\n'@rem\n" + source);
+  EXPECT_EQ(folder.get("Two.cls"), "'**\n'5 $$\n'@see\n'@rem\n" + source);
 }
 
 }  // namespace
