@@ -16,14 +16,18 @@ run: release
 
 # Opens the example projects in the workbench.
 run-workbench:
+	@[ -n "$$DISPLAY$$WAYLAND_DISPLAY$$QT_QPA_PLATFORM" ] || \
+	  { echo "There is no display to show the workbench on: DISPLAY and WAYLAND_DISPLAY are empty." >&2; exit 1; }
 	@scripts/install_packages.sh workbench
-	@$(MAKE) --no-print-directory release
+	@$(MAKE) --no-print-directory help release
 	build/release/bin/tamrikon-workbench examples/Inventory/Inventory.vbg
 
 # The help file that the workbench opens when it is run from here.
-help:
+help: data/tamrikon.chm
+
+data/tamrikon.chm: $(wildcard docs/*.md docs/screenshots/*.png) scripts/build_help.py scripts/manual_pages.py
 	@scripts/install_packages.sh help
-	/usr/bin/python3 -B scripts/build_help.py data/tamrikon.chm
+	/usr/bin/python3 -B scripts/build_help.py $@
 
 test:
 	@scripts/install_packages.sh build workbench test

@@ -127,8 +127,10 @@ void Terminal::checkpoint() {
   if (interrupted) interrupted(interrupts_);
 }
 
-bool Terminal::openDocument(const std::string& path) {
-  return tamrikon::openDocument(path);
+bool Terminal::openDocument(const std::string& path, const MessageBox& failure) {
+  if (tamrikon::openDocument(path)) return true;
+  messageBox(failure);
+  return false;
 }
 
 void Terminal::beep() {

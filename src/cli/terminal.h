@@ -49,7 +49,7 @@ class Terminal final : public Toolkit {
   std::string clipboardText() override { return {}; }
   void setClipboardText(const std::string&) override {}
 
-  bool openDocument(const std::string& path) override;
+  bool openDocument(const std::string& path, const MessageBox& failure) override;
   void beep() override;
 
   /// A message of the dialog in front, if there is one: the log gets `text`, the output `wording`.

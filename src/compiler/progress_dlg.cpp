@@ -87,10 +87,8 @@ bool ProgressDlg::showDocumentation() {
     toolkit().messageBox({"Error while showing documentation", std::string(usedUp.what()) + "."});
     return false;
   }
-  if (toolkit().openDocument(file)) return true;
-  toolkit().messageBox(
-      {"Error while showing documentation", "Cannot show the \"" + file + "\" file"});
-  return false;
+  return toolkit().openDocument(
+      file, {"Error while showing documentation", "Cannot show the \"" + file + "\" file"});
 }
 
 }  // namespace tamrikon

@@ -26,10 +26,8 @@ void openExample(std::string_view link, Session& session) {
   if (link.size() < 2) return;
   std::string path(link.substr(1));
   if (lastName(path) == path) path = joinPath(session.settings.outputPath, path);
-  if (session.toolkit.openDocument(path)) return;
-  session.toolkit.messageBox({"Error while opening example.",
-                              "Cannot show the \"" + path + "\" file", MessageButtons::ok,
-                              MessageIcon::exclamation});
+  session.toolkit.openDocument(
+      path, {"Error while opening example.", "Cannot show the \"" + path + "\" file"});
 }
 
 }  // namespace tamrikon

@@ -16,8 +16,13 @@ class Label final : public Control {
   bool hasFixedFont() const { return fixedFont_; }
   void setFixedFont(bool fixed) { set(fixedFont_, fixed); }
 
+  /// A heading stands out from the text below it.
+  bool isHeading() const { return heading_; }
+  void setHeading(bool heading) { set(heading_, heading); }
+
  private:
   bool fixedFont_ = false;
+  bool heading_ = false;
 };
 
 /// The lines of a multi-line text are divided by CR LF, whatever was set; a renderer gives it so.

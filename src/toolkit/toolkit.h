@@ -43,8 +43,9 @@ class Toolkit {
   virtual std::string clipboardText() = 0;
   virtual void setClipboardText(const std::string& text) = 0;
 
-  /// Opens a document in the program that belongs to it. False if that can't be done.
-  virtual bool openDocument(const std::string& path) = 0;
+  /// Opens a document in the program that belongs to it, and doesn't wait for that program. If that
+  /// can't be done, `failure` is shown, at once or later. False if it has failed already.
+  virtual bool openDocument(const std::string& path, const MessageBox& failure) = 0;
 
   virtual void beep() = 0;
 };

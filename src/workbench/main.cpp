@@ -1,17 +1,38 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTimer>
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
 
-#include "workbench/program_name.h"
+#include "platform/display.h"
 #include "workbench/renderer/qt_text.h"
 #include "workbench/workbench_window.h"
 
+namespace {
+
+/// Without a display Qt would end the program with a crash, unless another platform is asked for.
+bool canShowWindows(int argc, char** argv) {
+  const auto namesPlatform = [](const char* argument) {
+    return std::strcmp(argument, "-platform") == 0 || std::strcmp(argument, "--platform") == 0;
+  };
+  return tamrikon::hasDisplay() || std::any_of(argv, argv + argc, namesPlatform);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  if (!canShowWindows(argc, argv)) {
+    std::fputs(
+        "tamrikon-workbench: there is no display to show windows on (neither DISPLAY nor "
+        "WAYLAND_DISPLAY is set)\n",
+        stderr);
+    return 1;
+  }
   const QApplication application(argc, argv);
   QCoreApplication::setOrganizationName("Tamrikon");
   QCoreApplication::setApplicationName("Tamrikon");
   QCoreApplication::setApplicationVersion(TAMRIKON_VERSION);
-  QGuiApplication::setApplicationDisplayName(tamrikon::kWorkbenchName);
 
   QCommandLineParser parser;
   parser.setApplicationDescription("Edits and documents Visual Basic 6 projects.");

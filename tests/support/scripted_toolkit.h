@@ -114,7 +114,11 @@ class ScriptedToolkit final : public Toolkit {
   void checkpoint() override { onCheckpoint(); }
   std::string clipboardText() override { return clipboard; }
   void setClipboardText(const std::string& text) override { clipboard = text; }
-  bool openDocument(const std::string& path) override { return opened.push_back(path), canOpen; }
+  bool openDocument(const std::string& path, const MessageBox& failure) override {
+    opened.push_back(path);
+    if (!canOpen) boxes.push_back(failure);
+    return canOpen;
+  }
   void beep() override { ++beeps; }
 
  private:

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "platform/folder_listing.h"
 #include "toolkit/frm_browse_dlg.h"
+#include "toolkit/open_manual.h"
 
 namespace tamrikon {
 namespace {
@@ -44,9 +45,7 @@ void frmAddIn::addHandlers() {
     if (!folder.empty()) outputPage.setTemplateFolder(folder);
     outputPage.readTemplateFolder();
   };
-  Command4.onClick = [this] {
-    session_.toolkit.openDocument(joinPath(session_.addInFolder, "tamrikon.chm"));
-  };
+  Command4.onClick = [this] { openManual(session_.toolkit, session_.addInFolder); };
   Command1.onClick = [this] { requestCompile(false); };
   Command14.onClick = [this] { requestCompile(true); };
   cmdApply.onClick = [this] { apply(); };
@@ -108,7 +107,8 @@ void frmAddIn::showProject() {
   for (Control* control : controls()) control->setEnabled(hasProject);
   Command4.setEnabled(true);
   cmdCancel.setEnabled(true);
-  if (!hasProject) return;
+  // The message stands there, and the other tabs can't be reached.
+  if (!hasProject) return tbsOptions.select("Group1");
   tryStep([this] { Command14.setEnabled(VBInstance->VBProjects().Count() >= 2); });
 }
 
@@ -152,6 +152,12 @@ void frmAddIn::requestCompile(bool wholeGroup) {
   session_.progressDlg.VBInstance = VBInstance;
   connect->startCompile = true;
   connect->Hide();
+}
+
+void frmAddIn::onKeyDown(KeyEvent& key) {
+  if (key.key != Key::f1) return;
+  key.handled = true;
+  openManual(session_.toolkit, session_.addInFolder);
 }
 
 bool frmAddIn::onQueryClose() {

@@ -71,6 +71,7 @@ class frmAddIn final : public Dialog {
 
   Layout layout() override;
   bool onQueryClose() override;
+  void onKeyDown(KeyEvent& key) override;
   std::vector<CheckBoxSetting> checkBoxes();
   void addHandlers();
   void showProject();

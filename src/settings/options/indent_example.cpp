@@ -46,6 +46,7 @@ IndentExample::IndentExample(Toolkit& toolkit, int mode)
       Label4(*this, "Label4", exampleOf(mode).file),
       Label6(*this, "Label6", exampleOf(mode).html),
       Label8(*this, "Label8", exampleOf(mode).rtf) {
+  for (Label* label : {&Label1, &Label3, &Label5, &Label7}) label->setHeading(true);
   // The blanks at the beginning of a line are what these two show.
   Label2.setFixedFont(true);
   Label4.setFixedFont(true);

@@ -37,11 +37,11 @@ QSize PushButton::ownSize() const {
 
 QSize PushButton::sizeHint() const {
   QSize size = ownSize();
-  if (!row_ || !hasWords()) return size;
+  if (!group_ || !hasWords()) return size;
   // One long caption isn't to make all of them long.
   const int widest = 2 * (widthOf(*this, kCaption) + 2 * widthOf(*this, 2));
   if (size.width() > widest) return size;
-  for (const PushButton* button : *row_) {
+  for (const PushButton* button : *group_) {
     if (button->isHidden() || !button->hasWords()) continue;
     const int width = button->ownSize().width();
     if (width <= widest) size.setWidth(std::max(size.width(), width));

@@ -14,14 +14,14 @@
 
 namespace tamrikon {
 
-/// A button that is as wide as the others of its row.
+/// A button that is as wide as the others of its dialog.
 class PushButton final : public QPushButton {
  public:
-  using Row = std::vector<const PushButton*>;
+  using Group = std::vector<const PushButton*>;
 
   using QPushButton::QPushButton;
 
-  void standIn(std::shared_ptr<const Row> row) { row_ = std::move(row); }
+  void standIn(std::shared_ptr<const Group> group) { group_ = std::move(group); }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -31,7 +31,7 @@ class PushButton final : public QPushButton {
   bool hasWords() const;
   QSize ownSize() const;
 
-  std::shared_ptr<const Row> row_;
+  std::shared_ptr<const Group> group_;
 };
 
 class CommandButtonPeer final : public Peer {

@@ -1,8 +1,31 @@
 #include "workbench/renderer/container_peers.h"
 
+#include <QScrollArea>
+
 #include "workbench/renderer/qt_text.h"
+#include "workbench/renderer/room.h"
 
 namespace tamrikon {
+namespace {
+
+/// Shows a page of a tab, which can be scrolled where the screen is too small for it.
+class ScrollPage final : public QScrollArea {
+ public:
+  explicit ScrollPage(QWidget* page) {
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(page);
+    // The background is that of the tabs.
+    page->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+  }
+
+  QSize sizeHint() const override { return widget()->sizeHint(); }
+  QSize minimumSizeHint() const override { return leastRoom(*this, sizeHint()); }
+};
+
+}  // namespace
 
 FramePeer::FramePeer(PeerContext context, Frame& frame, QWidget* parent)
     : Peer(context, frame, *new QGroupBox(parent)), widget_(static_cast<QGroupBox*>(&widget())) {}
@@ -30,7 +53,7 @@ TabStripPeer::TabStripPeer(PeerContext context, TabStrip& strip, QWidget* parent
 QWidget* TabStripPeer::addPage() {
   const auto& tab = strip_.tabs()[static_cast<std::size_t>(widget_->count())];
   auto* page = new QWidget;
-  const int index = widget_->addTab(page, literalCaption(tab.caption));
+  const int index = widget_->addTab(new ScrollPage(page), literalCaption(tab.caption));
   widget_->setTabToolTip(index, toolTipToQt(tab.toolTip));
   return page;
 }

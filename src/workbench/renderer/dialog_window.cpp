@@ -1,6 +1,7 @@
 #include "workbench/renderer/dialog_window.h"
 
 #include <QCloseEvent>
+#include <QLayout>
 #include <QScreen>
 #include <algorithm>
 #include <utility>
@@ -8,6 +9,7 @@
 #include "workbench/renderer/layout_builder.h"
 #include "workbench/renderer/layout_traits.h"
 #include "workbench/renderer/qt_text.h"
+#include "workbench/renderer/title_room.h"
 
 namespace tamrikon {
 namespace {
@@ -16,10 +18,14 @@ namespace {
 /// others, or minimised. In milliseconds.
 constexpr int kUnpainted = 300;
 
+/// No box that minimises: the windows below couldn't be used then.
+constexpr Qt::WindowFlags kFrame = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                   Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
 }  // namespace
 
 DialogWindow::DialogWindow(Dialog& dialog, QWidget* owner, std::function<void()> onClosed)
-    : QDialog(owner),
+    : QDialog(owner, Qt::Dialog | kFrame),
       dialog_(dialog),
       onClosed_(std::move(onClosed)),
       gate_(dialog, [this] { return peers_.controlAt(focusWidget()); }),
@@ -47,6 +53,13 @@ DialogWindow::~DialogWindow() {
   const EventGate::Quiet leaving(gate_);
   qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
   if (onClosed_) onClosed_();
+}
+
+QSize DialogWindow::sizeHint() const {
+  QSize size = QDialog::sizeHint();
+  size.setWidth(std::max(size.width(), widthForTitle(windowTitle())));
+  if (layout()->hasHeightForWidth()) size.setHeight(layout()->totalHeightForWidth(size.width()));
+  return size.boundedTo(roomOnScreen(this));
 }
 
 void DialogWindow::captionChanged() {

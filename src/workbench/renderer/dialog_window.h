@@ -28,6 +28,9 @@ class DialogWindow final : public QDialog, private DialogPeer {
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
+  /// As large as its contents want to be, as wide as its title, and no larger than the screen.
+  QSize sizeHint() const override;
+
   /// Esc is a matter of the cancel button.
   void reject() override {}
 

@@ -112,7 +112,6 @@ QLayout* LayoutBuilder::makeRow(const Layout& row, QWidget* parent) {
   }
   if (!isSpinPair(row) && !anyOf(row.children, takesWidth)) box->addStretch(1);
   nameBoxes(row);
-  factory_.equalizeButtons(row);
   return box;
 }
 
@@ -136,7 +135,6 @@ QLayout* LayoutBuilder::makeLabelledRow(const Layout& row, QWidget* parent) {
     }
   }
   stretchColumns(*grid, growing, anyOf(row.children, takesWidth));
-  factory_.equalizeButtons(row);
   return grid;
 }
 
@@ -146,9 +144,6 @@ QBoxLayout* LayoutBuilder::makeColumn(const Layout& column, QWidget* parent) {
   const std::vector<Layout>& parts = column.children;
   const bool isShared = anyOf(parts, growsDown) || anyOf(parts, isSpace);
   const bool isTaken = isShared || anyOf(parts, isTall);
-  const bool areButtons = std::all_of(parts.begin(), parts.end(), [](const Layout& part) {
-    return isSpace(part) || isButton(part);
-  });
   for (const Layout& part : parts) {
     // What nothing takes of the height stands before the buttons at the bottom of a dialog.
     const bool isFoot = &part == &parts.back() && parts.size() > 1 && isButtonRow(part);
@@ -158,7 +153,7 @@ QBoxLayout* LayoutBuilder::makeColumn(const Layout& column, QWidget* parent) {
       continue;
     }
     const int stretch = growsDown(part) || (!isShared && isTall(part)) ? 1 : 0;
-    const bool keeps = keepsWidth(part) || (isButton(part) && !areButtons);
+    const bool keeps = keepsWidth(part) || isButton(part);
     addTo(*box, make(part, parent), stretch, keeps ? Qt::AlignLeft : Qt::Alignment());
   }
   if (!isTaken && !(parts.size() > 1 && isButtonRow(parts.back()))) box->addStretch(1);

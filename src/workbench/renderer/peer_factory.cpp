@@ -114,17 +114,6 @@ void PeerFactory::nameBox(Control& label, const Layout& part) {
   context_.marks.add(label, page_);
 }
 
-void PeerFactory::equalizeButtons(const Layout& row) {
-  auto buttons = std::make_shared<PushButton::Row>();
-  for (const Layout& part : row.children) {
-    if (part.kind != Layout::Kind::control) continue;
-    auto* peer = dynamic_cast<CommandButtonPeer*>(peers_.of(*part.control));
-    if (peer == nullptr) continue;
-    buttons->push_back(&peer->button());
-    peer->button().standIn(buttons);
-  }
-}
-
 void PeerFactory::orderTabs() {
   QWidget* last = nullptr;
   for (const auto& peer : peers_.all()) {
@@ -141,10 +130,13 @@ void PeerFactory::finish() {
         const auto* button = dynamic_cast<const CommandButton*>(&peer->control());
         return button != nullptr && button->role() == ButtonRole::default_;
       });
+  const auto buttons = std::make_shared<PushButton::Group>();
   for (const auto& peer : peers_.all()) {
     if (auto* button = dynamic_cast<CommandButtonPeer*>(peer.get())) {
       // Without a default button Qt would take the first one.
       button->button().setAutoDefault(hasDefault);
+      buttons->push_back(&button->button());
+      button->button().standIn(buttons);
     }
     if (auto* spin = dynamic_cast<SpinControl*>(&peer->control())) {
       if (Peer* box = peers_.of(spin->buddy())) {

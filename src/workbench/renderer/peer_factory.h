@@ -31,9 +31,6 @@ class PeerFactory {
   /// Lets the label name the first box of `part`, if there is one, and lead to it.
   void nameBox(Control& label, const Layout& part);
 
-  /// The buttons among the parts of a row become equally wide.
-  void equalizeButtons(const Layout& row);
-
   /// When all are made: the order of the Tab key, and the state of the controls.
   void finish();
 

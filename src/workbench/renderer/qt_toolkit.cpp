@@ -9,10 +9,10 @@
 #include <exception>
 #include <memory>
 
-#include "platform/open_document.h"
 #include "workbench/renderer/dialog_window.h"
 #include "workbench/renderer/file_filter.h"
 #include "workbench/renderer/qt_text.h"
+#include "workbench/renderer/title_room.h"
 
 namespace tamrikon {
 namespace {
@@ -65,6 +65,13 @@ QWidget* QtToolkit::window() const {
   return active != nullptr ? active : owner_.data();
 }
 
+/// Not all desktops do so by themselves.
+void QtToolkit::returnFocus() const {
+  if (shown_.empty() || !shown_.back() || !shown_.back()->isVisible()) return;
+  shown_.back()->raise();
+  shown_.back()->activateWindow();
+}
+
 void QtToolkit::runModal(Dialog& dialog) {
   QEventLoop loop;
   bool isClosed = false;
@@ -75,7 +82,9 @@ void QtToolkit::runModal(Dialog& dialog) {
         loop.quit();
       });
   const auto size = sizes_.find(dialog.name());
-  if (size != sizes_.end()) dialogWindow->resize(size->second);
+  // The screen may be another one by now.
+  dialogWindow->resize(size == sizes_.end() ? dialogWindow->sizeHint()
+                                            : size->second.boundedTo(roomOnScreen(dialogWindow)));
   shown_.emplace_back(dialogWindow);
   dialogWindow->show();
   if (!isClosed) loop.exec(QEventLoop::DialogExec);
@@ -85,6 +94,7 @@ void QtToolkit::runModal(Dialog& dialog) {
   sizes_[dialog.name()] = dialogWindow->size();
   const std::exception_ptr failure = dialogWindow->failure();
   delete dialogWindow;
+  returnFocus();
   if (failure) std::rethrow_exception(failure);
 }
 
@@ -93,7 +103,9 @@ MessageAnswer QtToolkit::messageBox(const MessageBox& box) {
                          buttonsOf(box.buttons), window());
   messageBox.setTextFormat(Qt::PlainText);
   messageBox.setEscapeButton(wayOut(box.buttons));
+  makeRoomForTitle(messageBox);
   const int button = messageBox.exec();
+  returnFocus();
   // Without an answer the application has been quit.
   return answerOf(button > 0 ? button : wayOut(box.buttons));
 }
@@ -126,7 +138,9 @@ std::optional<std::string> QtToolkit::chooseFile(const FileChoice& choice, bool 
     }
   }
   if (!choice.fileName.empty()) dialog.selectFile(toQt(choice.fileName));
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  const bool isChosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+  returnFocus();
+  if (!isChosen) return std::nullopt;
   lastFolder_ = dialog.directory().absolutePath();
   return fromQt(dialog.selectedFiles().front());
 }
@@ -146,8 +160,13 @@ void QtToolkit::setClipboardText(const std::string& text) {
   QGuiApplication::clipboard()->setText(toQt(text));
 }
 
-bool QtToolkit::openDocument(const std::string& path) {
-  return tamrikon::openDocument(path);
+bool QtToolkit::openDocument(const std::string& path, const MessageBox& failure) {
+  if (const auto opener = DocumentOpener::start(path)) {
+    documents_.add(*opener, failure);
+    return true;
+  }
+  messageBox(failure);
+  return false;
 }
 
 void QtToolkit::beep() {

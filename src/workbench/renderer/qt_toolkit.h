@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "toolkit/toolkit.h"
+#include "workbench/renderer/opened_documents.h"
 
 namespace tamrikon {
 
@@ -37,18 +38,22 @@ class QtToolkit final : public Toolkit {
   /// Lines end with CR LF.
   std::string clipboardText() override;
   void setClipboardText(const std::string& text) override;
-  bool openDocument(const std::string& path) override;
+  bool openDocument(const std::string& path, const MessageBox& failure) override;
   void beep() override;
 
  private:
   std::optional<std::string> chooseFile(const FileChoice& choice, bool toSave);
   QWidget* window() const;
 
+  /// To the dialog in front, from what was shown over it.
+  void returnFocus() const;
+
   QPointer<QWidget> owner_;
   std::vector<QPointer<QWidget>> shown_;  // dialogs, the one in front last
   std::map<std::string, QSize> sizes_;    // of dialogs, by name
   QString lastFolder_;
   QElapsedTimer sinceEvents_;
+  OpenedDocuments documents_{[this](const MessageBox& failure) { messageBox(failure); }};
 };
 
 }  // namespace tamrikon

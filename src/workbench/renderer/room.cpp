@@ -28,4 +28,10 @@ QSize roomInside(const QAbstractScrollArea& area, int characters, int lines, int
   return {widthOf(area, characters) + margins + scrollBar, lines * lineHeight + margins};
 }
 
+QSize leastRoom(const QAbstractScrollArea& area, const QSize& room) {
+  constexpr int kCharacters = 16;
+  constexpr int kLines = 3;
+  return room.boundedTo(roomInside(area, kCharacters, kLines, heightOf(area, 1)));
+}
+
 }  // namespace tamrikon

@@ -17,7 +17,11 @@ int itemHeight(const QWidget& widget);
 /// A scroll area with room for that much text, or items, which are `lineHeight` high.
 QSize roomInside(const QAbstractScrollArea& area, int characters, int lines, int lineHeight);
 
-/// A widget with a size of text in place of the pixels that its class has as its default.
+/// The least room for a scroll area that would like to have `room`: a few lines of text.
+QSize leastRoom(const QAbstractScrollArea& area, const QSize& room);
+
+/// A widget with a size of text in place of the pixels that its class has as its default. Where the
+/// screen is small it shrinks.
 template <typename Base>
 class Sized : public Base {
  public:
@@ -28,7 +32,7 @@ class Sized : public Base {
     this->updateGeometry();
   }
   QSize sizeHint() const override { return room_; }
-  QSize minimumSizeHint() const override { return room_; }
+  QSize minimumSizeHint() const override { return leastRoom(*this, room_); }
 
  private:
   QSize room_;

@@ -104,9 +104,12 @@ void LabelPeer::setBuddy(Peer& box) {
 
 void LabelPeer::update() {
   Peer::update();
-  if (hasFixedFont_ != label_.hasFixedFont()) {
+  if (hasFixedFont_ != label_.hasFixedFont() || isHeading_ != label_.isHeading()) {
     hasFixedFont_ = label_.hasFixedFont();
-    widget_->setFont(hasFixedFont_ ? fixedFont() : QFont());
+    isHeading_ = label_.isHeading();
+    QFont font = hasFixedFont_ ? fixedFont() : QFont();
+    if (isHeading_) font.setBold(true);
+    widget_->setFont(font);
   }
   const QString plain = linesToQt(label_.caption());
   // Without a buddy, Qt takes "&" as it is.

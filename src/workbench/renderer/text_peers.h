@@ -56,6 +56,7 @@ class LabelPeer final : public Peer {
   Label& label_;
   CaptionLabel* widget_;
   bool hasFixedFont_ = false;
+  bool isHeading_ = false;
 };
 
 class StatusBarPeer final : public Peer {

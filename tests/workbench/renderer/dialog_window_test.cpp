@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTimer>
 #include <stdexcept>
@@ -105,6 +106,37 @@ TEST_F(DialogWindowTest, OwnerMayTakeItsDialogWithIt) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   });
   EXPECT_FALSE(dialog.isShown());
+}
+
+/// Wants more room than any screen has.
+struct HugeDialog final : Dialog {
+  explicit HugeDialog(Toolkit& toolkit) : Dialog(toolkit, "Huge", "Huge") {}
+  TabStrip Tabs{*this, "Tabs", {{"one", "One", ""}}};
+  TextBox Text{*this, "Text"};
+  ListBox List{*this, "List"};
+  CommandButton Ok{*this, "Ok", "OK"};
+  Layout layout() override {
+    return column({tabbed(Tabs, {column({item(Text).sized(400), item(List).sized(40, 200)})}),
+                   row({space(), item(Ok)})});
+  }
+  void onActivate() override {
+    const QWidget& window = test::WindowUser::window();
+    EXPECT_TRUE(window.screen()->availableGeometry().contains(window.frameGeometry()));
+    EXPECT_TRUE(window.rect().contains(test::WindowUser::widget(Ok).geometry()));
+    close();
+  }
+};
+
+TEST_F(DialogWindowTest, StaysOnTheScreenWithItsButtons) {
+  HugeDialog(toolkit).showModal();
+}
+
+TEST_F(DialogWindowTest, GetsTheFocusBackFromAMessage) {
+  show([&] {
+    test::whenShown([](QWidget& box) { box.close(); });
+    toolkit.messageBox({"Title", "Text"});
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&user.window()));
+  });
 }
 
 }  // namespace

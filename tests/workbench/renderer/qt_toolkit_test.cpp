@@ -49,6 +49,43 @@ TEST_F(QtToolkitTest, MessageBoxShowsItsTextAsItIs) {
   toolkit.messageBox({"Title", "<b>a</b>\r\n& b", MessageButtons::ok, MessageIcon::information});
 }
 
+TEST_F(QtToolkitTest, MessageBoxShowsItsWholeTitle) {
+  for (const int length : {10, 60, 300}) {
+    const std::string title = "Error reading /" + std::string(length, 'x') + " file";
+    test::whenShown([&](QWidget& window) {
+      auto& box = dynamic_cast<QMessageBox&>(window);
+      const bool isWide = box.width() >= box.fontMetrics().horizontalAdvance(box.windowTitle());
+      EXPECT_TRUE(isWide || box.text().startsWith(box.windowTitle())) << length;
+      box.close();
+    });
+    toolkit.messageBox({title, "Text"});
+  }
+}
+
+TEST_F(QtToolkitTest, OpensDocumentsWithoutWaiting) {
+  const test::TempFolder folder;
+  const std::string opener =
+      folder.put("bin/xdg-open", "#!/bin/sh\ncase $1 in *a) sleep 2;; esac; exit 3\n");
+  std::filesystem::permissions(opener, std::filesystem::perms::owner_all);
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", QByteArray::fromStdString(folder / "bin:") + path);
+  QElapsedTimer time;
+  time.start();
+  EXPECT_TRUE(toolkit.openDocument(folder.put("a", ""), {"a", "Cannot"}));
+  EXPECT_TRUE(toolkit.openDocument(folder.put("b", ""), {"b", "Cannot"}));
+  EXPECT_LT(time.elapsed(), 1000);
+  QStringList shown;
+  const auto note = [&](QWidget& box) {
+    shown += box.windowTitle();
+    box.close();
+  };
+  test::whenShown(note);
+  EXPECT_FALSE(toolkit.openDocument(folder / "gone", {"gone", "Cannot"}));
+  test::whenShown(note);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown == QStringList{"gone", "b"}; }));
+  qputenv("PATH", path);
+}
+
 TEST_F(QtToolkitTest, FileToSaveGetsTheExtensionOfItsFilter) {
   const test::TempFolder folder;
   const FileChoice choice{"Save", "Text (*.txt)|*.txt|All files (*.*)|*.*", folder.path(), "name"};
