@@ -38,6 +38,7 @@ struct Connect::Connection {
                 dataFolderOf(std::string(folderOf(componentPath())))),
         addIn(session, host, nativeUserSettings()) {
     addIn.code = std::make_shared<ServerLock>();
+    session.showsPrograms = true;
   }
 
   ComPtr<IAddInApplication> application;

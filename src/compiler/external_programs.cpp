@@ -58,9 +58,10 @@ bool ExternalPrograms::runScript(const std::string& text, const std::string& scr
   for (const std::string_view line : split(text, '\r')) {
     const std::string_view command = trim(line);
     if (command.empty()) continue;
-    batch += CommandScript::linesFor(command, log);
+    batch += CommandScript::linesFor(command, log, session_.showsPrograms);
     commands.emplace_back(command);
   }
+  if (session_.showsPrograms) command_.emplace(session_.files.files(), log, commands);
   TextFiles files(session_.files.files(), session_.fileErrors);
   const CodePage* page = CodePage::find(CommandScript::codePage(codePage));
   files.setCodePage(page != nullptr ? *page : session_.files.codePage());
@@ -107,10 +108,19 @@ bool ExternalPrograms::runProcessAndWait(const std::string& application,
   }
   const RunningProgram running(session_, handle);
   while (!session_.processes.WaitForSingleObject(handle, kEventPause)) {
+    showStatus();
     session_.toolkit.checkpoint();
     if (std::exchange(session_.endsPrograms, false)) session_.processes.TerminateProcess(handle);
   }
   return true;
+}
+
+void ExternalPrograms::showStatus() {
+  if (!command_) return;
+  const char* const doing = session_.cancelRequested
+                                ? "Waiting for the end (Cancel again asks whether to end it) of: "
+                                : "Running: ";
+  session_.progressDlg.setStatusLine(doing + command_->now());
 }
 
 int ExternalPrograms::threadCodePage() {

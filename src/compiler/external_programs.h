@@ -2,10 +2,12 @@
 // what they printed.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "compiler/running_command.h"
 #include "compiler/session.h"
 
 namespace tamrikon {
@@ -37,7 +39,10 @@ class ExternalPrograms {
   bool runScript(const std::string& text, const std::string& script, const std::string& log);
   void removeFiles(const std::string& script, const std::string& log);
 
+  void showStatus();
+
   Session& session_;
+  std::optional<RunningCommand> command_;  // where it is shown
 };
 
 }  // namespace tamrikon

@@ -3,6 +3,7 @@
 #include <exception>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 #include "compiler/session.h"
 #include "compiler/store.h"
@@ -19,7 +20,7 @@ ProgressDlg::ProgressDlg(Session& session)
   OKButton.setRole(ButtonRole::default_);
   CancelButton.setRole(ButtonRole::cancel);
   OKButton.onClick = [this] { close(); };
-  CancelButton.onClick = [this] { session_.cancelRequested = true; };
+  CancelButton.onClick = [this] { cancel(); };
   Command1.onClick = [this] { showDocumentation(); };
 }
 
@@ -53,6 +54,7 @@ void ProgressDlg::startCompile() {
   Text1.setText(session_.compileWholeGroup ? session_.groupLogText : "");
   session_.cancelRequested = false;
   if (!session_.compileWholeGroup) session_.writtenFiles.beginRun();
+  bool hasMessage = true;  // that the user can read
   try {
     if (VBInstance == nullptr) throw std::logic_error("no IDE was given");
     // A template that can't be loaded has set cancelRequested, if the user gave up at the dialog.
@@ -64,6 +66,7 @@ void ProgressDlg::startCompile() {
     outcome_ = CompileOutcome::failed;
   } catch (const std::exception&) {
     outcome_ = CompileOutcome::failed;
+    hasMessage = false;
   }
   for (const std::string& line : session_.writtenFiles.endProject()) {
     if (session_.warn) session_.warn(line);
@@ -73,10 +76,18 @@ void ProgressDlg::startCompile() {
   setCaption(session_.cancelRequested ? "Compilation aborted by user" : "Compilation status:");
   if (outcome_ == CompileOutcome::failed) {
     toolkit().beep();
-    close();
-    return;
+    if (!hasMessage) return close();
   }
   OKButton.setFocus();
+}
+
+void ProgressDlg::cancel() {
+  if (!std::exchange(session_.cancelRequested, true) || !session_.programsRun) return;
+  const MessageBox question{"Cancel",
+                            "The compile stops when the template's programs have ended. End them "
+                            "now?",
+                            MessageButtons::yesNo, MessageIcon::question};
+  if (toolkit().messageBox(question) == MessageAnswer::yes) session_.endsPrograms = true;
 }
 
 bool ProgressDlg::showDocumentation() {

@@ -34,7 +34,8 @@ class ProgressDlg final : public Dialog {
   CommandButton OKButton{*this, "OKButton", "Close", "Close the window"};
 
   /// Gives the session a new store, loads the template and compiles the IDE's active project with
-  /// the session's settings. A failure that nothing below caught closes the dialog.
+  /// the session's settings. A failure that nothing below caught closes the dialog, unless it is
+  /// one that the log tells of.
   void startCompile();
 
   /// Of the last compile.
@@ -55,6 +56,9 @@ class ProgressDlg final : public Dialog {
   void onActivate() override;
   bool onQueryClose() override { return false; }
   void setRunning(bool running);
+
+  /// While programs run, the second request asks whether to end them.
+  void cancel();
 
   Session& session_;
   CompileOutcome outcome_ = CompileOutcome::finished;

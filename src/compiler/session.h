@@ -45,6 +45,7 @@ class Session {
   WrittenFiles writtenFiles;       // by the compile of a project or a group
   bool runsPrograms = true;        // whether a template's external programs run
   bool showsCommands = false;      // they are shown with their commands beside the log too
+  bool showsPrograms = false;      // which one runs, and its error output, for who has no terminal
   bool programsRun = false;        // they do so now
   bool endsPrograms = false;       // those that run now are to end
   PageCount pages;                 // that were written

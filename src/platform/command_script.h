@@ -29,9 +29,11 @@ struct CommandScript {
   static std::string header(int ansiPage, const std::string& templates);
 
   /// The lines, each behind a line end, that add `command` itself, between two marks, to the log at
-  /// `logPath` and then what it writes to its standard output.
+  /// `logPath` and then what it writes to its standard output, and if so wanted to its error
+  /// output.
   static std::string_view mark() { return "\x1E"; }
-  static std::string linesFor(std::string_view command, const std::string& logPath);
+  static std::string linesFor(std::string_view command, const std::string& logPath,
+                              bool withErrors);
 };
 
 }  // namespace tamrikon

@@ -34,12 +34,14 @@ std::string CommandScript::header(int, const std::string& templates) {
   return "#!/bin/sh\nexport TEMPLATE_PATH=" + quoted(nativePath(templates));
 }
 
-std::string CommandScript::linesFor(std::string_view command, const std::string& logPath) {
+std::string CommandScript::linesFor(std::string_view command, const std::string& logPath,
+                                    bool withErrors) {
   const std::string line = quoted(command);
   const std::string target = " >> " + quoted(nativePath(logPath));
   // "command eval" keeps the script running behind a line that isn't shell syntax, and holds the
   // line apart from the redirection, so that a digit at its end stays an argument.
-  return "\nprintf '\\036%s\\036\\n' " + line + target + "\ncommand eval " + line + target;
+  return "\nprintf '\\036%s\\036\\n' " + line + target + "\ncommand eval " + line + target +
+         (withErrors ? " 2>&1" : "");
 }
 
 }  // namespace tamrikon

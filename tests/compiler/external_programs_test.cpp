@@ -46,6 +46,23 @@ TEST_F(ExternalProgramsTest, RunsEachLineAsItStandsAndLogsItWithItsOutput) {
   EXPECT_TRUE(std::filesystem::is_empty(session_.settings.outputPath));
 }
 
+TEST_F(ExternalProgramsTest, ShowsInADialogWhichOneRunsAndItsErrors) {
+  session_.showsPrograms = true;
+  CommandButton& cancel = session_.progressDlg.CancelButton;
+  std::string status;
+  int questions = 0;
+  toolkit_.answers = {MessageAnswer::no, MessageAnswer::yes};
+  toolkit_.onCheckpoint = [&] {
+    status = session_.progressDlg.StatusBar1.panel(1);
+    if (!status.ends_with(": sleep 20")) return;
+    cancel.userClicked();
+    questions = static_cast<int>(toolkit_.boxes.size());
+  };
+  EXPECT_EQ(run("echo err >&2\rsleep 20\recho end"), "echo err >&2\nerr\nsleep 20\n\n");
+  EXPECT_EQ(questions, 2) << "the first request waits, each later one asks";
+  EXPECT_TRUE(status.starts_with("Waiting for the end")) << status;
+}
+
 TEST_F(ExternalProgramsTest, KeepsThemApartFromCtrlCOnTheTerminal) {
   EXPECT_EQ(run("kill -s INT 0"), "kill -s INT 0\n\n") << "their group isn't that of this test";
 }

@@ -167,5 +167,16 @@ TEST_F(ProgressDlgTest, FailureThatNothingCatchesBeepsAndClosesIt) {
   EXPECT_TRUE(toolkit_.boxes.empty());
 }
 
+TEST_F(ProgressDlgTest, InputOutOfProportionLeavesItOpenWithTheLog) {
+  open();
+  toolkit_.onCheckpoint = [] { throw std::length_error("too much"); };
+  toolkit_.onDialog("ProgressDlg", [&](User& user) {
+    EXPECT_TRUE(dialog_.Text1.text().ends_with("ERROR: too much\r\n"));
+    user.click(dialog_.OKButton);
+  });
+  dialog_.showModal();
+  EXPECT_EQ(dialog_.outcome(), CompileOutcome::failed);
+}
+
 }  // namespace
 }  // namespace tamrikon
