@@ -56,6 +56,7 @@ class Example {
     }
     qputenv("TAMRIKON_HOME", folder_.c_str());
     qputenv("XDG_CONFIG_HOME", (folder_ / "config").c_str());
+    qputenv("XDG_STATE_HOME", (folder_ / "state").c_str());
   }
   ~Example() { std::filesystem::remove_all(folder_); }
   Example(const Example&) = delete;

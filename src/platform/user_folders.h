@@ -9,4 +9,7 @@ namespace tamrikon {
 /// to be made. Empty for a user without a home.
 std::string userConfigFolder();
 
+/// The same for what programs note while they run, such as work that isn't saved.
+std::string userStateFolder();
+
 }  // namespace tamrikon

@@ -49,6 +49,17 @@ std::pair<QTextBlock, QTextBlock> touchedBlocks(const QTextCursor& cursor) {
 
 }  // namespace
 
+void CodeEditor::setUserTags(const QStringList& tags) {
+  highlighter_->setUserTags(tags);
+}
+
+void CodeEditor::showLines(int first, int last) {
+  const int top = topLine();
+  const int room = std::max(viewport()->height() / std::max(fontMetrics().lineSpacing(), 1), 1);
+  if (first >= top && last < top + room) return;
+  setTopLine(std::max(first - std::max(room - (last - first + 1), 0) / 2, 1));
+}
+
 CodeEditor::CodeEditor(QWidget* parent)
     : QPlainTextEdit(parent), colours_(codeColours(palette())), margin_(new LineNumberArea(*this)) {
   setObjectName("codeEditor");

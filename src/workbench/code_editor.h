@@ -26,6 +26,10 @@ class CodeEditor final : public QPlainTextEdit {
 
   int caretLine() const { return textCursor().blockNumber() + 1; }
 
+  /// Scrolls if some of these lines are out of sight, so that as many of them as there is room for
+  /// stand in the middle.
+  void showLines(int first, int last);
+
   /// Moves the caret to the start of a line that is then well in sight.
   void goToLine(int line);
 
@@ -41,6 +45,9 @@ class CodeEditor final : public QPlainTextEdit {
   const CodeColours& colours() const { return colours_; }
 
   void setCodeFont(const QFont& font);
+
+  /// Tags beside Tamrikon's own, such as "@todo", which are coloured like those.
+  void setUserTags(const QStringList& tags);
 
  signals:
   void undoWanted();

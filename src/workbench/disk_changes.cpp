@@ -1,27 +1,14 @@
 #include "workbench/disk_changes.h"
 
 #include <QApplication>
-#include <QCryptographicHash>
-#include <QFile>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
+#include "workbench/file_content.h"
 #include "workbench/lists_in_words.h"
 #include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
-namespace {
-
-/// Stands for the content of a file.
-QByteArray contentOf(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return "gone";
-  QCryptographicHash hash(QCryptographicHash::Sha1);
-  hash.addData(&file);
-  return hash.result();
-}
-
-}  // namespace
 
 DiskChanges::DiskChanges(ProjectKeeper& keeper, Prompts& prompts)
     : keeper_(keeper), prompts_(prompts) {

@@ -148,6 +148,7 @@ void EditorBinding::change(int start, int end, QString text) {
   text = text.sliced(same, text.size() - same - sameEnd);
   cursor.setPosition(start + static_cast<int>(same));
   cursor.setPosition(end - static_cast<int>(sameEnd), QTextCursor::KeepAnchor);
+  changeStart_ = cursor.selectionStart();
   cursor.insertText(text);
   changeEnd_ = cursor.position();
 }
@@ -173,7 +174,8 @@ void EditorBinding::moveCaretToChange() {
   QTextCursor cursor = editor_.textCursor();
   cursor.setPosition(changeEnd_);
   editor_.setTextCursor(cursor);
-  editor_.ensureCursorVisible();
+  const QTextDocument& document = *editor_.document();
+  editor_.showLines(document.findBlock(changeStart_).blockNumber() + 1, cursor.blockNumber() + 1);
 }
 
 }  // namespace tamrikon

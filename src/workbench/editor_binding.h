@@ -40,8 +40,9 @@ class EditorBinding final : public QObject, private SourceObserver {
 
   CodeEditor& editor_;
   HostModule& module_;
-  int moduleLines_ = 0;    // 0 for a module without lines, which a document can't be
-  int changeEnd_ = -1;     // position in the document behind what changed last from elsewhere
+  int moduleLines_ = 0;   // 0 for a module without lines, which a document can't be
+  int changeStart_ = -1;  // positions in the document of what changed last from elsewhere
+  int changeEnd_ = -1;
   int indentedFirst_ = 0;  // lines that the module has taken otherwise than the document has them
   int indentedCount_ = 0;
   bool isUserEdit_ = false;  // the module is being told of one

@@ -25,6 +25,7 @@ void MessageList::show(const QList<Message>& messages) {
   clear();
   messages_.clear();
   for (const Message& message : messages) add(message);
+  if (messages.isEmpty()) emit emptied();
 }
 
 void MessageList::add(const Message& message) {

@@ -29,6 +29,9 @@ class MessageList final : public QListWidget {
   /// The user wants to go to a message's place.
   void placeChosen(HostModule& module, const Selection& place);
 
+  /// Nothing is left in it.
+  void emptied();
+
  public slots:
   void copy() const;
 

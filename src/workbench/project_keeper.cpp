@@ -1,5 +1,6 @@
 #include "workbench/project_keeper.h"
 
+#include <algorithm>
 #include <set>
 
 #include "workbench/lists_in_words.h"
@@ -100,7 +101,7 @@ bool ProjectKeeper::letGo() {
 }
 
 bool ProjectKeeper::save(HostModule& module) {
-  QStringList failures;
+  Failures failures;
   const bool isSaved = saveOne(module, failures);
   tellFailures(failures);
   emit saved();
@@ -108,7 +109,7 @@ bool ProjectKeeper::save(HostModule& module) {
 }
 
 bool ProjectKeeper::saveAll() {
-  QStringList failures;
+  Failures failures;
   bool areSaved = true;
   for (HostModule* module : modulesOf(*ide_)) {
     if (isUnsaved(*module)) areSaved = saveOne(*module, failures) && areSaved;
@@ -122,20 +123,26 @@ bool ProjectKeeper::saveAll() {
   return areSaved;
 }
 
-bool ProjectKeeper::saveOne(HostModule& module, QStringList& failures) {
+bool ProjectKeeper::saveOne(HostModule& module, Failures& failures) {
   if (!module.isChanged() && !ide_->changedOnDisk(module)) return true;
   const auto onConflict = howToWrite(module, module.path());
   if (!onConflict) return false;
   const auto failure = ide_->save(module, *onConflict);
-  if (failure) failures += toQt(failure->text);
-  return !failure;
+  if (!failure) return true;
+  failures.messages += toQt(failure->text);
+  if (failures.module == nullptr && failure->line > 0) {
+    failures.module = &module;
+    failures.line = failure->line;
+    failures.column = failure->column;
+  }
+  return false;
 }
 
-bool ProjectKeeper::saveOne(HostProject& project, QStringList& failures) {
+bool ProjectKeeper::saveOne(HostProject& project, Failures& failures) {
   const auto onConflict = howToWrite(project, project.FileName());
   if (!onConflict) return false;
   const auto failure = ide_->saveProject(project, *onConflict);
-  if (failure) failures += toQt(failure->text);
+  if (failure) failures.messages += toQt(failure->text);
   return !failure;
 }
 
@@ -158,11 +165,15 @@ std::optional<OnConflict> ProjectKeeper::howToWrite(const Saved& saved, const st
   return std::nullopt;
 }
 
-void ProjectKeeper::tellFailures(const QStringList& failures) {
-  if (failures.isEmpty()) return;
+void ProjectKeeper::tellFailures(const Failures& failures) {
+  if (failures.messages.isEmpty()) return;
   prompts_.ask({"Not everything could be saved. The changes are still in the editor.",
-                inLines(failures),
+                inLines(failures.messages),
                 {"OK"}});
+  if (failures.module == nullptr) return;
+  const int column = std::max(failures.column, 1);
+  const int end = failures.column == 0 ? column : column + 1;  // a hidden line can't be shown
+  emit saveFailed(*failures.module, {failures.line, column, failures.line, end});
 }
 
 }  // namespace tamrikon

@@ -55,13 +55,24 @@ class ProjectKeeper final : public QObject {
   /// Files have been written.
   void saved();
 
+  /// The module couldn't be written because of a character, as the user has been told.
+  void saveFailed(HostModule& module, const Selection& character);
+
  private:
+  struct Failures {
+    QStringList messages;
+    HostModule* module =
+        nullptr;  // the first one that failed because of a character, and its place
+    int line = 0;
+    int column = 0;
+  };
+
   bool letGo();
-  bool saveOne(HostModule& module, QStringList& failures);
-  bool saveOne(HostProject& project, QStringList& failures);
+  bool saveOne(HostModule& module, Failures& failures);
+  bool saveOne(HostProject& project, Failures& failures);
   template <typename Saved>
   std::optional<OnConflict> howToWrite(const Saved& saved, const std::string& path);
-  void tellFailures(const QStringList& failures);
+  void tellFailures(const Failures& failures);
 
   Prompts& prompts_;
   FileSystem& files_;

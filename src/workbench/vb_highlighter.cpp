@@ -14,6 +14,12 @@ void VbHighlighter::setColours(const CodeColours& colours) {
   rehighlight();
 }
 
+void VbHighlighter::setUserTags(const QStringList& tags) {
+  if (userTags_ == tags) return;
+  userTags_ = tags;
+  rehighlight();
+}
+
 void VbHighlighter::makeFormats(const CodeColours& colours) {
   const auto set = [&](VbToken token, const QColor& colour) -> QTextCharFormat& {
     QTextCharFormat& format = formats_[static_cast<std::size_t>(token)];
@@ -31,7 +37,7 @@ void VbHighlighter::makeFormats(const CodeColours& colours) {
 
 void VbHighlighter::highlightBlock(const QString& text) {
   const int state = std::max(previousBlockState(), 0);  // -1 above the first line
-  setCurrentBlockState(scanVbLine(text, state, spans_));
+  setCurrentBlockState(scanVbLine(text, state, userTags_, spans_));
   for (const VbSpan& span : spans_) {
     setFormat(static_cast<int>(span.start), static_cast<int>(span.length),
               formats_[static_cast<std::size_t>(span.token)]);

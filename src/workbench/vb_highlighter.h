@@ -18,13 +18,15 @@ class VbHighlighter final : public QSyntaxHighlighter {
 
   /// Colours all lines anew.
   void setColours(const CodeColours& colours);
+  void setUserTags(const QStringList& tags);
 
  private:
   void highlightBlock(const QString& text) override;
   void makeFormats(const CodeColours& colours);
 
   std::array<QTextCharFormat, 7> formats_;  // by VbToken
-  std::vector<VbSpan> spans_;               // kept, as lines come by thousands
+  QStringList userTags_;
+  std::vector<VbSpan> spans_;  // kept, as lines come by thousands
 };
 
 }  // namespace tamrikon

@@ -32,9 +32,9 @@ constexpr auto kKeywords = std::to_array<std::string_view>(
      "wend",      "while",   "with",       "withevents", "write",    "xor"});
 static_assert(std::is_sorted(kKeywords.begin(), kKeywords.end()));
 
-constexpr auto kTags = std::to_array<std::string_view>(
-    {"@see", "@example", "@param", "@set", "@rem", "@return", "@author", "@revision", "@version",
-     "@same", "@includesource", "@user1", "@user2", "@user3", "@user4", "@user5"});
+constexpr auto kTags = std::to_array<std::string_view>({"@see", "@example", "@param", "@set",
+                                                        "@rem", "@return", "@author", "@revision",
+                                                        "@version", "@same", "@includesource"});
 
 bool isBlank(QChar c) {
   return c == u' ' || c == u'\t';
@@ -68,7 +68,8 @@ bool isContinued(QStringView line) {
 
 class LineScanner {
  public:
-  LineScanner(QStringView line, std::vector<VbSpan>& spans) : line_(line), spans_(spans) {}
+  LineScanner(QStringView line, const QStringList& userTags, std::vector<VbSpan>& spans)
+      : line_(line), userTags_(userTags), spans_(spans) {}
 
   int scan(int state) {
     spans_.clear();
@@ -140,15 +141,20 @@ class LineScanner {
   void scanCommentText(qsizetype start, bool isDocumentation) {
     qsizetype tag = start + 1;
     while (tag < line_.size() && line_[tag] == u' ') ++tag;
-    // The tags are found by their beginnings, so the whole word shows as one.
-    const bool hasTag = isDocumentation && std::any_of(kTags.begin(), kTags.end(), [&](auto word) {
-                          return line_.sliced(tag).startsWith(latin(word));
-                        });
-    if (!hasTag) return add(start, line_.size() - start, VbToken::comment);
+    if (!isDocumentation || !hasTag(line_.sliced(tag)))
+      return add(start, line_.size() - start, VbToken::comment);
     const qsizetype end = tag + 1 + wordAt(tag + 1).size();
     add(start, tag - start, VbToken::comment);
     add(tag, end - tag, VbToken::tag);
     add(end, line_.size() - end, VbToken::comment);
+  }
+
+  /// Tags are found by their beginnings, so the whole word shows as one.
+  bool hasTag(QStringView text) const {
+    const auto isTag = [&](std::string_view tag) { return text.startsWith(latin(tag)); };
+    const auto isUserTag = [&](const QString& tag) { return text.startsWith(tag); };
+    return std::any_of(kTags.begin(), kTags.end(), isTag) ||
+           std::any_of(userTags_.begin(), userTags_.end(), isUserTag);
   }
 
   void scanWord(QStringView word) {
@@ -244,14 +250,16 @@ class LineScanner {
   }
 
   QStringView line_;
+  const QStringList& userTags_;
   std::vector<VbSpan>& spans_;
   qsizetype at_ = 0;
 };
 
 }  // namespace
 
-int scanVbLine(QStringView line, int state, std::vector<VbSpan>& spans) {
-  return LineScanner(line, spans).scan(state);
+int scanVbLine(QStringView line, int state, const QStringList& userTags,
+               std::vector<VbSpan>& spans) {
+  return LineScanner(line, userTags, spans).scan(state);
 }
 
 }  // namespace tamrikon

@@ -1,6 +1,7 @@
 // Divides a line of Visual Basic source into what an editor colours.
 #pragma once
 
+#include <QStringList>
 #include <QStringView>
 #include <vector>
 
@@ -27,7 +28,9 @@ struct VbSpan {
 enum VbLineState { kPlain = 0, kInComment = 1, kInDocumentation = 2 };
 
 /// Replaces `spans` by those of `line`, in their order; the words between them are in none. Returns
-/// the state in which the next line begins.
-int scanVbLine(QStringView line, int state, std::vector<VbSpan>& spans);
+/// the state in which the next line begins. `userTags` are tags beside Tamrikon's own, such as
+/// "@todo".
+int scanVbLine(QStringView line, int state, const QStringList& userTags,
+               std::vector<VbSpan>& spans);
 
 }  // namespace tamrikon

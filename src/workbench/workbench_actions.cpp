@@ -77,6 +77,7 @@ WorkbenchActions::WorkbenchActions(QMainWindow& window) {
       make(window, "nextWindow", "&Next", {QKeySequence("Ctrl+Tab"), QKeySequence("Ctrl+F6")});
   previousWindow = make(window, "previousWindow", "&Previous",
                         {QKeySequence("Ctrl+Shift+Tab"), QKeySequence("Ctrl+Shift+F6")});
+  contents = make(window, "contents", "&Contents", key("F1"));
   about = make(window, "about", "&About Tamrikon Workbench");
 
   window.menuBar()->setObjectName("menuBar");
@@ -119,6 +120,8 @@ WorkbenchActions::WorkbenchActions(QMainWindow& window) {
   windows->addActions({nextWindow, previousWindow});
 
   QMenu* help = addMenu(window, "helpMenu", "&Help");
+  help->addAction(contents);
+  help->addSeparator();
   help->addAction(about);
 
   codeWindow = new QMenu("Code Window", &window);

@@ -49,6 +49,7 @@ struct WorkbenchActions {
   QAction* nextWindow;
   QAction* previousWindow;
 
+  QAction* contents;
   QAction* about;
 
   QMenu* recent;

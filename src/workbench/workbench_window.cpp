@@ -1,7 +1,10 @@
 #include "workbench/workbench_window.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QDockWidget>
+#include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
@@ -11,6 +14,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "base/paths.h"
+#include "platform/user_folders.h"
 #include "workbench/block_text.h"
 #include "workbench/program_name.h"
 #include "workbench/renderer/qt_text.h"
@@ -21,6 +26,29 @@ namespace {
 constexpr auto kGeometryKey = "Window/Geometry";
 constexpr auto kStateKey = "Window/State";
 constexpr int kStateVersion = 1;
+
+/// In the folder of the registry, where it is moved to from the place that it once had.
+QString userSettingsFile() {
+  const QSettings old("Tamrikon", "Tamrikon");
+  if (userConfigFolder().empty()) return old.fileName();
+  const QString folder = toQt(joinPath(userConfigFolder(), "tamrikon"));
+  const QString file = folder + "/workbench.ini";
+  if (!QFile::exists(file) && QFile::exists(old.fileName()) && QDir().mkpath(folder)) {
+    QSettings moved(file, QSettings::IniFormat);
+    for (const QString& key : old.allKeys()) moved.setValue(key, old.value(key));
+    moved.sync();
+    if (moved.status() == QSettings::NoError && QFile::remove(old.fileName())) {
+      QDir().rmdir(QFileInfo(old.fileName()).path());
+    }
+  }
+  return file;
+}
+
+/// Empty for a user without a home.
+QString folderOfUnsavedEdits() {
+  const std::string folder = userStateFolder();
+  return folder.empty() ? QString() : toQt(joinPath(folder, "tamrikon/unsaved"));
+}
 
 /// The path of a project among what is dragged, or empty.
 QString projectIn(const QMimeData& data) {
@@ -52,12 +80,12 @@ void acceptCopy(QDropEvent& event) {
 WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options)
     : ownPrompts_(std::make_unique<BoxPrompts>(*this)),
       prompts_(options.prompts != nullptr ? *options.prompts : *ownPrompts_),
-      settings_(options.settingsFile.isEmpty() ? QSettings("Tamrikon", "Tamrikon").fileName()
-                                               : options.settingsFile,
-                options.settingsFile.isEmpty() ? QSettings::NativeFormat : QSettings::IniFormat),
+      settings_(options.settingsFile.isEmpty() ? userSettingsFile() : options.settingsFile,
+                QSettings::IniFormat),
       recent_(settings_),
       keeper_(prompts_, nativeFileSystem()),
       diskChanges_(keeper_, prompts_),
+      unsavedEdits_(keeper_, prompts_, folderOfUnsavedEdits()),
       actions_(*this),
       tabs_(*new CodeTabs(this)),
       findBar_(*new FindBar(this)),
@@ -131,10 +159,12 @@ void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
   for (const QString& warning : warnings) messages += Message{warning, nullptr, {}};
   messages_.show(messages);
   if (!warnings.isEmpty()) messagesDock_->show();
+  userTags_.follow(&ide);
   showState();
   for (int i = 1; i <= ide.VBProjects().Count(); ++i) {
     screen_.events().projects().projectAdded(ide.VBProjects().Item(i));
   }
+  unsavedEdits_.offer();
 }
 
 void WorkbenchWindow::showWarning(const std::string& line) {
@@ -150,6 +180,7 @@ void WorkbenchWindow::projectClosing(HostIde& ide) {
   screen_.clear();
   explorer_.show(nullptr);
   messages_.show({});
+  userTags_.follow(nullptr);
   ide.setScreen(nullptr);
 }
 
@@ -220,6 +251,7 @@ void WorkbenchWindow::restoreLayout() {
   resizeDocks({messagesDock_}, {140}, Qt::Vertical);
   restoreGeometry(settings_.value(kGeometryKey).toByteArray());
   restoreState(settings_.value(kStateKey).toByteArray(), kStateVersion);
+  messagesDock_->hide();  // until there are some
 }
 
 void WorkbenchWindow::changeEvent(QEvent* event) {

@@ -19,6 +19,8 @@
 #include "workbench/prompts.h"
 #include "workbench/recent_files.h"
 #include "workbench/recent_menu.h"
+#include "workbench/unsaved_edits.h"
+#include "workbench/user_tags.h"
 #include "workbench/workbench_actions.h"
 #include "workbench/workbench_add_in_host.h"
 #include "workbench/workbench_ide.h"
@@ -83,6 +85,8 @@ class WorkbenchWindow final : public QMainWindow {
 
   /// Closes a code window for the user, who may cancel.
   void closeCode(CodeWindow& window);
+  void showPlace(HostModule& module, const Selection& place);
+  void showUserTags(const CodeWindow& window);
   void frontChanged();
   void showState();
   void showCaret();
@@ -97,6 +101,8 @@ class WorkbenchWindow final : public QMainWindow {
   RecentFiles recent_;
   ProjectKeeper keeper_;
   DiskChanges diskChanges_;
+  UnsavedEdits unsavedEdits_;
+  UserTags userTags_;
   WorkbenchActions actions_;
   CodeTabs& tabs_;
   FindBar& findBar_;

@@ -5,7 +5,8 @@
 
 #include "addin/host/add_in_manager_dlg.h"
 #include "addin/host/own_component.h"
-#include "platform/open_document.h"
+#include "platform/data_folder.h"
+#include "toolkit/open_manual.h"
 #include "workbench/lists_in_words.h"
 #include "workbench/program_name.h"
 #include "workbench/project_search.h"
@@ -36,6 +37,7 @@ void WorkbenchWindow::connectCommands() {
   on(actions_.explorer, [this] { showDock(*explorerDock_); });
   on(actions_.messages, [this] { showDock(*messagesDock_); });
   on(actions_.addInManager, [this] { manageAddIns(); });
+  on(actions_.contents, [this] { openManual(addInHost_.toolkit(), dataFolder()); });
   on(actions_.about, [this] { tellAbout(); });
   connect(&recentMenu_, &RecentMenu::openWanted, this, &WorkbenchWindow::openProject);
 }
@@ -48,6 +50,7 @@ void WorkbenchWindow::connectParts() {
     showState();
     for (const std::string& warning : ide()->takeSaveWarnings()) showWarning(warning);
   });
+  connect(&keeper_, &ProjectKeeper::saveFailed, this, &WorkbenchWindow::showPlace);
   connect(&diskChanges_, &DiskChanges::reopenWanted, this, &WorkbenchWindow::reopenProject);
   connect(&diskChanges_, &DiskChanges::reloaded, &explorer_, &ProjectExplorer::refresh);
   connect(&tabs_, &CodeTabs::frontChanged, this, &WorkbenchWindow::frontChanged);
@@ -58,17 +61,23 @@ void WorkbenchWindow::connectParts() {
   connect(&explorer_, &ProjectExplorer::codeWanted, this,
           [this](HostModule& module) { showCode(module); });
   connect(&explorer_, &ProjectExplorer::documentWanted, this, [this](const QString& path) {
-    if (openDocument(fromQt(path))) return;
-    prompts_.ask({"There is no program that opens this file.", path, {"OK"}});
+    addInHost_.toolkit().openDocument(
+        fromQt(path),
+        {"Open",
+         "This file can't be opened. Either it is gone, or the desktop has no program "
+         "for it:\r" +
+             fromQt(path)});
   });
   connect(&explorer_, &ProjectExplorer::activationWanted, this,
           [this](HostProject& project) { ide()->activate(project); });
-  connect(&messages_, &MessageList::placeChosen, this,
-          [this](HostModule& module, const Selection& place) {
-            CodeEditor& editor = showCode(module).editor();
-            editor.setSelection(place);
-            editor.centerCursor();
-          });
+  connect(&messages_, &MessageList::placeChosen, this, &WorkbenchWindow::showPlace);
+  connect(&unsavedEdits_, &UnsavedEdits::restored, this,
+          [this](HostModule& module, int line) { showCode(module).editor().goToLine(line); });
+  connect(&messages_, &MessageList::emptied, messagesDock_, &QDockWidget::hide);
+  connect(&userTags_, &UserTags::changed, this, [this] {
+    for (const CodeWindow* window : tabs_.windows()) showUserTags(*window);
+  });
+  connect(&tabs_, &CodeTabs::added, this, &WorkbenchWindow::showUserTags);
   screen_.onProjectActivated = [this](VBProject&) {
     explorer_.markActive();
     showState();
@@ -79,6 +88,16 @@ CodeWindow& WorkbenchWindow::showCode(HostModule& module) {
   WorkbenchPane& pane = screen_.openPane(module);
   pane.SetFocus();
   return *pane.codeWindow();
+}
+
+void WorkbenchWindow::showPlace(HostModule& module, const Selection& place) {
+  CodeEditor& editor = showCode(module).editor();
+  editor.setSelection(place);
+  editor.centerCursor();
+}
+
+void WorkbenchWindow::showUserTags(const CodeWindow& window) {
+  window.editor().setUserTags(UserTags::of(window.module().component().project()));
 }
 
 void WorkbenchWindow::closeCode(CodeWindow& window) {

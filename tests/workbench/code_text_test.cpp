@@ -50,7 +50,7 @@ std::string tokens(const std::string& lines) {
   int state = kPlain;
   std::vector<VbSpan> spans;
   for (const QString& line : toQt(lines).split('\n')) {
-    state = scanVbLine(line, state, spans);
+    state = scanVbLine(line, state, {"@todo"}, spans);
     for (const VbSpan& span : spans) {
       result += "kcmtsnd"[static_cast<int>(span.token)];
       result += '<' + fromQt(line.mid(span.start, span.length)) + '>';
@@ -81,6 +81,7 @@ TEST(VbTokensTest, DividesAsTheLanguageDoes) {
       {"Print #1: Close #1", "k<Print>n<1>k<Close>n<1>"},
       {"#If Win32 Then\n# Else\n  #End If", "d<#If>k<Then>|d<# Else>|d<#End If>"},
       {"'**\n' @param x @see\n' text @see", "m<'**>|c<' >t<@param>c< x @see>|c<' text @see>"},
+      {"'**\n' @todo x\n' @user1", "m<'**>|c<' >t<@todo>c< x>|c<' @user1>"},
       {"' @param without a marker", "c<' @param without a marker>"},
       {"'** Title\n\n' @param", "m<'**>c< Title>||c<' @param>"},
       {"'**\n\t' @see\n' @see", "m<'**>|c<' @see>|c<' @see>"},

@@ -63,6 +63,13 @@ TEST_F(EditingTest, EditsFromElsewhereLeaveCaretAndScrollWhereTheyAre) {
   trigger("redo");
   EXPECT_EQ(editor.document()->findBlockByNumber(10).text(), "' two");
   expectSame(editor, warehouse);
+
+  warehouse.DeleteLines(80, 12);
+  editor.setTopLine(1);
+  trigger("undo");
+  EXPECT_LE(editor.topLine(), 80) << "all that came back is in view";
+  EXPECT_GT(editor.topLine(),
+            91 - editor.viewport()->height() / editor.fontMetrics().lineSpacing());
 }
 
 TEST_F(EditingTest, TypingIsUndoneByRunsAndOtherEditsByThemselves) {

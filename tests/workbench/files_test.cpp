@@ -137,6 +137,7 @@ TEST_F(FilesTest, ACharacterThatTheFileCannotHoldStopsItsSaveAlone) {
   trigger("saveAll");
   EXPECT_TRUE(prompts_.asked.last().contains(
       "Warehouse.cls, line 1, column 3: code page 1252 lacks '中' (U+4E2D)"));
+  EXPECT_EQ(show("Warehouse").textCursor().selectedText(), QString::fromUtf8("\u4E2D"));
   EXPECT_TRUE(module("Warehouse").isChanged());
   EXPECT_FALSE(module("StockText").isChanged());
   prompts_.answers = {"Save", "OK"};
@@ -354,13 +355,50 @@ TEST_F(FilesTest, BoxesAskAndChooseNothingIfCancelled) {
   EXPECT_EQ(prompts.chooseLine(3, 9), 7);
 }
 
+TEST_F(FilesTest, EditsThatWereNotSavedAreOfferedAgain) {
+  const auto startAnd = [this](std::deque<QString> answers) {
+    start();
+    prompts_.answers = std::move(answers);
+    open();
+  };
+  const auto editAndWait = [this] {
+    edit("StockText");
+    QTest::qWait(1300);
+  };
+  open();
+  editAndWait();
+  WorkbenchOptions options;
+  options.settingsFile = toQt(folder_ / "settings.ini");
+  options.prompts = &prompts_;
+  EXPECT_TRUE(WorkbenchWindow(options).openProject(path("Inventory.vbg")));
+  EXPECT_TRUE(prompts_.asked.isEmpty()) << "the edits of a program that runs are its own";
+  startAnd({"Restore"});
+  EXPECT_TRUE(isEdited("StockText"));
+  EXPECT_TRUE(prompts_.asked.last().contains("Line 1 changes:\n- "))
+      << fromQt(prompts_.asked.last());
+  startAnd({"Restore"});
+  trigger("saveAll");
+  startAnd({});
+  editAndWait();
+  put("Stock/StockText.bas", bytes("Stock/StockText.bas") + "' by others\r\n");
+  startAnd({"Ask Later"});
+  EXPECT_TRUE(prompts_.asked.last().contains("changed since"));
+  EXPECT_TRUE(module("StockText").Lines(module("StockText").CountOfLines(), 1) == "' by others");
+  startAnd({"Discard"});
+  startAnd({});
+  editAndWait();
+  prompts_.answers = {"Don't Save"};
+  EXPECT_TRUE(window_->close());
+  startAnd({});
+}
+
 TEST_F(FilesTest, LayoutIsRemembered) {
-  window_->findChild<QDockWidget*>("messagesDock")->show();
+  window_->findChild<QDockWidget*>("explorerDock")->hide();
   window_->resize(900, 600);
   window_->close();
   start();
   EXPECT_EQ(window_->size(), QSize(900, 600));
-  EXPECT_TRUE(window_->findChild<QDockWidget*>("messagesDock")->isVisible());
+  EXPECT_FALSE(window_->findChild<QDockWidget*>("explorerDock")->isVisible());
 }
 
 }  // namespace

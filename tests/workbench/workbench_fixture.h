@@ -49,6 +49,7 @@ class WorkbenchTest : public testing::Test {
  protected:
   void SetUp() override {
     qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_ / "config"));
+    qputenv("XDG_STATE_HOME", QByteArray::fromStdString(folder_ / "state"));
     std::filesystem::copy(TAMRIKON_EXAMPLES "/Inventory", folder_ / "Inventory",
                           std::filesystem::copy_options::recursive);
     start();
