@@ -86,6 +86,22 @@ constexpr CaseRange kRanges[] = {
     {0x1E900, 0x1E921, 34, 1},
 };
 
+struct CasePair {
+  char32_t small;
+  char32_t capital;
+};
+
+// Small letters whose capital has another small letter; U+00DF, which has none of its own, but is
+// that of U+1E9E.
+constexpr CasePair kOtherCapitals[] = {
+    {0x00B5, 0x039C}, {0x00DF, 0x00DF}, {0x0131, 0x0049}, {0x017F, 0x0053}, {0x01C5, 0x01C4},
+    {0x01C8, 0x01C7}, {0x01CB, 0x01CA}, {0x01F2, 0x01F1}, {0x0345, 0x0399}, {0x03C2, 0x03A3},
+    {0x03D0, 0x0392}, {0x03D1, 0x0398}, {0x03D5, 0x03A6}, {0x03D6, 0x03A0}, {0x03F0, 0x039A},
+    {0x03F1, 0x03A1}, {0x03F5, 0x0395}, {0x1C80, 0x0412}, {0x1C81, 0x0414}, {0x1C82, 0x041E},
+    {0x1C83, 0x0421}, {0x1C84, 0x0422}, {0x1C85, 0x0422}, {0x1C86, 0x042A}, {0x1C87, 0x0462},
+    {0x1C88, 0xA64A}, {0x1E9B, 0x1E60}, {0x1FBE, 0x0399},
+};
+
 char asciiLower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
@@ -159,6 +175,17 @@ std::optional<std::uint64_t> hashOfAscii(std::string_view text) {
   return hash;
 }
 
+/// The first character that has this one as its small letter; itself if there is none.
+char32_t capitalOf(char32_t codePoint) {
+  for (const CaseRange& range : kRanges) {
+    const std::int64_t upper = static_cast<std::int64_t>(codePoint) - range.offset;
+    if (upper >= range.first && upper <= range.last && (upper - range.first) % range.stride == 0) {
+      return static_cast<char32_t>(upper);
+    }
+  }
+  return codePoint;
+}
+
 }  // namespace
 
 char32_t lowerCase(char32_t codePoint) {
@@ -173,16 +200,20 @@ char32_t lowerCase(char32_t codePoint) {
   return static_cast<char32_t>(static_cast<std::int64_t>(codePoint) + range->offset);
 }
 
+char32_t upperCase(char32_t codePoint) {
+  if (codePoint >= 'a' && codePoint <= 'z') return codePoint - ('a' - 'A');
+  if (codePoint < 0x80) return codePoint;
+  for (const CasePair& pair : kOtherCapitals) {
+    if (pair.small == codePoint) return pair.capital;
+  }
+  return capitalOf(codePoint);
+}
+
 bool isCaseless(char32_t codePoint) {
   if (codePoint < 0x80) {
     return lowerCase(codePoint) == codePoint && (codePoint < 'a' || codePoint > 'z');
   }
-  return lowerCase(codePoint) == codePoint &&
-         std::none_of(std::begin(kRanges), std::end(kRanges), [&](const CaseRange& range) {
-           const std::int64_t upper = static_cast<std::int64_t>(codePoint) - range.offset;
-           return upper >= range.first && upper <= range.last &&
-                  (upper - range.first) % range.stride == 0;
-         });
+  return lowerCase(codePoint) == codePoint && capitalOf(codePoint) == codePoint;
 }
 
 std::string lowered(std::string_view text) {
@@ -212,6 +243,20 @@ void appendLowered(std::string& result, std::string_view text) {
       appendCodePoint(result, lowerCase(codePoint));
     }
   }
+}
+
+std::string uppered(std::string_view text) {
+  std::string result;
+  for (std::size_t offset = 0; offset < text.size();) {
+    const std::size_t start = offset;
+    const char32_t codePoint = readCodePoint(text, offset);
+    if (offset - start == 1 && codePoint >= 0x80) {
+      result += text[start];  // a stray byte stays what it is
+    } else {
+      appendCodePoint(result, upperCase(codePoint));
+    }
+  }
+  return result;
 }
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {

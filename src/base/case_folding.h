@@ -11,6 +11,9 @@ namespace tamrikon {
 
 char32_t lowerCase(char32_t codePoint);
 
+/// The capital of a letter: the simple mapping of Unicode.
+char32_t upperCase(char32_t codePoint);
+
 /// Whether no other character equals this one without regard to case.
 bool isCaseless(char32_t codePoint);
 
@@ -19,6 +22,9 @@ std::string lowered(std::string_view text);
 
 /// The same at the end of `result`, of which `text` must be no part.
 void appendLowered(std::string& result, std::string_view text);
+
+/// `text` with each letter as its capital.
+std::string uppered(std::string_view text);
 
 bool equalIgnoringCase(std::string_view a, std::string_view b);
 bool startsWithIgnoringCase(std::string_view text, std::string_view prefix);

@@ -14,6 +14,7 @@ int templatesCommand(int codePage, const Streams& streams) {
   Terminal terminal(streams, true);  // faults of a template show when it is compiled with
   Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
   if (codePage != 0) session.files.setCodePage(*CodePage::find(codePage));
+  session.settings.outputPath = session.addInFolder;  // as for a project without a file
   const std::string folder = joinPath(session.addInFolder, "Templates");
   for (const std::string& name : templateNames(session.files.files(), folder)) {
     std::string line(baseName(name));

@@ -27,12 +27,14 @@ int store::loadSrc(const std::string& file, bool silent) {
 
 PageContext store::pageContext() {
   PageContext context{macros, parser_, session_.settings, wrappers, lists, {}};
-  // The table ignores case, so that the names need no capitals.
   for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {
-    std::string macro = "MEMBER-" + session_.settings.userName[tag];
+    const std::string& name = session_.settings.userName[tag];
+    std::vector<std::string>& names = context.userTagMacros[tag];
     // That one is no text: it is part of the names of files, and of links to them.
-    if (macros.limitsComments() && equalIgnoringCase(macro, "MEMBER-EXT")) macro.clear();
-    context.userTagMacros[tag] = std::move(macro);
+    if (macros.limitsComments() && equalIgnoringCase(name, "EXT")) continue;
+    names = {"MEMBER-" + uppered(name)};
+    // The capital of a letter can have another small one.
+    if (!equalIgnoringCase(uppered(name), name)) names.push_back("MEMBER-" + name);
   }
   return context;
 }

@@ -137,7 +137,10 @@ class Evaluator {
       if (value > limit) return std::nullopt;
     }
     if (rest_.size() == length) return std::nullopt;
-    if (!rest_.empty() && (rest_.front() == '&' || rest_.front() == '%')) rest_.remove_prefix(1);
+    const std::string_view suffixes = base == 10 ? "&%!#@" : "&%";
+    if (!rest_.empty() && suffixes.find(rest_.front()) != std::string_view::npos) {
+      rest_.remove_prefix(1);
+    }
     if (!rest_.empty() && isNameCharacter(rest_.front())) return std::nullopt;
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
   }

@@ -18,8 +18,8 @@ struct PageContext {
   const ProjectSettings& settings;
   const WrapperCollections& wrappers;
   LinkLists& lists;
-  std::array<std::string, ProjectSettings::kUserTags>
-      userTagMacros;  // their names, as all pages use them
+  std::array<std::vector<std::string>, ProjectSettings::kUserTags>
+      userTagMacros;  // the names of each tag's macros, as all pages use them
 };
 
 }  // namespace tamrikon

@@ -46,8 +46,7 @@ void setTagMacros(PageContext& context) {
   for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {
     const std::string text = context.parser.getUser(tag + 1);
     // Of a generated comment these are what the settings say, so they call what comments may.
-    const std::string& named = context.userTagMacros[tag];
-    if (!named.empty()) macros.setCommentText(named, text);
+    for (const std::string& name : context.userTagMacros[tag]) macros.setCommentText(name, text);
     macros.setCommentText(kNumbered[tag], text);
   }
 }

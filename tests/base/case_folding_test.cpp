@@ -27,6 +27,12 @@ TEST(LowerCase, CoversTheScripts) {
   }
 }
 
+TEST(CaseFolding, CapitalsAreThoseOfSingleCharacters) {
+  EXPECT_EQ(
+      uppered("aZ1 \xE4 \u00E5\u00DF\u00FF \u03BB\u03CC\u03B3\u03BF\u03C2 ad\u0131 \u00B5\u4E2D"),
+      "AZ1 \xE4 \u00C5\u00DF\u0178 \u039B\u038C\u0393\u039F\u03A3 ADI \u039C\u4E2D");
+}
+
 TEST(CaseFolding, ComparesAndHashesAlike) {
   struct Case {
     std::string_view a;

@@ -180,7 +180,7 @@ TEST_F(CommandLineTest, SavesNoLineThatTheIdeCannotRead) {
 TEST_F(CommandLineTest, ListsTheTemplates) {
   ::setenv("TAMRIKON_HOME", folder_.path().c_str(), 1);
   folder_.put("Templates/long-enough-a-name.tmkt",
-              "$tamrik-description$\nTwo\nlines.\n$end-tamrik-description$");
+              "$tamrik-description$\nTwo\nlines in $OUTPUT-PATH$.\n$end-tamrik-description$");
   folder_.put("Templates/B.TMKT", "$tamrik-description$\nSecond.\n$end-tamrik-description$");
   folder_.put("Templates/a.tmkt", "");
   folder_.put("Templates/notes.txt", "");
@@ -189,13 +189,14 @@ TEST_F(CommandLineTest, ListsTheTemplates) {
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.out,
             "a               $tamrik-description$\nB               Second.\n"
-            "long-enough-a-name Two lines.\n");
+            "long-enough-a-name Two lines in " +
+                folder_.path() + ".\n");
 }
 
 TEST_F(CommandLineTest, GoesOnWithAGroupBehindAProjectThatWasStopped) {
   folder_.put("Shop.tamrik", "#Tamrikon Project Settings#\noutputPath = /nowhere/at/all\n");
-  folder_.put("Second.vbp", "Class=Cart; Cart.cls\nName=\"Second\"\n");
-  folder_.put("None.vbp", "Name=\"None\"\n");
+  folder_.put("Second.vbp", "Type=Exe\nClass=Cart; Cart.cls\nName=\"Second\"\n");
+  folder_.put("None.vbp", "Type=Exe\nName=\"None\"\n");
   const std::string group = folder_.put("All.vbg",
                                         "VBGROUP 5.0\nProject=Shop.vbp\nProject=None.vbp\n"
                                         "Project=Second.vbp\nProject=gone.vbp\n");
@@ -210,7 +211,7 @@ TEST_F(CommandLineTest, GoesOnWithAGroupBehindAProjectThatWasStopped) {
 
 TEST_F(CommandLineTest, KeepsPagesInsideTheOutputFolder) {
   folder_.put("Cart.cls", "Attribute VB_Name = \"../../up\"\nSub A()\nEnd Sub\n");
-  folder_.put("Shop.vbp", "Name=\"../../../etc/x\"\nClass=a; Cart.cls\n");
+  folder_.put("Shop.vbp", "Type=Exe\nName=\"../../../etc/x\"\nClass=a; Cart.cls\n");
   EXPECT_EQ(compile({}).status, 0);
   EXPECT_TRUE(folder_.has("deep/out/______up-A.txt"));
   for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {

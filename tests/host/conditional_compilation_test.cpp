@@ -27,6 +27,7 @@ TEST(ConditionalExpression, FollowsTheLanguage) {
            Case{"Not TRACE = 1", 0},
            Case{"1 = Not 0 And 5", 0},
            Case{"(1 + 2) * (3)", 9},
+           Case{"1! + 2# + 4@ + 8% + &H10& + &O40%", 63},
            Case{"5 Xor 1 Eqv -1", 4},
            Case{"0 Imp 0", -1},
            Case{"2147483647 + 1 < 0", -1},
@@ -38,9 +39,20 @@ TEST(ConditionalExpression, FollowsTheLanguage) {
 
 TEST(ConditionalExpression, WhatCannotBeReadIsZero) {
   const std::string deep(1000000, '(');
-  const std::vector<std::string> texts = {
-      "",    "(1",         "1)", "1 2",   "\"a\" = \"a\"", "1 / 0 = 0",
-      "1.5", "5000000000", "&H", "1 & 2", deep + "1",      std::string(1000000, '-') + "1"};
+  const std::vector<std::string> texts = {"",
+                                          "(1",
+                                          "1)",
+                                          "1 2",
+                                          "\"a\" = \"a\"",
+                                          "1 / 0 = 0",
+                                          "1.5",
+                                          "5000000000",
+                                          "&H",
+                                          "1 & 2",
+                                          "1!2",
+                                          "&H1!",
+                                          deep + "1",
+                                          std::string(1000000, '-') + "1"};
   for (const std::string& text : texts) {
     EXPECT_EQ(evaluateConditional(text, {}), 0) << text.substr(0, 40);
   }

@@ -33,6 +33,7 @@ Private Declare Function Tick Lib "kernel32" _
 'Second.
 '@includesource yes
 '@Remark hello
+'@λόγος, word
 Public Function Rounded(ByVal value As Double, Optional ByVal digits As Long = 2) As Double
     Rounded = value ' 5 $
 
