@@ -35,7 +35,7 @@ def template(page, name="function", more=""):
 def project(source, page=None, more="", settings=EVERYTHING, template_text=None):
     """The files of a project with one module, and the template it is compiled with."""
     text = template_text or (template(page) if page else None)
-    files = {"P.vbp": 'Module=M; M.bas\nName="P"\n' + more, "M.bas": source, "P.tamrik": settings}
+    files = {"P.vbp": 'Type=Exe\nModule=M; M.bas\nName="P"\n' + more, "M.bas": source, "P.tamrik": settings}
     if text:
         files["t.tmkt"] = text
     return files
@@ -59,7 +59,7 @@ def case(size):
 def names_that_lead_out(_):
     up = "../../up"
     return {
-        "P.vbp": f'Class=../M; M.cls\nModule=/tmp/N; N.bas\nName="{up}"\nHelpFile="{up}"\n'
+        "P.vbp": f'Type=Exe\nClass=../M; M.cls\nModule=/tmp/N; N.bas\nName="{up}"\nHelpFile="{up}"\n'
                  "ResFile32=../../../etc/passwd\nRelatedDoc=/etc/passwd\n",
         "M.cls": f'Attribute VB_Name = "{up}"\n{COMMENT}\'x @see "{up}\n\'@see "/etc/passwd\n'
                  f"'@example {up}\n'@same {up}\n{BODY}Public [{up}] As Long\nConst [/etc/x] = 1\n",
@@ -69,7 +69,7 @@ def names_that_lead_out(_):
 
 @case(0)
 def a_file_as_folder(_):
-    return {**project(BODY), "P.vbp": "Module=M; M.bas/x\nClass=A; ../../../../../etc/passwd/x\n"}
+    return {**project(BODY), "P.vbp": "Type=Exe\nModule=M; M.bas/x\nClass=A; ../../../../../etc/passwd/x\n"}
 
 
 @case(0)
@@ -120,7 +120,7 @@ def a_group_of_itself(_):
 @case(10000)
 def modules(count):
     names = [f"M{n}" for n in range(count)]
-    return {"P.vbp": "".join(f"Module={name}; {name}.bas\n" for name in names),
+    return {"P.vbp": "Type=Exe\n" + "".join(f"Module={name}; {name}.bas\n" for name in names),
             "P.tamrik": EVERYTHING + "".join(f"comModules = {name}\n" for name in names),
             **{name + ".bas": BODY for name in names}}
 
@@ -132,8 +132,8 @@ def modules_that_are_gone(count):
 
 @case(1000)
 def projects_in_a_group(count):
-    files = {"G.vbg": "".join(f"Project=P{n}.vbp\n" for n in range(count)), "M.bas": BODY}
-    return {**files, **{f"P{n}.vbp": f"Module=M; M.bas\nName=P{n}\n" for n in range(count)}}
+    files = {"G.vbg": "VBGROUP 5.0\n" + "".join(f"Project=P{n}.vbp\n" for n in range(count)), "M.bas": BODY}
+    return {**files, **{f"P{n}.vbp": f"Type=Exe\nModule=M; M.bas\nName=P{n}\n" for n in range(count)}}
 
 
 @case(0)

@@ -101,7 +101,7 @@ TEST(MissingComments, AreInsertedOnceWhateverTheSourceLooksLike) {
       "'**\r\n' Known.\r\nProperty Get B(): End Property\r\nProperty Set B(v): End Property");
   const std::string project =
       folder.put("All.vbp",
-                 "Module=One; Twice.bas\nModule=Two; Twice.bas\nClass=Bare; Bare.cls\n"
+                 "Type=Exe\nModule=One; Twice.bas\nModule=Two; Twice.bas\nClass=Bare; Bare.cls\n"
                  "Module=Mixed; Mixed.bas\nClass=Utf8; Utf8.cls\nClass=Props; Props.cls\n");
   EXPECT_EQ(commentAll(folder, project),
             "One\nOne.A\nBare\nMixed\nMixed.A\nMixed.X\nMixed.S\nUtf8\nUtf8.Größe\nUtf8.Voll\n"
@@ -116,8 +116,8 @@ TEST(MissingComments, AreThoseThatTheSettingsWantInTheModulesThatAreGiven) {
       "Public Sub A()\nAttribute A.VB_Description = \"5 $\"\nEnd Sub\nPrivate Sub B()\nEnd Sub\n"
       "Const C = 1\n";
   for (const char* name : {"One.cls", "Two.cls", "Three.cls"}) folder.put(name, source);
-  const std::string project =
-      folder.put("All.vbp", "Class=One; One.cls\nClass=Two; Two.cls\nClass=Three; Three.cls\n");
+  const std::string project = folder.put(
+      "All.vbp", "Type=Exe\nClass=One; One.cls\nClass=Two; Two.cls\nClass=Three; Three.cls\n");
   folder.put("All.tamrik",
              "#Tamrikon Project Settings#\ncomNonCommented = 0\ncomObject = 0\n"
              "addDescription = 1\ncomModules = One\ncomModules = Two\n");

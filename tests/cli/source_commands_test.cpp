@@ -34,7 +34,8 @@ class SourceCommandsTest : public testing::Test {
   test::TempFolder folder_;
   std::string cartPath_ = folder_.put("Cart.cls", cart());
   std::string tillPath_ = folder_.put("Till.bas", "x = \"\xE9\"\nSub Main()\nEnd Sub\n");
-  std::string project_ = folder_.put("Shop.vbp", "Class=Cart; Cart.cls\nModule=Till; Till.bas\n");
+  std::string project_ =
+      folder_.put("Shop.vbp", "Type=Exe\nClass=Cart; Cart.cls\nModule=Till; Till.bas\n");
 };
 
 TEST_F(SourceCommandsTest, FindEachTargetInTheFilesAsTheyWere) {
@@ -85,7 +86,7 @@ TEST_F(SourceCommandsTest, ChangeNothingButPrintExamplesOrWhatIsWrong) {
 TEST_F(SourceCommandsTest, DryRunPrintsBytesForPatchAndTextForPeople) {
   const std::filesystem::path home = std::filesystem::current_path();
   std::filesystem::current_path(folder_.path());
-  const ProgramRun piped({"comment", "Shop.vbp", "Till.Main", "--dry-run"});
+  const ProgramRun piped({"comment", "Shop.vbp", "Type=Exe\nTill.Main", "--dry-run"});
   std::filesystem::current_path(home);
   EXPECT_EQ(piped.out,
             "--- Till.bas\n+++ Till.bas\n@@ -1,3 +1,7 @@\n x = \"\xE9\"\n+'**\n+'\n"
@@ -141,7 +142,7 @@ TEST_F(SourceCommandsTest, ReportWhatCannotBeSaved) {
 }
 
 TEST_F(SourceCommandsTest, WorkOnTheProjectOfAGroupThatStartsUnlessTheyAreStopped) {
-  folder_.put("Other.vbp", "Module=Till; Till.bas\n");
+  folder_.put("Other.vbp", "Type=Exe\nModule=Till; Till.bas\n");
   project_ = folder_.put("All.vbg", "VBGROUP 5.0\nProject=Other.vbp\nStartupProject=Shop.vbp\n");
   const ProgramRun stopped({"comment", project_, "--missing"},
                            [](Streams& streams) { streams.isInterrupted = [] { return true; }; });

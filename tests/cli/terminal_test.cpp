@@ -21,7 +21,8 @@ class TerminalTest : public testing::Test {
     for (const char* name : {"One", "Two"}) {
       const std::string text(name);
       folder_.put("C" + text + ".cls", "'**\n'Fills.\nPublic Sub Fill()\nEnd Sub\n");
-      folder_.put(text + ".vbp", "Name=\"" + text + "\"\nClass=C" + text + "; C" + text + ".cls\n");
+      folder_.put(text + ".vbp",
+                  "Type=Exe\nName=\"" + text + "\"\nClass=C" + text + "; C" + text + ".cls\n");
     }
     folder_.put("t.tmkt",
                 "$MEMBER-EXT$ .m\n$PROJECT-EXT$ .p\n$tamrik-help-file$\n"

@@ -16,7 +16,7 @@ class ProgressDlgTest : public testing::Test {
  protected:
   ProgressDlgTest() {
     folder_.put("COne.cls", "'**\n'Fills.\nPublic Sub Fill()\nEnd Sub\n");
-    folder_.put("One.vbp", "Name=\"One\"\nClass=COne; COne.cls\n");
+    folder_.put("One.vbp", "Type=Exe\nName=\"One\"\nClass=COne; COne.cls\n");
     template_ = folder_.put("t.tmkt",
                             "$MEMBER-EXT$ .m\n$tamrik-help-file$\n$OUTPUT-PATH$/all.chm\n"
                             "$end-tamrik-help-file$\n");

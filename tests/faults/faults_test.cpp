@@ -46,15 +46,16 @@ class Scenario {
       if (word == "T") word = folder_ / "own.tmkt";
       arguments_.push_back(word);
     }
-    files_ = {{"Cart.cls", "'**\r\n'Fills it.\r\nPublic Sub Fill()\r\nEnd Sub\r\n"},
-              {"Tools.bas",
-               "Attribute VB_Name = \"Tools\"\n'**\n'Sums.\nFunction Sum()\n"
-               "End Function\nPublic Function Bare()\nEnd Function\n"},
-              {"Shop.vbp", "Class=Cart; Cart.cls\nModule=Tools; tools.bas\nName=\"Shop\"\n"},
-              {"Shop.tamrik",
-               "#Tamrikon Project Settings#\ncomContextID = 1\n"
-               "comModules = Cart\ncomModules = Tools\n"},
-              {"own.tmkt", kTemplate}};
+    files_ = {
+        {"Cart.cls", "'**\r\n'Fills it.\r\nPublic Sub Fill()\r\nEnd Sub\r\n"},
+        {"Tools.bas",
+         "Attribute VB_Name = \"Tools\"\n'**\n'Sums.\nFunction Sum()\n"
+         "End Function\nPublic Function Bare()\nEnd Function\n"},
+        {"Shop.vbp", "Type=Exe\nClass=Cart; Cart.cls\nModule=Tools; tools.bas\nName=\"Shop\"\n"},
+        {"Shop.tamrik",
+         "#Tamrikon Project Settings#\ncomContextID = 1\n"
+         "comModules = Cart\ncomModules = Tools\n"},
+        {"own.tmkt", kTemplate}};
     for (const auto& [name, text] : changed) files_[name] = text;
     reset();
     old_ = snapshot();
@@ -160,7 +161,7 @@ void failEverywhere(Scenario& scenario) {
 
 TEST(Faults, OfACompile) {
   Scenario scenario("compile", {"--template", "T", "--save", "--no-exec"},
-                    {{"Shop.vbp", "Class=Cart; Cart.cls\nName=\"Shop\"\n"}});
+                    {{"Shop.vbp", "Type=Exe\nClass=Cart; Cart.cls\nName=\"Shop\"\n"}});
   failEverywhere(scenario);
 }
 
@@ -174,7 +175,7 @@ TEST(Faults, OfACompileIntoOneFile) {
 
 TEST(Faults, OfSettings) {
   // Settings that can't be read are kept under another name, and so are those of others.
-  const Files noModules = {{"Shop.vbp", "Name=\"Shop\"\n"}};
+  const Files noModules = {{"Shop.vbp", "Type=Exe\nName=\"Shop\"\n"}};
   Scenario changed("settings", {"addSee=0"}, noModules);
   failEverywhere(changed);
   Files notOurs = noModules;

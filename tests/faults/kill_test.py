@@ -25,7 +25,7 @@ class KillTest(unittest.TestCase):
             folder = pathlib.Path(name)
             names = [f"C{number}.cls" for number in range(FILES)]
             old = "".join(MEMBER.format(number) for number in range(8)).encode()
-            (folder / "P.vbp").write_text("".join(f"Class={n[:-4]}; {n}\n" for n in names))
+            (folder / "P.vbp").write_text("Type=Exe\n" + "".join(f"Class={n[:-4]}; {n}\n" for n in names))
             for source in names:
                 (folder / source).write_bytes(old)
             command = [PROGRAM, "comment", folder / "P.vbp", "--missing"]

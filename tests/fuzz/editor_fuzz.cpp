@@ -32,7 +32,7 @@ void fuzz(const std::string& data) {
   if (data.empty()) return;
   const ProjectSettings settings = test::layoutFrom(data[0]);
   test::MemoryFiles disk;
-  disk.files = {{"/p/P.vbp", "Class=C; C.cls\n"}, {"/p/C.cls", data.substr(1)}};
+  disk.files = {{"/p/P.vbp", "Type=Exe\nClass=C; C.cls\n"}, {"/p/C.cls", data.substr(1)}};
   std::string why;
   const auto ide = HostIde::open(
       disk, "/p/P.vbp", nullptr, [](const std::string&) {}, why);

@@ -17,7 +17,7 @@ void fuzz(const std::string& data) {
   const char* const names[] = {"/p/P.vbp", "/p/M.bas",    "/p/C.cls",
                                "/p/F.frm", "/p/P.tamrik", "/p/t.tmkt"};
   for (std::size_t n = 0; n < std::size(names) && n < parts.size(); ++n) {
-    disk.files[names[n]] = parts[n];
+    disk.files[names[n]] = (n == 0 ? "Type=Exe\n" : "") + std::string(parts[n]);
   }
   std::string why;
   const auto ide = HostIde::open(

@@ -25,7 +25,7 @@ const std::string kData = "/data";
 void fuzz(const std::string& data) {
   using namespace tamrikon;
   test::MemoryFiles disk;
-  disk.files = {{"/p/P.vbp", "Module=M; M.bas\nClass=C; C.cls\n"},
+  disk.files = {{"/p/P.vbp", "Type=Exe\nModule=M; M.bas\nClass=C; C.cls\n"},
                 {"/p/M.bas", "Attribute VB_Name = \"M\"\n"},
                 {"/p/C.cls", "Attribute VB_Name = \"C\"\n"},
                 {"/data/Templates/chm.tmkt", ""},

@@ -17,9 +17,9 @@ namespace {
 class SharedFilesTest : public testing::Test {
  protected:
   void SetUp() override {
-    folder_.put("g.vbg", "Project=a.vbp\nProject=b.vbp\n");
-    folder_.put("a.vbp", "Module=m; m.bas\nForm=f.frm\n");
-    folder_.put("b.vbp", "Module=m; m.bas\nHelpFile=h\n");
+    folder_.put("g.vbg", "VBGROUP 5.0\nProject=a.vbp\nProject=b.vbp\n");
+    folder_.put("a.vbp", "Type=Exe\nModule=m; m.bas\nForm=f.frm\n");
+    folder_.put("b.vbp", "Type=Exe\nModule=m; m.bas\nHelpFile=h\n");
     folder_.put("m.bas", kModule);
     folder_.put("f.frm", "VERSION 5.00\nBegin VB.Form f\nEnd\nAttribute VB_Name = \"f\"\nx\n");
     ide_ = test::openProject(folder_ / "g.vbg");
@@ -86,7 +86,7 @@ TEST_F(SharedFilesTest, SavesOneAtATime) {
   EXPECT_TRUE(ide_->VBProjects().Item(1).isChanged());
   EXPECT_FALSE(ide_->save(module(1)));
   EXPECT_FALSE(ide_->saveProject(ide_->VBProjects().Item(1)));
-  EXPECT_EQ(folder_.get("a.vbp"), "Module=m; m.bas\nForm=f.frm\nHelpFile=\"i\"\n");
+  EXPECT_EQ(folder_.get("a.vbp"), "Type=Exe\nModule=m; m.bas\nForm=f.frm\nHelpFile=\"i\"\n");
   EXPECT_FALSE(module(2).isChanged());
   EXPECT_TRUE(ide_->hasUnsavedChanges());
   EXPECT_TRUE(module(1, 2).undo());
@@ -97,7 +97,7 @@ TEST_F(SharedFilesTest, NeverSavesOverTheWorkOfOthersUnasked) {
   HostProject& project = ide_->VBProjects().Item(2);
   EXPECT_FALSE(ide_->changedOnDisk(module()));
   folder_.put("m.bas", "other\n");
-  folder_.put("b.vbp", "Module=m; m.bas\nHelpFile=k\n");
+  folder_.put("b.vbp", "Type=Exe\nModule=m; m.bas\nHelpFile=k\n");
   std::filesystem::remove(folder_ / "f.frm");
   EXPECT_TRUE(ide_->changedOnDisk(module()) && ide_->changedOnDisk(project));
   EXPECT_TRUE(ide_->isGone(module(1, 2)));
@@ -127,7 +127,7 @@ TEST_F(SharedFilesTest, OnlyASaveOfOneFilePutsBackWhatWasNotEdited) {
   HostProject& project = ide_->VBProjects().Item(2);
   const std::string old = folder_.get("b.vbp");
   folder_.put("m.bas", "other\n");
-  folder_.put("b.vbp", "");
+  folder_.put("b.vbp", "Type=Exe\n");
   EXPECT_TRUE(ide_->saveAll(OnConflict::overwrite).empty());
   EXPECT_FALSE(ide_->save(module()));
   EXPECT_EQ(folder_.get("m.bas"), "other\n");

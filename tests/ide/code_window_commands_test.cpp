@@ -18,7 +18,7 @@ class CodeWindowCommandsTest : public testing::Test {
   /// A project of one class, whose window isn't open.
   void open(const std::string& source) {
     folder_.put("Cart.cls", source);
-    ide_ = test::openProject(folder_.put("Shop.vbp", "Class=Cart; Cart.cls\n"));
+    ide_ = test::openProject(folder_.put("Shop.vbp", "Type=Exe\nClass=Cart; Cart.cls\n"));
   }
   CodeModule& module() { return *ide_->VBProjects().Item(1).VBComponents().Item(1).CodeModule(); }
   std::string text() { return module().Lines(1, module().CountOfLines()); }

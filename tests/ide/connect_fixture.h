@@ -33,8 +33,8 @@ class ConnectTest : public testing::Test {
     for (const char* name : {"One", "Two"}) {
       const std::string text(name);
       folder_.put("C" + text + ".cls", "Public Sub Fill()\nEnd Sub\n");
-      folder_.put(text + ".vbp", "Name=\"" + text + "\"\nRelatedDoc=notes.txt\nClass=C" + text +
-                                     "; C" + text + ".cls\n");
+      folder_.put(text + ".vbp", "Type=Exe\nName=\"" + text + "\"\nRelatedDoc=notes.txt\nClass=C" +
+                                     text + "; C" + text + ".cls\n");
       folder_.put(text + ".tamrik", "#Tamrikon Project Settings#\noutputPath = " + folder_.path() +
                                         "/out" + text + "\ntemplateFolder = " + folder_.path() +
                                         "/t\ntemplatePath = own.tmkt\ncomModules = C" + text +

@@ -23,7 +23,7 @@ class OptionsFixture : public testing::Test {
       folder_.put(name, "");
     }
     folder_.put("Shop.vbp",
-                "Name=\"Shop\"\nModule=Alpha; Alpha.bas\nRelatedDoc=Notes.txt\n"
+                "Type=Exe\nName=\"Shop\"\nModule=Alpha; Alpha.bas\nRelatedDoc=Notes.txt\n"
                 "Module=Beta; Beta.bas\nModule=Gamma; Gamma.bas\n");
     folder_.put("data/Templates/chm.tmkt",
                 "$tamrik-description$\nfirst\nline\n$end-tamrik-description$\n");
