@@ -119,6 +119,11 @@ void addSettings(CLI::App& app, SettingsOptions& options) {
       .add_flag("--leave-out-modules", options.leavesOutModules,
                 "Note that the modules that aren't selected are left out on purpose")
       ->excludes(adds);
+  command
+      .add_option("--keep-codepage", options.keptCodePage,
+                  "Keep the code page beside the project, so that it is taken in every run")
+      ->type_name("NUMBER")
+      ->check(CLI::IsMember(CodePage::numbers()));
 }
 
 /// "there is no KIND 'WORD'", and the one of `words` that may have been meant.

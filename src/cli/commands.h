@@ -21,7 +21,7 @@ std::string faultOfTargets(const CommentOptions& options);
 int exampleCommand(const ExampleOptions& options, const Streams& streams);
 
 /// Prints the settings of a project, or changes and saves them.
-int settingsCommand(const SettingsOptions& options, const Streams& streams);
+int settingsCommand(SettingsOptions options, const Streams& streams);
 
 /// Lists the templates of the templates folder with their descriptions.
 int templatesCommand(int codePage, const Streams& streams);

@@ -130,6 +130,13 @@ void handleInterrupts(Session& session, Terminal& terminal, bool& ends) {
 /// Whether all projects were compiled; `summary` has those that were.
 bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, Terminal& terminal,
                 WrittenSummary& summary) {
+  std::vector<const VBProject*> projects;
+  for (int number = 1; number <= ide.VBProjects().Count(); ++number) {
+    projects.push_back(&ide.VBProjects().Item(number));
+  }
+  for (const std::string& warning : warningsOfMissingModules(options.settings, projects)) {
+    terminal.complain(warning);
+  }
   bool ends = false;
   handleInterrupts(session, terminal, ends);
   if (!ide.isGroup()) {

@@ -71,7 +71,7 @@ class Completions {
   }
 
   void printValues(const std::string& option) {
-    if (option == "codepage") {
+    if (option == "codepage" || option == "keep-codepage") {
       for (const int number : CodePage::numbers()) put(std::to_string(number), "code page");
     } else if (option == "template") {
       const std::string folder = joinPath(dataFolder(), "Templates");

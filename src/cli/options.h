@@ -33,8 +33,9 @@ struct SettingsOptions : ProjectOptions {
   bool addsModules = false;
   bool leavesOutModules = false;
   bool allProjects = false;  // of a group; otherwise the one that starts
+  int keptCodePage = 0;      // the one to be kept beside the project; 0: none
 
-  bool onlyPrints() const { return settings.empty() && !addsModules && !leavesOutModules; }
+  bool changesSettings() const { return !settings.empty() || addsModules || leavesOutModules; }
 };
 
 struct CommentOptions : ProjectOptions {

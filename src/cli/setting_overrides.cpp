@@ -6,6 +6,7 @@
 
 #include "base/case_folding.h"
 #include "base/closest_word.h"
+#include "base/keyed_list.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "platform/folder_listing.h"
@@ -130,6 +131,27 @@ std::string applySettings(Session& session, VBE& ide, const std::vector<std::str
   }
   if (templateArgument == nullptr) return {};
   return chooseTemplate(session, *templateArgument, divided(*templateArgument).value);
+}
+
+std::vector<std::string> warningsOfMissingModules(const std::vector<std::string>& arguments,
+                                                  const std::vector<const VBProject*>& projects) {
+  KeyedList<std::string> known;
+  for (const VBProject* project : projects) {
+    for (int number = 1; number <= project->VBComponents().Count(); ++number) {
+      const CodeModule* module = project->VBComponents().Item(number).CodeModule();
+      if (module != nullptr) known.add(module->Name(), module->Name());
+    }
+  }
+  std::vector<std::string> warnings;
+  for (const std::string& argument : arguments) {
+    const auto [key, value] = divided(argument);
+    if (key != kModulesKey) continue;
+    for (const std::string_view name : split(value, ',')) {
+      if (trim(name).empty() || known.contains(trim(name))) continue;
+      warnings.push_back("warning: comModules: there is no module " + std::string(trim(name)));
+    }
+  }
+  return warnings;
 }
 
 }  // namespace tamrikon

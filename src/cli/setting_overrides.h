@@ -24,4 +24,9 @@ std::string applySettings(Session& session, VBE& ide, const std::vector<std::str
 /// Whether one of the arguments sets `key`.
 bool setsKey(const std::vector<std::string>& arguments, std::string_view key);
 
+/// A line for each module that comModules among the arguments names and that none of the projects
+/// has.
+std::vector<std::string> warningsOfMissingModules(const std::vector<std::string>& arguments,
+                                                  const std::vector<const VBProject*>& projects);
+
 }  // namespace tamrikon

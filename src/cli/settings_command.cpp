@@ -4,6 +4,8 @@
 #include "cli/project_opening.h"
 #include "cli/setting_overrides.h"
 #include "compiler/store.h"
+#include "host/file_on_disk.h"
+#include "host/kept_code_page.h"
 #include "platform/data_folder.h"
 
 namespace tamrikon {
@@ -30,6 +32,10 @@ bool changeSettings(Session& session, HostIde& ide, const SettingsOptions& optio
     terminal.complain("tamrikon: " + fault);
     return false;
   }
+  for (const std::string& warning :
+       warningsOfMissingModules(options.settings, {&ide.ActiveVBProject()})) {
+    terminal.complain(warning);
+  }
   SettingsFile& file = session.settingsFile;
   if (options.addsModules) file.addOtherModules(ide);
   if (options.leavesOutModules) file.leaveOutOtherModules(ide);
@@ -39,17 +45,30 @@ bool changeSettings(Session& session, HostIde& ide, const SettingsOptions& optio
   return result == 0;
 }
 
+/// Whether the page was kept beside the project.
+bool keepPage(const VBProject& project, int page, Terminal& terminal) {
+  const std::string path = project.FileName();
+  const FileError error = keepCodePage(nativeFileSystem(), path, *CodePage::find(page));
+  if (error == FileError::none) return true;
+  terminal.complain("tamrikon: cannot write " + keptCodePagePath(path) + ": " + reasonOf(error));
+  return false;
+}
+
 }  // namespace
 
-int settingsCommand(const SettingsOptions& options, const Streams& streams) {
+int settingsCommand(SettingsOptions options, const Streams& streams) {
   Terminal terminal(streams, false);
+  const int kept = options.keptCodePage;
+  if (kept != 0 && options.codePage == 0) options.codePage = kept;
   const std::unique_ptr<HostIde> ide = openProject(options, terminal);
   if (!ide) return kFailed;
   Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
   bool worked = true;
   for (VBProject* project : projectsOf(*ide, options.allProjects)) {
+    if (kept != 0) worked = keepPage(*project, kept, terminal) && worked;
+    if (kept != 0 && !options.changesSettings()) continue;
     activateProject(session, *ide, *project, terminal);
-    if (!options.onlyPrints()) {
+    if (options.changesSettings()) {
       worked = changeSettings(session, *ide, options, terminal) && worked;
       continue;
     }

@@ -13,7 +13,6 @@ namespace tamrikon {
 namespace {
 
 constexpr int kUtf8 = 65001;
-constexpr int kDefault = 1252;
 
 // A file found in one of the Latin pages tells little: any bytes are letters there.
 constexpr int kPathOrder[] = {kUtf8, 1252, 1250, 1251, 1253, 1254, 1255, 1256,
@@ -60,6 +59,8 @@ void countCharsetLine(std::string_view line, CodePageEvidence& evidence) {
 
 CodePageEvidence readCodePageEvidence(std::string_view bytes) {
   CodePageEvidence evidence;
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  if (bytes.starts_with(kMark)) bytes.remove_prefix(kMark.size());
   const SourceHead head = readSourceHead(bytes);
   for (LineReader reader(bytes.substr(0, head.attributesStart)); reader.next();) {
     countCharsetLine(reader.line(), evidence);
@@ -105,16 +106,12 @@ void CodePageGuess::addSource(const CodePageEvidence& evidence, bool hasControls
   for (const auto& [page, count] : evidence.votes) evidence_.votes[page] += count;
 }
 
-const CodePage& CodePageGuess::page() const {
-  if (!pathPages_.empty()) return *CodePage::find(most(pathPages_)->first);
+int CodePageGuess::named() const {
+  if (!pathPages_.empty()) return most(pathPages_)->first;
   const auto elected = most(evidence_.votes);
-  if (elected != evidence_.votes.end() && elected->second * 20 >= evidence_.charsetLines) {
-    const bool needsRuns = isAmong(elected->first, kPagesOfRuns);
-    if (!needsRuns || evidence_.highBytesInRuns * 2 >= evidence_.highBytes) {
-      return *CodePage::find(elected->first);
-    }
-  }
-  return *CodePage::find(kDefault);
+  if (elected == evidence_.votes.end() || elected->second * 20 < evidence_.charsetLines) return 0;
+  const bool needsRuns = isAmong(elected->first, kPagesOfRuns);
+  return needsRuns && evidence_.highBytesInRuns * 2 < evidence_.highBytes ? 0 : elected->first;
 }
 
 }  // namespace tamrikon

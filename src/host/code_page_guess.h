@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/page_of_bytes.h"
 #include "host/path_lookup.h"
 #include "platform/code_page.h"
 
@@ -34,7 +35,7 @@ struct FoundPath {
 FoundPath findInCodePages(PathLookup& lookup, std::string_view folder, std::string_view path,
                           const CodePage* preferred);
 
-/// Gathers what all components of a project tell, and decides.
+/// Gathers what the files of a project tell.
 class CodePageGuess {
  public:
   void addPath(const FoundPath& found);
@@ -43,11 +44,22 @@ class CodePageGuess {
   /// whose fonts count.
   void addSource(const CodePageEvidence& evidence, bool hasControls);
 
-  const CodePage& page() const;
+  /// Adds what a file holds, the project's own or a source: the bytes themselves may tell.
+  void addBytes(std::string_view bytes) { sample_.add(bytes); }
+
+  /// The number of the page that paths or fonts name, or 0.
+  int named() const;
+
+  /// The number of the page that the bytes look like, or 0.
+  int fromBytes() const { return sample_.page(); }
+
+  /// Whether there are bytes above 0x7F that aren't UTF-8.
+  bool needsPage() const { return !sample_.empty(); }
 
  private:
   std::map<int, std::size_t> pathPages_;
   CodePageEvidence evidence_;
+  ByteSample sample_;
 };
 
 }  // namespace tamrikon

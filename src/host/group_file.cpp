@@ -20,8 +20,12 @@ bool isGroupFile(std::string_view path, std::string_view bytes) {
   const std::string_view name = lastName(path);
   const std::size_t dot = name.rfind('.');
   if (dot != std::string_view::npos && isKeyword(name.substr(dot), ".vbg")) return true;
-  std::string_view text = withoutMark(bytes);
-  return isKeyword(takeWord(text), "vbgroup");
+  return beginsAsGroup(bytes);
+}
+
+bool beginsAsGroup(std::string_view bytes) {
+  bytes = withoutMark(bytes);
+  return isKeyword(takeWord(bytes), "vbgroup");
 }
 
 std::vector<GroupLine> readGroupFile(std::string_view bytes) {

@@ -14,6 +14,9 @@ struct GroupLine {
 /// Whether the file is a group: by its extension or its first line.
 bool isGroupFile(std::string_view path, std::string_view bytes);
 
+/// Whether the first line is that of a group.
+bool beginsAsGroup(std::string_view bytes);
+
 /// The projects in the order of the lines; views into `bytes`.
 std::vector<GroupLine> readGroupFile(std::string_view bytes);
 

@@ -12,12 +12,18 @@
 #include "host/attribute_text.h"
 #include "host/code_page_guess.h"
 #include "host/group_file.h"
+#include "host/kept_code_page.h"
+#include "host/project_pages.h"
 
 namespace tamrikon {
 namespace {
 
 constexpr int kUtf8 = 65001;
 constexpr int kGroupCodePage = 1252;
+
+constexpr const char* kNoProject = " isn't a Visual Basic project: it has no line \"Type=\"";
+constexpr const char* kNoGroup =
+    " isn't a Visual Basic project group: its first line isn't \"VBGROUP 5.0\"";
 
 /// A path with a backslash keeps its style where it is absolute already.
 std::string absolutePath(FileSystem& files, const std::string& path) {
@@ -80,6 +86,62 @@ HostProject& HostProjects::Item(int number) const {
   return *projects_[static_cast<std::size_t>(number - 1)];
 }
 
+/// Finds all projects first, since in a group one project can tell the code page of another.
+class HostIde::Opening {
+ public:
+  Opening(HostIde& ide, const CodePage* codePage, const WarningSink& warn)
+      : ide_(ide), lookup_(ide.files_), codePage_(codePage), warn_(warn) {}
+
+  HostProject* addProject(std::string fileName, std::string bytes) {
+    const CodePage* page =
+        codePage_ != nullptr ? codePage_ : readKeptCodePage(ide_.files_, fileName, warn_);
+    const ProjectContext context{lookup_, ide_.sources_, page, warn_, ide_.screen_};
+    auto& projects = ide_.projects_.projects_;
+    projects.push_back(
+        std::make_unique<HostProject>(std::move(fileName), std::move(bytes), context));
+    pages_.add(page, projects.back()->guess());
+    return projects.back().get();
+  }
+
+  void addGroup(const std::string& path, std::string_view bytes) {
+    const std::string folder(folderOf(path));
+    const int number = isValidUtf8(bytes) ? kUtf8 : kGroupCodePage;
+    const CodePage* page = CodePage::find(number);
+    if (number != kUtf8 && codePage_ != nullptr) page = codePage_;
+    std::set<std::string> opened;
+    for (const GroupLine& line : readGroupFile(bytes)) {
+      const FoundPath found = findInCodePages(lookup_, folder, line.path, codePage_);
+      if (opened.count(found.path) != 0) continue;  // the IDE can't hold a project twice either
+      std::string projectBytes;
+      if (found.path.empty() || ide_.files_.read(found.path, projectBytes) != FileError::none) {
+        warn_(cannotReadWarning(PathLookup::tried(folder, page->decode(line.path))));
+        continue;
+      }
+      if (!ProjectFile::isProject(projectBytes)) {
+        warn_(cannotReadWarning(found.path) + ": the file" + kNoProject);
+        continue;
+      }
+      opened.insert(found.path);
+      HostProject* project = addProject(found.path, std::move(projectBytes));
+      if (line.isStartup && ide_.startup_ == nullptr) ide_.startup_ = project;
+    }
+  }
+
+  void openProjects() {
+    const auto& projects = ide_.projects_.projects_;
+    for (std::size_t i = 0; i < projects.size(); ++i) projects[i]->open(pages_.of(i), warn_);
+    const auto nameOf = [&](std::size_t i) { return projects[i]->Name(); };
+    for (const std::string& note : pages_.notes(nameOf)) warn_(note);
+  }
+
+ private:
+  HostIde& ide_;
+  PathLookup lookup_;
+  const CodePage* codePage_;
+  const WarningSink& warn_;
+  ProjectPages pages_;
+};
+
 std::unique_ptr<HostIde> HostIde::open(FileSystem& files, const std::string& path,
                                        const CodePage* codePage, const WarningSink& warn,
                                        std::string& why) {
@@ -91,16 +153,26 @@ std::unique_ptr<HostIde> HostIde::open(FileSystem& files, const std::string& pat
   }
   std::unique_ptr<HostIde> ide(new HostIde(files));
   ide->isGroup_ = isGroupFile(path, bytes);
+  const bool isKnown = ide->isGroup_ ? beginsAsGroup(bytes) : ProjectFile::isProject(bytes);
+  if (!isKnown) {
+    why = ide->isGroup_ ? path + kNoGroup : path + kNoProject;
+    return nullptr;
+  }
+  std::set<std::string> told;
+  const WarningSink warnOnce = [&](const std::string& warning) {
+    if (told.insert(warning).second) warn(warning);
+  };
+  Opening opening(*ide, codePage, warnOnce);
   if (ide->isGroup_) {
-    ide->openGroup(absolutePath(files, path), bytes, codePage, warn);
+    opening.addGroup(absolutePath(files, path), bytes);
     if (ide->projects_.Count() == 0) {
       why = "cannot read " + path + ": it has no project that can be read";
       return nullptr;
     }
   } else {
-    PathLookup lookup(files);
-    ide->addProject(absolutePath(files, path), std::move(bytes), lookup, codePage, warn);
+    opening.addProject(absolutePath(files, path), std::move(bytes));
   }
+  opening.openProjects();
   if (ide->startup_ == nullptr) ide->startup_ = &ide->projects_.Item(1);
   ide->active_ = ide->startup_;
   return ide;
@@ -108,36 +180,6 @@ std::unique_ptr<HostIde> HostIde::open(FileSystem& files, const std::string& pat
 
 HostIde::~HostIde() {
   for (const auto& project : projects_.projects_) screen_->projectRemoved(*project);
-}
-
-HostProject* HostIde::addProject(std::string fileName, std::string bytes, PathLookup& lookup,
-                                 const CodePage* codePage, const WarningSink& warn) {
-  const ProjectContext context{lookup, sources_, codePage, warn, screen_};
-  projects_.projects_.push_back(
-      std::make_unique<HostProject>(std::move(fileName), std::move(bytes), context));
-  return projects_.projects_.back().get();
-}
-
-void HostIde::openGroup(const std::string& path, std::string_view bytes, const CodePage* codePage,
-                        const WarningSink& warn) {
-  PathLookup lookup(files_);
-  const std::string folder(folderOf(path));
-  const int number = isValidUtf8(bytes) ? kUtf8 : kGroupCodePage;
-  const CodePage* page = CodePage::find(number);
-  if (number != kUtf8 && codePage != nullptr) page = codePage;
-  std::set<std::string> opened;
-  for (const GroupLine& line : readGroupFile(bytes)) {
-    const FoundPath found = findInCodePages(lookup, folder, line.path, codePage);
-    if (opened.count(found.path) != 0) continue;  // the IDE can't hold a project twice either
-    std::string projectBytes;
-    if (found.path.empty() || files_.read(found.path, projectBytes) != FileError::none) {
-      warn(cannotReadWarning(PathLookup::tried(folder, page->decode(line.path))));
-      continue;
-    }
-    opened.insert(found.path);
-    HostProject* project = addProject(found.path, std::move(projectBytes), lookup, codePage, warn);
-    if (line.isStartup && startup_ == nullptr) startup_ = project;
-  }
 }
 
 void HostIde::setScreen(HostScreen* screen) {

@@ -34,9 +34,10 @@ class HostProjects final : public VBProjects {
 class HostIde final : public VBE {
  public:
   /// Opens a project (.vbp) or a group (.vbg). `codePage`, if it isn't null, is taken instead of
-  /// the one that is found for each project. `warn` gets one line for each file that can't be read
-  /// and is left out. Null if there is nothing to open: `why` is then one line that names the file
-  /// and what is wrong. `files` must outlive the result.
+  /// the one that is kept or found for each project. `warn` gets one line for each file that can't
+  /// be read and is left out, and notes of the code page, which begin with "note: ". Null if there
+  /// is nothing to open: `why` is then one line that names the file and what is wrong. `files` must
+  /// outlive the result.
   static std::unique_ptr<HostIde> open(FileSystem& files, const std::string& path,
                                        const CodePage* codePage, const WarningSink& warn,
                                        std::string& why);
@@ -109,10 +110,7 @@ class HostIde final : public VBE {
  private:
   explicit HostIde(FileSystem& files) : files_(files), sources_(files) {}
 
-  HostProject* addProject(std::string fileName, std::string bytes, PathLookup& lookup,
-                          const CodePage* codePage, const WarningSink& warn);
-  void openGroup(const std::string& path, std::string_view bytes, const CodePage* codePage,
-                 const WarningSink& warn);
+  class Opening;
 
   /// Fails for a project that isn't one of this IDE's.
   HostProject& own(const VBProject& project) const;

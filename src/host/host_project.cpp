@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/paths.h"
-#include "host/code_page_guess.h"
 #include "host/names.h"
 
 namespace tamrikon {
@@ -31,52 +30,50 @@ void HostComponents::add(std::unique_ptr<HostComponent> component) {
 }
 
 HostProject::HostProject(std::string fileName, std::string bytes, const ProjectContext& context)
-    : screen_(context.screen), disk_(std::move(fileName), bytes), file_(std::move(bytes)) {
-  open(context);
+    : screen_(context.screen),
+      disk_(std::move(fileName), bytes),
+      file_(std::move(bytes)),
+      found_(std::in_place) {
+  const std::string folder(folderOf(disk_.path()));
+  CodePageGuess& guess = found_->guess;
+  for (const ProjectFile::ComponentLine& line : file_.components()) {
+    const FoundPath found = findInCodePages(context.lookup, folder, line.path, context.codePage);
+    guess.addPath(found);
+    Source* source = nullptr;
+    if (hasCode(line.type) && !found.path.empty()) source = context.sources.open(found.path);
+    if (source != nullptr) {
+      guess.addSource(source->evidence(), hasControls(line.type));
+      guess.addBytes(source->undecoded());
+    }
+    found_->components.push_back({found.path, source});
+  }
+  guess.addBytes(file_.undecoded());
 }
 
-void HostProject::open(const ProjectContext& context) {
-  const std::string folder(folderOf(disk_.path()));
-  struct Opened {
-    FoundPath found;
-    Source* source = nullptr;
-  };
-  std::vector<Opened> opened;
-  CodePageGuess guess;
-  for (const ProjectFile::ComponentLine& line : file_.components()) {
-    Opened entry;
-    entry.found = findInCodePages(context.lookup, folder, line.path, context.codePage);
-    guess.addPath(entry.found);
-    if (hasCode(line.type) && !entry.found.path.empty()) {
-      entry.source = context.sources.open(entry.found.path);
-      if (entry.source != nullptr) {
-        guess.addSource(entry.source->evidence(), hasControls(line.type));
-      }
-    }
-    opened.push_back(std::move(entry));
-  }
-
-  page_ = context.codePage != nullptr ? context.codePage : &guess.page();
-  file_.setCodePage(*page_);
+void HostProject::open(const CodePage& page, const WarningSink& warn) {
+  page_ = &page;
+  file_.setCodePage(page);
   const std::string ownName = file_.name();
   name_ = identifierFrom(ownName.empty() ? baseName(disk_.path()) : ownName);
   constants_ = readConditionalConstants(file_.conditionalConstants());
 
-  for (std::size_t i = 0; i < opened.size(); ++i) {
+  for (std::size_t i = 0; i < found_->components.size(); ++i) {
     const ProjectFile::ComponentLine& line = file_.components()[i];
-    ComponentFile file{std::move(opened[i].found.path), false, opened[i].source};
+    FoundComponent& found = found_->components[i];
+    ComponentFile file{std::move(found.path), false, found.source};
     file.isMissing = hasCode(line.type) ? file.source == nullptr : file.path.empty();
     if (file.isMissing) {
-      const std::string tried = PathLookup::tried(folder, file_.text(line.path));
-      context.warn(cannotReadWarning(tried));
+      const std::string tried = PathLookup::tried(folderOf(disk_.path()), file_.text(line.path));
+      if (hasCode(line.type)) warn(cannotReadWarning(tried));
       if (file.path.empty()) file.path = tried;
     }
-    if (file.source != nullptr) file.source->decode(*page_);
+    if (file.source != nullptr) file.source->decode(page);
     std::string name = file_.text(line.name);
     if (name.empty()) name = baseName(file.path);
     components_.add(
         std::make_unique<HostComponent>(*this, line.type, name, std::move(file), constants_));
   }
+  found_.reset();
 }
 
 }  // namespace tamrikon

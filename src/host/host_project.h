@@ -3,9 +3,11 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "host/code_page_guess.h"
 #include "host/conditional_expression.h"
 #include "host/file_on_disk.h"
 #include "host/host_component.h"
@@ -38,16 +40,23 @@ class HostComponents final : public VBComponents {
 struct ProjectContext {
   PathLookup& lookup;
   SourceStore& sources;
-  const CodePage* codePage;  // the one that was asked for, or null
+  const CodePage* codePage;  // the one that was asked for or kept, or null
   const WarningSink& warn;
   HostScreen* const& screen;  // follows a change of the screen
 };
 
 class HostProject final : public VBProject {
  public:
-  /// `fileName` is the absolute path of the project's file and `bytes` what it holds. Opens all
-  /// components. `context.sources` and `context.screen` must outlive the project.
+  /// `fileName` is the absolute path of the project's file and `bytes` what it holds. Finds and
+  /// reads the files of the components. `context.sources` and `context.screen` must outlive the
+  /// project.
   HostProject(std::string fileName, std::string bytes, const ProjectContext& context);
+
+  /// What its files tell of the code page. Only until it is opened.
+  const CodePageGuess& guess() const { return found_->guess; }
+
+  /// Opens all components; to be called once, before what follows.
+  void open(const CodePage& page, const WarningSink& warn);
 
   std::string Name() const override { return name_; }
   std::string FileName() const override { return disk_.path(); }
@@ -64,11 +73,19 @@ class HostProject final : public VBProject {
   FileOnDisk& disk() { return disk_; }
 
  private:
-  void open(const ProjectContext& context);
+  struct FoundComponent {
+    std::string path;  // empty if there is no such file
+    Source* source = nullptr;
+  };
+  struct Found {
+    std::vector<FoundComponent> components;  // beside those of file_
+    CodePageGuess guess;
+  };
 
   HostScreen* const& screen_;
   FileOnDisk disk_;
   ProjectFile file_;
+  std::optional<Found> found_;  // until the project is opened
   const CodePage* page_ = nullptr;
   std::string name_;
   ConditionalConstants constants_;

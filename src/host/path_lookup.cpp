@@ -15,6 +15,15 @@ constexpr int kMaxDepth = 256;
 // Where folders are links to each other, there is no end of ways to go.
 constexpr int kMaxDetours = 1000;
 
+std::string joined(std::string_view folder, std::string_view path) {
+  return nativePath(isAbsolutePath(path) ? std::string(path) : joinPath(folder, path));
+}
+
+std::string withoutDetours(const std::string& path) {
+  const std::string direct = std::filesystem::path(path).lexically_normal().string();
+  return path.starts_with("//") && !direct.starts_with("//") ? '/' + direct : direct;
+}
+
 /// Whether the platform itself takes the path as absolute; a drive letter may mean nothing to it.
 bool isAbsoluteHere(const std::string& nativePath) {
   return std::filesystem::path(nativePath).is_absolute();
@@ -23,16 +32,16 @@ bool isAbsoluteHere(const std::string& nativePath) {
 }  // namespace
 
 std::string PathLookup::tried(std::string_view folder, std::string_view path) {
-  return nativePath(isAbsolutePath(path) ? std::string(path) : joinPath(folder, path));
+  return withoutDetours(joined(folder, path));
 }
 
 std::string PathLookup::find(std::string_view folder, std::string_view path) {
   if (path.empty() || path.size() > kMaxLength) return {};
   if (path.find('\0') != std::string_view::npos) return {};
-  if (!isAbsolutePath(path)) return findAt(tried(folder, path));
+  if (!isAbsolutePath(path)) return findAt(joined(folder, path));
   const std::string native = nativePath(path);
   const std::string found = isAbsoluteHere(native) ? findAt(native) : std::string();
-  return !found.empty() ? found : findAt(tried(folder, lastName(path)));
+  return !found.empty() ? found : findAt(joined(folder, lastName(path)));
 }
 
 std::string PathLookup::findAt(const std::string& path) {

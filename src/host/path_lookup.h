@@ -17,7 +17,8 @@ class PathLookup {
  public:
   explicit PathLookup(FileSystem& files) : files_(files) {}
 
-  /// The path at which `path` is tried first: native, in `folder` unless it is absolute.
+  /// The path at which `path` is tried first: native, in `folder` unless it is absolute, and as a
+  /// person would write it, without "." and "..".
   static std::string tried(std::string_view folder, std::string_view path);
 
   /// The absolute path of the file that `path` names, seen from `folder`; empty if there is none.

@@ -6,6 +6,7 @@
 #include "base/utf8.h"
 #include "host/line_reader.h"
 #include "host/scanning.h"
+#include "host/source_head.h"
 
 namespace tamrikon {
 namespace {
@@ -30,6 +31,17 @@ constexpr ComponentKey kComponentKeys[] = {
 
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
+/// The offset behind a byte order mark.
+std::size_t startOf(std::string_view bytes) {
+  return bytes.starts_with(kMark) ? kMark.size() : 0;
+}
+
+/// Whether the line begins with "KEY=", without blanks before it.
+bool beginsWithKey(std::string_view line, std::string_view key) {
+  if (!beginsWith(line, key)) return false;
+  return skipBlanks(line.substr(key.size())).starts_with('=');
+}
+
 }  // namespace
 
 std::string_view withoutQuotes(std::string_view text) {
@@ -44,10 +56,22 @@ ProjectFile::ProjectFile(std::string bytes) : bytes_(std::move(bytes)) {
   readLines();
 }
 
+bool ProjectFile::isProject(std::string_view bytes) {
+  LineReader reader(bytes, startOf(bytes));
+  bool isFirst = true;
+  for (; reader.next(); isFirst = false) {
+    std::string_view line = reader.line();
+    if (isFirst && (isAttributeLine(line) || isKeyword(takeField(line), "version"))) return false;
+    if (trimBlanks(reader.line()).starts_with('[')) return false;
+    if (beginsWithKey(reader.line(), "type")) return true;
+  }
+  return false;
+}
+
 // No double-byte page uses "=", ";", quotes or blanks as second bytes, so lines can be divided
 // before they are decoded. Paths can't: the second byte of a character may be a backslash.
 void ProjectFile::readLines() {
-  const std::size_t start = bytes_.starts_with(kMark) ? kMark.size() : 0;
+  const std::size_t start = startOf(bytes_);
   insertionOffset_ = start;
   LineReader reader(bytes_, start);
   while (reader.next()) {

@@ -27,8 +27,14 @@ class ProjectFile {
   ProjectFile(const ProjectFile&) = delete;
   ProjectFile& operator=(const ProjectFile&) = delete;
 
+  /// Whether the bytes are those of a project file: one with a line "Type=", and no source.
+  static bool isProject(std::string_view bytes);
+
   /// In the order of the lines.
   const std::vector<ComponentLine>& components() const { return components_; }
+
+  /// What was read.
+  std::string_view undecoded() const { return bytes_; }
 
   /// To be called before what follows. `page` must outlive this object.
   void setCodePage(const CodePage& page);

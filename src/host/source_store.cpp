@@ -12,7 +12,7 @@ Source::Source(std::string path, std::string bytes)
 
 void Source::decode(const CodePage& page) {
   if (file_) return;
-  file_ = std::make_unique<SourceFile>(std::move(bytes_), page);
+  file_ = std::make_unique<SourceFile>(std::exchange(bytes_, {}), page);
   attributes_ = std::make_unique<MemberAttributes>(*file_);
 }
 

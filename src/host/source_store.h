@@ -25,6 +25,9 @@ class Source {
   FileOnDisk& disk() { return disk_; }
   const CodePageEvidence& evidence() const { return evidence_; }
 
+  /// What was read, as long as it isn't decoded; empty from then on.
+  std::string_view undecoded() const { return bytes_; }
+
   /// Has no effect on a file that is decoded already.
   void decode(const CodePage& page);
 

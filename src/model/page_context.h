@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "comments/comment_parser.h"
 #include "model/link_lists.h"

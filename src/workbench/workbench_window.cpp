@@ -13,6 +13,7 @@
 #include <QTextBlock>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "base/paths.h"
 #include "platform/user_folders.h"
@@ -158,7 +159,10 @@ void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
   QList<Message> messages;
   for (const QString& warning : warnings) messages += Message{warning, nullptr, {}};
   messages_.show(messages);
-  if (!warnings.isEmpty()) messagesDock_->show();
+  // Notes, such as that of a code page, can be read there; they needn't be seen.
+  const bool isWarned = std::any_of(warnings.begin(), warnings.end(),
+                                    [](const QString& text) { return !text.startsWith("note: "); });
+  if (isWarned) messagesDock_->show();
   userTags_.follow(&ide);
   showState();
   for (int i = 1; i <= ide.VBProjects().Count(); ++i) {

@@ -162,6 +162,7 @@ TEST_F(CommandLineTest, SavesNoLineThatTheIdeCannotRead) {
   std::string words;
   for (int n = 0; n < 300; ++n) words += "\"w\xE9\" ";  // 5 characters, written as 7
   folder_.put("Cart.cls", "Option Explicit\n\n'**\n'" + words + "\nPublic Sub Fill()\nEnd Sub\n");
+  folder_.put("Shop.codepage", "1252");
   folder_.put("t/own.tmkt", "$tamrik-help-file$\na.chm\n  and more\n$end-tamrik-help-file$");
   for (int round = 1; round <= 2; ++round) {
     const ProgramRun run = compile({"--set", "comWriteDescription=1", "--set", "comContextID=1",

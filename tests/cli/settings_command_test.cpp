@@ -21,7 +21,7 @@ class SettingsCommandTest : public testing::Test {
     folder_.put("More.bas", "Sub B()\nEnd Sub\n");
     folder_.put("Doc.txt", "");
     project_ = folder_.put("DEMO.VBP",
-                           "Module=Demo; Demo.bas\nRelatedDoc=Doc.txt\nModule=More; More.bas\n");
+                           "Type=Exe\nModule=Demo; Demo.bas\nRelatedDoc=Doc.txt\nModule=More; More.bas\n");
   }
 
   /// The value that is printed for `key`; of comModules, all names.
@@ -140,6 +140,16 @@ TEST_F(SettingsCommandTest, TakesAFileWholeOrNotAtAll) {
     const bool isTaken = addSee[0] == '0' || *modules == '\0';
     EXPECT_EQ(warning.substr(0, start.size()), isTaken ? "" : start);
   }
+}
+
+TEST_F(SettingsCommandTest, KeepsTheCodePageBesideTheProject) {
+  const ProgramRun kept({"settings", project_, "--keep-codepage", "1251"});
+  EXPECT_EQ(kept.status, 0);
+  EXPECT_EQ(kept.out + kept.err, "");
+  EXPECT_EQ(folder_.get("DEMO.codepage"), "1251\n");
+  EXPECT_EQ(ProgramRun({"settings", project_, "--keep-codepage", "1"}).status, 2);
+  const ProgramRun missing({"settings", project_, "comModules=More,Nowhere"});
+  EXPECT_EQ(missing.err, "warning: comModules: there is no module Nowhere\n");
 }
 
 TEST_F(SettingsCommandTest, FallsBackToATemplateThatIsThere) {

@@ -34,6 +34,8 @@ class SourceCommandsTest : public testing::Test {
   test::TempFolder folder_;
   std::string cartPath_ = folder_.put("Cart.cls", cart());
   std::string tillPath_ = folder_.put("Till.bas", "x = \"\xE9\"\nSub Main()\nEnd Sub\n");
+  std::string keptPage_ = folder_.put("Shop.codepage", "1252");
+  std::string otherPage_ = folder_.put("Other.codepage", "1252");
   std::string project_ =
       folder_.put("Shop.vbp", "Type=Exe\nClass=Cart; Cart.cls\nModule=Till; Till.bas\n");
 };
@@ -86,7 +88,7 @@ TEST_F(SourceCommandsTest, ChangeNothingButPrintExamplesOrWhatIsWrong) {
 TEST_F(SourceCommandsTest, DryRunPrintsBytesForPatchAndTextForPeople) {
   const std::filesystem::path home = std::filesystem::current_path();
   std::filesystem::current_path(folder_.path());
-  const ProgramRun piped({"comment", "Shop.vbp", "Type=Exe\nTill.Main", "--dry-run"});
+  const ProgramRun piped({"comment", "Shop.vbp", "Till.Main", "--dry-run"});
   std::filesystem::current_path(home);
   EXPECT_EQ(piped.out,
             "--- Till.bas\n+++ Till.bas\n@@ -1,3 +1,7 @@\n x = \"\xE9\"\n+'**\n+'\n"
@@ -100,7 +102,7 @@ TEST_F(SourceCommandsTest, DryRunNamesFilesSoThatPatchFindsThem) {
   folder_.put("sub/a/Own.bas", "Sub Own()\nEnd Sub\n");
   folder_.put("sub/Far.bas", "Sub Far()\nEnd Sub\n");
   const std::string project =
-      folder_.put("sub/a/P.vbp", "Module=Own; Own.bas\nModule=Far; ..\\Far.bas\n");
+      folder_.put("sub/a/P.vbp", "Type=Exe\nModule=Own; Own.bas\nModule=Far; ..\\Far.bas\n");
   const std::filesystem::path home = std::filesystem::current_path();
   for (const auto& [here, way, target] : {std::tuple("", ".", "Far.Far"),
                                           {"sub/a", ".", "Own.Own"},
@@ -124,7 +126,7 @@ TEST_F(SourceCommandsTest, RefuseToWriteIntoFilesThatCannotBeUnderstood) {
            {std::string("a\n\0", 3), "line 2: it has a null character"},
        }) {
     const std::string path = folder_.put("F.frm", text);
-    folder_.put("Shop.vbp", "Form=F.frm\n");
+    folder_.put("Shop.vbp", "Type=Exe\nForm=F.frm\n");
     const ProgramRun result = run("comment", {"--missing"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err.find("tamrikon: cannot save " + path + ", " + why), 0U) << result.err;

@@ -89,17 +89,18 @@ TEST(Opening, FindsFilesAsTheyWereWrittenElsewhere) {
   folder.put("Proj/Moved.frm", "");
   folder.put("Proj/sub/keep", "");
   folder.put("Proj/P.VBP",
-             "Class=X; ..\\Api\\codigo\\x.cls\nModule=O; ..\\API\\OTHER.BAS\nModule=B; BOTH.bas\n"
+             "Type=Exe\nClass=X; ..\\Api\\codigo\\x.cls\nModule=O; ..\\API\\OTHER.BAS\nModule=B; "
+             "BOTH.bas\n"
              "Form=J:\\Work\\Ui\\moved.frm\nModule=G; Gone\\..\\..\\Api\\none.bas\nModule=D; sub\n"
-             "ResFile32=\"no.res\"\nRelatedDoc=\\\\server\\d$\\no.doc\nForm=\nForm=K:\\no.frm\n"
+             "ResFile32=\"no.res\"\nRelatedDoc=no.doc\nForm=\nForm=\\\\srv\\d$\\no.frm\n"
+             "Module=N; ..\\Api\\.\\none.bas\n"
              "Class=Self; P.VBP\n");
   const Opened opened = openIn(folder, "Proj/P.VBP");
   ASSERT_TRUE(opened.ide) << opened.why;
-  EXPECT_EQ(opened.components(), "2 X, 1 O, 1 Right, 5 Moved, 1, 1, 4, 10, 5, 5, 2 Self");
+  EXPECT_EQ(opened.components(), "2 X, 1 O, 1 Right, 5 Moved, 1, 1, 4, 10, 5, 5, 1, 2 Self");
   EXPECT_EQ(opened.warnings,
-            "warning: cannot read ~/Proj/Gone/../../Api/none.bas|warning: cannot read ~/Proj/sub|"
-            "warning: cannot read ~/Proj/no.res|warning: cannot read //server/d$/no.doc|"
-            "warning: cannot read ~/Proj/|warning: cannot read K:/no.frm|");
+            "warning: cannot read ~/Api/none.bas|warning: cannot read ~/Proj/sub|"
+            "warning: cannot read ~/Proj/|warning: cannot read //srv/d$/no.frm|");
 }
 
 TEST(Opening, EndsWhereFoldersAreLinksToEachOther) {
@@ -107,7 +108,7 @@ TEST(Opening, EndsWhereFoldersAreLinksToEachOther) {
   std::string path;
   for (int n = 0; n < 200; ++n) path += "a\\";
   for (const char* name : {"a", "A"}) std::filesystem::create_symlink(".", folder / name);
-  folder.put("P.VBP", "Module=M; " + path + "gone.bas\nModule=N; n.bas\n");
+  folder.put("P.VBP", "Type=Exe\nModule=M; " + path + "gone.bas\nModule=N; n.bas\n");
   folder.put("N.BAS", "");
   const Opened opened = openIn(folder, "P.VBP");
   ASSERT_TRUE(opened.ide) << opened.why;
@@ -135,6 +136,10 @@ TEST(Opening, GuessesTheCodePage) {
        1252},
       {"double-byte needs no runs", {{"a.frm", form("128", "\x83")}}, "Form=a.frm", 932},
       {"classes don't vote", {{"a.cls", form("204", "")}}, "Class=a; a.cls", 1252},
+      {"votes behind a byte order mark",
+       {{"a.frm", "\xEF\xBB\xBF" + form("204", "")}},
+       "Form=a.frm",
+       1251},
       {"path in UTF-8",
        {{"表.bas", ""}, {"a.frm", form("134", "")}},
        "Form=a.frm\nModule=x; 表.bas",
@@ -144,19 +149,75 @@ TEST(Opening, GuessesTheCodePage) {
     SCOPED_TRACE(caseName);
     const test::TempFolder folder;
     for (const auto& [name, bytes] : files) folder.put(name, bytes);
-    folder.put("p.vbp", project + "\n");
+    folder.put("p.vbp", "Type=Exe\n" + project + "\n");
     const Opened opened = openIn(folder, "p.vbp");
     ASSERT_TRUE(opened.ide) << opened.why;
-    EXPECT_EQ(opened.warnings, "");
+    EXPECT_EQ(opened.warnings.empty(), std::string(caseName) != "letters that stand alone");
     EXPECT_EQ(opened.codePage(), page);
     EXPECT_EQ(openIn(folder, "p.vbp", 1257).codePage(), 1257);
   }
 }
 
+TEST(Opening, GuessesTheCodePageFromBytes) {
+  using Case = std::tuple<const char*, int, const char*, int>;
+  for (const auto& [text, writtenIn, name, page] : {
+           Case{"Sub ソート()\n", 932, "カナ", 932},
+           Case{"' 设置文件名\nMsgBox \"数据不能为空\"", 936, "库存", 936},
+           Case{"' 파일을 찾을 수 없습니다", 949, "재고", 949},
+           Case{"MsgBox \"請輸入檔案名稱\" ' 資料", 950, "庫存", 950},
+           Case{"", 1251, "Склад\"\nTitle=\"Учёт товаров на складе\"\nDescription=\"Отчёты", 1251},
+           Case{"' Το αρχείο δεν βρέθηκε\nPublic τιμή", 1253, "Αποθήκη", 1253},
+           Case{"' הקובץ לא נמצא, נסה שוב מאוחר יותר", 1255, "מחסן", 1255},
+           Case{"' لم يتم العثور على الملف\n' اسم المستخدم غير صحيح", 1256, "مخزن", 1256},
+           Case{"' ไม่พบแฟ้มข้อมูล\nMsgBox \"กรุณาป้อนชื่อ\"\n' บันทึก ยกเลิก", 874, "คลัง", 874},
+           // Those that stay what they are.
+           Case{"' Größe, naïve çà et là, ÄÖÜß, função, ÀÇÃO", 1252, "Prüfung", 0},
+           Case{"\"áàâã\", \"éèê\", \"íì\", \"óòôõ\", \"úùû\", \"ÁÀÂÃ\", \"ÉÈÊ\", \"ÓÒÔÕ\"", 1252,
+                "x", 0},
+           Case{"' “It’s” – don’t…\n'————————\n'ÉÍÍÍÍÍÍÍ»\n'ÈÍÍÍ¼\n'ÛÛ²²±±°°", 1252, "x", 0},
+           Case{"' gęślą jaźń, żółć, ŻÓŁĆ, źródło, wśród, połącz", 1250, "Źródło", 0},
+           Case{"' değişikliği, ışığı, küçük, üçüncü çığır, İŞÇİ", 1254, "Ölçü", 0},
+           Case{"Склад", 1251, "x", 0},
+       }) {
+    SCOPED_TRACE(text);
+    const CodePage& bytes = *CodePage::find(writtenIn);
+    const test::TempFolder folder;
+    folder.put("m.bas", bytes.encode(text));
+    folder.put("p.vbp",
+               bytes.encode("Type=Exe\nModule=m; m.bas\nName=\"" + std::string(name) + "\"\n"));
+    const Opened opened = openIn(folder, "p.vbp");
+    ASSERT_TRUE(opened.ide) << opened.why;
+    EXPECT_EQ(opened.codePage(), page == 0 ? 1252 : page);
+    const std::string note = page == 0 ? "note: nothing tells the code page of "
+                                       : "note: the code page of " + opened.project().Name() +
+                                             " is guessed to be " + std::to_string(page);
+    EXPECT_TRUE(opened.warnings.starts_with(note)) << opened.warnings;
+    EXPECT_EQ(openIn(folder, "p.vbp", writtenIn).warnings, "");
+  }
+}
+
+TEST(Opening, TakesTheKeptPageAndThatOfTheGroup) {
+  const test::TempFolder folder;
+  folder.put("a.vbp", "Type=Exe\nModule=m; a.bas\nName=\"A\"\n");
+  folder.put("a.bas", "' \xE4\n");
+  folder.put("b.vbp", "Type=Exe\nName=\"\xC1\"\n");
+  folder.put("g.vbg", "VBGROUP 5.0\nProject=a.vbp\nProject=b.vbp\n");
+  folder.put("b.codepage", "1251\r\n");
+  const Opened opened = openIn(folder, "g.vbg");
+  EXPECT_EQ(opened.codePage(1), 1251);
+  EXPECT_EQ(opened.project(2).Name(), "Б");
+  EXPECT_TRUE(opened.warnings.starts_with("note: the code page of A is guessed to be 1251"));
+  EXPECT_EQ(openIn(folder, "g.vbg", 1253).codePage(2), 1253);
+  folder.put("b.codepage", "1251x");
+  EXPECT_TRUE(openIn(folder, "b.vbp")
+                  .warnings.starts_with("warning: ~/b.codepage doesn't hold the number of a code "
+                                        "page, such as 1251|note: nothing"));
+}
+
 TEST(Opening, ReadsGroups) {
   const test::TempFolder folder;
-  folder.put("A/a.vbp", "Name=\"A\"\nModule=S; ..\\s.bas\n");
-  folder.put("B/b.vbp", "Name=\"B\"\nForm=f.frm\nModule=S; ..\\S.BAS\n");
+  folder.put("A/a.vbp", "Type=Exe\nName=\"A\"\nModule=S; ..\\s.bas\n");
+  folder.put("B/b.vbp", "Type=Exe\nName=\"B\"\nForm=f.frm\nModule=S; ..\\S.BAS\n");
   folder.put("B/f.frm", "Begin VB.Form f\nCharset = 128\nEnd\n' \x83\x5C\n");
   folder.put("s.bas", "x\n");
   folder.put("g.vbg",
@@ -180,13 +241,24 @@ TEST(Opening, ReadsGroups) {
 
 TEST(Opening, SaysWhyThereIsNothingToOpen) {
   const test::TempFolder folder;
-  folder.put("empty.vbg", "VBGROUP 5.0\nProject=no.vbp\n");
+  folder.put("empty.vbg", "VBGROUP 5.0\nProject=no.vbp\nProject=form.frm\n");
+  folder.put("form.frm", "VERSION 5.00\nBegin VB.Form f \n   Name = \"x\"\nType = 1\nEnd\n");
+  folder.put("other.vbp", "Name=\"x\"\n[Type]\nType=Exe\n");
+  folder.put("other.vbg", "Type=Exe\n");
   folder.put("dir.vbp/x", "");
   EXPECT_EQ(openIn(folder, "no.vbp").why, "cannot read ~/no.vbp: there is no such file");
   EXPECT_EQ(openIn(folder, "dir.vbp").why,
             "cannot read ~/dir.vbp: it is not a file that can be opened");
   EXPECT_EQ(openIn(folder, "empty.vbg").why,
             "cannot read ~/empty.vbg: it has no project that can be read");
+  for (const char* name : {"form.frm", "other.vbp"}) {
+    EXPECT_EQ(openIn(folder, name).why, std::string("~/") + name +
+                                            " isn't a Visual Basic project: it has no line "
+                                            "\"Type=\"");
+  }
+  EXPECT_EQ(openIn(folder, "other.vbg").why,
+            "~/other.vbg isn't a Visual Basic project group: its first line isn't "
+            "\"VBGROUP 5.0\"");
 }
 
 TEST(Opening, SurvivesAnyBytes) {
@@ -197,10 +269,10 @@ TEST(Opening, SurvivesAnyBytes) {
   };
   const std::string longLine(1000000, 'x');
   const test::TempFolder folder;
-  const std::string junkProject = "Module=a; a.bas\nModule=n; " + std::string("a\0b.bas", 7) +
-                                  "\nForm=" + replaceAll(longLine, "xx", "a\\") +
-                                  "\nForm=" + replaceAll(longLine, "xxxxx", "a\\..\\") +
-                                  "a.bas\nName=" + junk;
+  const std::string junkProject =
+      "Type=Exe\nModule=a; a.bas\nModule=n; " + std::string("a\0b.bas", 7) +
+      "\nForm=" + replaceAll(longLine, "xx", "a\\") +
+      "\nForm=" + replaceAll(longLine, "xxxxx", "a\\..\\") + "a.bas\nName=" + junk;
   for (const std::string& text :
        {std::string(), junk, longLine, replaceAll("Public [x\nPublic (x", "x", longLine),
         many("Begin\n"), many("#If 1 Then\n"), many("a _\n"), many("[:\r") + "Public a"}) {
@@ -230,7 +302,7 @@ TEST(Opening, SavesTheHelpFileAlone) {
                 "Type=Exe\nHelpFile=\"a.chm\"\n\n \n[X]\nA=1\n"},
            Case{"added behind a line without end", "Type=Exe", "a",
                 "Type=Exe\r\nHelpFile=\"a\"\r\n"},
-           Case{"UTF-8", "Name=ä\r\nHelpFile=a", "ж", "Name=ä\r\nHelpFile=\"ж\""},
+           Case{"UTF-8", "Type=\r\nName=ä\r\nHelpFile=a", "ж", "Type=\r\nName=ä\r\nHelpFile=\"ж\""},
        }) {
     SCOPED_TRACE(name);
     const test::TempFolder folder;

@@ -112,14 +112,14 @@ TEST_F(SharedFilesTest, NeverSavesOverTheWorkOfOthersUnasked) {
                                       conflict("b.vbp")}));
   EXPECT_EQ(ide_->saveProject(project)->text, conflict("b.vbp"));
   EXPECT_EQ(folder_.get("m.bas"), "other\n");
-  EXPECT_EQ(folder_.get("b.vbp"), "Module=m; m.bas\nHelpFile=k\n");
+  EXPECT_EQ(folder_.get("b.vbp"), "Type=Exe\nModule=m; m.bas\nHelpFile=k\n");
   EXPECT_TRUE(!folder_.has("f.frm") && module().isChanged());
 
   EXPECT_FALSE(ide_->save(module(), OnConflict::overwrite));
   EXPECT_EQ(lines(), "' mine\r\nSub A()\r\nEnd Sub");
   EXPECT_FALSE(ide_->changedOnDisk(module()));
   EXPECT_TRUE(ide_->saveAll(OnConflict::overwrite).empty());
-  EXPECT_EQ(folder_.get("b.vbp"), "Module=m; m.bas\nHelpFile=\"mine\"\n");
+  EXPECT_EQ(folder_.get("b.vbp"), "Type=Exe\nModule=m; m.bas\nHelpFile=\"mine\"\n");
   EXPECT_TRUE(folder_.has("f.frm"));
 }
 

@@ -1,0 +1,81 @@
+#include "host/project_pages.h"
+
+#include <algorithm>
+
+namespace tamrikon {
+namespace {
+
+constexpr int kDefault = 1252;
+
+/// "A", "A and B", "A, B and C", or of more than five the first with the number of the others.
+std::string listed(const std::vector<std::string>& names) {
+  constexpr std::size_t kMost = 5;
+  const std::size_t shown = names.size() > kMost ? kMost - 1 : names.size() - 1;
+  std::string text;
+  for (std::size_t i = 0; i < shown; ++i) text += (i == 0 ? "" : ", ") + names[i];
+  if (shown > 0) text += " and ";
+  if (names.size() > kMost) return text + std::to_string(names.size() - shown) + " others";
+  return text + names.back();
+}
+
+}  // namespace
+
+void ProjectPages::add(const CodePage* chosen, const CodePageGuess& guess) {
+  Found found;
+  if (chosen != nullptr) {
+    found.page = chosen->number();
+  } else {
+    found.page = guess.named();
+    found.needsPage = guess.needsPage();
+    if (found.page == 0 && found.needsPage) {
+      found.page = guess.fromBytes();
+      found.isGuessed = found.page != 0;
+    }
+  }
+  projects_.push_back(found);
+}
+
+int ProjectPages::common() const {
+  std::map<int, std::size_t> counts;
+  for (const Found& project : projects_) {
+    if (project.page != 0) ++counts[project.page];
+  }
+  const auto most =
+      std::max_element(counts.begin(), counts.end(),
+                       [](const auto& a, const auto& b) { return a.second < b.second; });
+  return most == counts.end() ? kDefault : most->first;
+}
+
+const CodePage& ProjectPages::of(std::size_t project) const {
+  const int own = projects_[project].page;
+  return *CodePage::find(own != 0 ? own : common());
+}
+
+std::vector<std::string> ProjectPages::notes(
+    const std::function<std::string(std::size_t project)>& nameOf) const {
+  std::map<int, std::vector<std::string>> guessed;
+  std::vector<std::string> unknown;
+  for (std::size_t i = 0; i < projects_.size(); ++i) {
+    const Found& project = projects_[i];
+    if (!project.needsPage) continue;
+    if (project.isGuessed || (project.page == 0 && common() != kDefault)) {
+      guessed[of(i).number()].push_back(nameOf(i));
+    } else if (project.page == 0) {
+      unknown.push_back(nameOf(i));
+    }
+  }
+  constexpr const char* kWayOut =
+      "; change it with --codepage, or for good with 'settings --keep-codepage'";
+  std::vector<std::string> notes;
+  for (const auto& [page, names] : guessed) {
+    notes.push_back("note: the code page of " + listed(names) + " is guessed to be " +
+                    std::to_string(page) + kWayOut);
+  }
+  if (!unknown.empty()) {
+    notes.push_back("note: nothing tells the code page of " + listed(unknown) +
+                    ", and bytes above 127 are read as 1252" + kWayOut);
+  }
+  return notes;
+}
+
+}  // namespace tamrikon

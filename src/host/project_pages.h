@@ -1,0 +1,40 @@
+// The code pages of all projects that are opened together.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/code_page_guess.h"
+#include "platform/code_page.h"
+
+namespace tamrikon {
+
+class ProjectPages {
+ public:
+  /// Adds a project: the page that was asked for or kept, or null, and what its files tell.
+  void add(const CodePage* chosen, const CodePageGuess& guess);
+
+  /// The page of the project, by its number from 0 in the order of add(). One whose files tell
+  /// nothing takes that of most others (of equals, the lower number), and 1252 if there are none.
+  const CodePage& of(std::size_t project) const;
+
+  /// What somebody should know who sees wrong letters: a line for each page that was guessed from
+  /// bytes, and one for bytes that were read as 1252 because nothing tells another page.
+  std::vector<std::string> notes(
+      const std::function<std::string(std::size_t project)>& nameOf) const;
+
+ private:
+  struct Found {
+    int page = 0;  // 0: nothing tells it
+    bool isGuessed = false;
+    bool needsPage = false;  // there are bytes that the page matters for
+  };
+  int common() const;
+
+  std::vector<Found> projects_;
+};
+
+}  // namespace tamrikon
