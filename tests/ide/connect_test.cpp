@@ -63,7 +63,8 @@ TEST_F(CommandTest, GroupCompileUsesEachProjectsSettingsAndLeavesTheWindowsAsThe
 
 TEST_F(CommandTest, GroupCompileTellsTheHostOfPagesThatWereWrittenOver) {
   folder_.put("Two.vbp", "Type=Exe\nName=\"one\"\nClass=CTwo; CTwo.cls\n");
-  folder_.put("Two.tamrik", folder_.get("One.tamrik"));
+  std::string settings = folder_.get("One.tamrik");
+  folder_.put("Two.tamrik", settings.replace(settings.find("COne"), 4, "CTwo"));
   openBoth();
   for (int run = 0; run < 2; ++run) {
     onOptions([](User& user, frmAddIn& dialog) { user.click(dialog.Command14); });
