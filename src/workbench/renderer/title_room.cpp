@@ -16,6 +16,24 @@ const QScreen& screenOf(const QWidget* owner) {
   return owner != nullptr ? *owner->screen() : *QGuiApplication::primaryScreen();
 }
 
+/// The text with places in its long words where a line may end. Qt breaks a path at its separators
+/// alone.
+QString breakable(const QString& text) {
+  constexpr int kLongest = 40;
+  constexpr QChar kZeroWidthSpace(0x200B);
+  QString broken;
+  int inWord = 0;
+  for (const QChar c : text) {
+    inWord = c.isLetterOrNumber() ? inWord + 1 : 0;
+    if (inWord > kLongest && !c.isLowSurrogate()) {
+      broken += kZeroWidthSpace;
+      inWord = 1;
+    }
+    broken += c;
+  }
+  return broken;
+}
+
 }  // namespace
 
 int widthForTitle(const QString& title) {
@@ -38,8 +56,7 @@ void makeRoomForTitle(QMessageBox& box) {
   const int room = std::min(roomOnScreen(&box).width(), kWidestBox);
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   if (width > room || grid == nullptr) {
-    box.setText(box.windowTitle() + "\n\n" + box.text());
-    box.setTextInteractionFlags(Qt::TextSelectableByMouse);  // lets Qt break a long path anywhere
+    box.setText(breakable(box.windowTitle()) + "\n\n" + box.text());
   } else {
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }

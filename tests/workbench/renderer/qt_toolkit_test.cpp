@@ -55,7 +55,8 @@ TEST_F(QtToolkitTest, MessageBoxShowsItsWholeTitle) {
     test::whenShown([&](QWidget& window) {
       auto& box = dynamic_cast<QMessageBox&>(window);
       const bool isWide = box.width() >= box.fontMetrics().horizontalAdvance(box.windowTitle());
-      EXPECT_TRUE(isWide || box.text().startsWith(box.windowTitle())) << length;
+      EXPECT_TRUE(isWide || box.text().remove(QChar(0x200B)).startsWith(box.windowTitle()))
+          << length;
       box.close();
     });
     toolkit.messageBox({title, "Text"});
