@@ -186,6 +186,20 @@ char32_t capitalOf(char32_t codePoint) {
   return codePoint;
 }
 
+/// Appends the text with each character replaced by what `map` makes of it.
+void appendMapped(std::string& result, std::string_view text, char32_t (*map)(char32_t)) {
+  std::size_t offset = 0;
+  while (offset < text.size()) {
+    const std::size_t start = offset;
+    const char32_t codePoint = readCodePoint(text, offset);
+    if (offset - start == 1 && codePoint >= 0x80) {
+      result += text[start];  // a stray byte stays what it is
+    } else {
+      appendCodePoint(result, map(codePoint));
+    }
+  }
+}
+
 }  // namespace
 
 char32_t lowerCase(char32_t codePoint) {
@@ -233,29 +247,12 @@ void appendLowered(std::string& result, std::string_view text) {
   }
   if (bits < 0x80) return;  // as it mostly is
   result.resize(begin);
-  std::size_t offset = 0;
-  while (offset < text.size()) {
-    const std::size_t start = offset;
-    const char32_t codePoint = readCodePoint(text, offset);
-    if (offset - start == 1 && codePoint >= 0x80) {
-      result += text[start];  // a stray byte stays what it is
-    } else {
-      appendCodePoint(result, lowerCase(codePoint));
-    }
-  }
+  appendMapped(result, text, lowerCase);
 }
 
 std::string uppered(std::string_view text) {
   std::string result;
-  for (std::size_t offset = 0; offset < text.size();) {
-    const std::size_t start = offset;
-    const char32_t codePoint = readCodePoint(text, offset);
-    if (offset - start == 1 && codePoint >= 0x80) {
-      result += text[start];  // a stray byte stays what it is
-    } else {
-      appendCodePoint(result, upperCase(codePoint));
-    }
-  }
+  appendMapped(result, text, upperCase);
   return result;
 }
 

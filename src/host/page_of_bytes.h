@@ -11,8 +11,8 @@
 //
 // A page of another alphabet (1251, 1253, 1255, 1256, 874): half of the letters stand in runs of
 // three and more that are neither rulers nor tables of letters; there are four different ones of
-// these, with twenty letters; and the letters are about as frequent as in the languages of the page,
-// clearly more so than in those of each other page.
+// these, with twenty letters; and the letters are about as frequent as in the languages of the
+// page, clearly more so than in those of each other page.
 #pragma once
 
 #include <string>
