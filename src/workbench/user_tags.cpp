@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "platform/text_decoding.h"
+#include "settings/user_tag_import.h"
 #include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
@@ -28,19 +30,13 @@ void UserTags::follow(const HostIde* ide) {
 }
 
 QStringList UserTags::of(const HostProject& project) {
-  QStringList tags{"@user1", "@user2", "@user3", "@user4", "@user5"};
+  ProjectSettings settings;
   QFile file(settingsFileOf(project));
-  if (!file.open(QIODevice::ReadOnly)) return tags;
-  // The names are ASCII, whatever the code page of the rest is.
-  for (const QByteArray& line : file.readAll().replace('\r', '\n').split('\n')) {
-    const qsizetype divider = line.indexOf('=');
-    if (divider < 0) continue;
-    const QByteArray name = line.sliced(divider + 1).trimmed();
-    for (int number = 1; number <= 5 && !name.isEmpty(); ++number) {
-      const QByteArray key = "user" + QByteArray::number(number) + "Name";
-      if (line.first(divider).trimmed() == key) tags[number - 1] = '@' + QString::fromLatin1(name);
-    }
+  if (file.open(QIODevice::ReadOnly)) {
+    readUserTags(decodeText(file.readAll().toStdString(), project.codePage()).text, settings);
   }
+  QStringList tags;
+  for (const std::string& name : settings.userName) tags += '@' + toQt(name);
   return tags;
 }
 

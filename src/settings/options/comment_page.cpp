@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "settings/options/text_input.h"
-#include "settings/options/user_tag_import.h"
+#include "settings/user_tag_import.h"
 
 namespace tamrikon {
 

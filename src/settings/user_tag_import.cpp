@@ -1,4 +1,4 @@
-#include "settings/options/user_tag_import.h"
+#include "settings/user_tag_import.h"
 
 #include <algorithm>
 #include <string_view>
@@ -37,20 +37,9 @@ void apply(const SettingField& field, std::string_view value) {
 
 }  // namespace
 
-int importUserTags(TextFiles& files, const std::string& path, ProjectSettings& settings) {
-  std::string text;
-  std::vector<std::string_view> lines;
-  for (;;) {
-    const int result = files.readTextFile(path, false, text);
-    if (result != 0) return result;
-    lines = splitLines(text);
-    if (!lines.empty()) break;
-    const FileErrorAnswer answer = files.ask(path, "reading", FileError::pastEndOfFile, false);
-    if (answer == FileErrorAnswer::goOn) return 1;
-    if (answer == FileErrorAnswer::giveUp) return 2;
-    if (answer == FileErrorAnswer::fail) return 3;
-  }
-  if (lines.front() != kSettingsHeader) return 1;
+bool readUserTags(std::string_view text, ProjectSettings& settings) {
+  const std::vector<std::string_view> lines = splitLines(text);
+  if (lines.empty() || lines.front() != kSettingsHeader) return false;
   const std::vector<SettingField> fields = userTagFields(settings);
   for (std::size_t n = 1; n < lines.size(); ++n) {
     const std::size_t sign = lines[n].find('=');
@@ -60,7 +49,20 @@ int importUserTags(TextFiles& files, const std::string& path, ProjectSettings& s
                                     [&](const SettingField& f) { return f.key == key; });
     if (field != fields.end()) apply(*field, trim(lines[n].substr(sign + 1)));
   }
-  return 0;
+  return true;
+}
+
+int importUserTags(TextFiles& files, const std::string& path, ProjectSettings& settings) {
+  std::string text;
+  for (;;) {
+    const int result = files.readTextFile(path, false, text);
+    if (result != 0) return result;
+    if (!text.empty()) return readUserTags(text, settings) ? 0 : 1;
+    const FileErrorAnswer answer = files.ask(path, "reading", FileError::pastEndOfFile, false);
+    if (answer == FileErrorAnswer::goOn) return 1;
+    if (answer == FileErrorAnswer::giveUp) return 2;
+    if (answer == FileErrorAnswer::fail) return 3;
+  }
 }
 
 }  // namespace tamrikon
