@@ -26,7 +26,7 @@ class store {
   explicit store(Session& session);
 
   /// Loads a template: 0 for success, 2 if the user gave up at the file error dialog, 3 for any
-  /// other failure.
+  /// other failure. Throws as MacroTable::loadSrc() does.
   int loadSrc(const std::string& file, bool silent);
 
   /// Turns the active project of the IDE into documentation. A request to cancel ends it at the

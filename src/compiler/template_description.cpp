@@ -20,13 +20,15 @@ std::string readTemplateDescription(Session& session, const std::string& path) {
   session.currentStore = std::make_unique<store>(session);
   store& described = *session.currentStore;
   described.macros.setBudget(ExpansionBudget(kMaxCalls, kMaxText));
-  if (described.loadSrc(path, true) != 0) return "Cannot read descriptionfrom " + path + "file.";
-  const std::string folder(withoutTrailingSeparator(session.settings.outputPath));
-  described.macros.setMacroValue("TAMRIK-PATH", session.addInFolder);
-  described.macros.setMacroValue("OUTPUT-PATH", folder);
-  if (!folder.empty()) session.settings.outputPath = joinPath(folder, "");
   std::string text;
   try {
+    if (described.loadSrc(path, true) != 0) {
+      return "Cannot read descriptionfrom " + path + "file.";
+    }
+    const std::string folder(withoutTrailingSeparator(session.settings.outputPath));
+    described.macros.setMacroValue("TAMRIK-PATH", session.addInFolder);
+    described.macros.setMacroValue("OUTPUT-PATH", folder);
+    if (!folder.empty()) session.settings.outputPath = joinPath(folder, "");
     text = described.evaluateMacro("tamrik-description");
   } catch (const BudgetUsedUp& usedUp) {
     return std::string(usedUp.what()) + ".";

@@ -27,7 +27,8 @@ class MacroTable {
   /// Replaces all macros by those of the template `file`, adds CHR0 to CHR255 and reads the
   /// replace table. 0 if it was loaded, 2 if the user gave up at the file error dialog, 3 for any
   /// other failure; the macros read so far then stay. With `silent` there is no dialog. A name
-  /// that is defined twice is a failure; faults of the template's text are only logged.
+  /// that is defined twice is a failure; faults of the template's text are only logged. Throws
+  /// BudgetUsedUp for a replace table whose expansion has no end.
   int loadSrc(const std::string& file, bool silent, TextFiles& files);
 
   /// The macro's value, expanded. An unknown macro gives "$NAME$", a list its name. Each "$$" of

@@ -184,12 +184,15 @@ TEST_F(CommandLineTest, ListsTheTemplates) {
               "$tamrik-description$\nTwo\nlines in $OUTPUT-PATH$.\n$end-tamrik-description$");
   folder_.put("Templates/B.TMKT", "$tamrik-description$\nSecond.\n$end-tamrik-description$");
   folder_.put("Templates/a.tmkt", "");
+  folder_.put("Templates/c.tmkt", "$A$ $A$$A$\n$REPLACE-TABLE$ a $A$\n");
   folder_.put("Templates/notes.txt", "");
   const ProgramRun run({"templates"});
   ::unsetenv("TAMRIKON_HOME");
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.out,
             "a               $tamrik-description$\nB               Second.\n"
+            "c               The expansion of REPLACE-TABLE has no end: its bounds of calls and "
+            "text are used up at $A$.\n"
             "long-enough-a-name Two lines in " +
                 folder_.path() + ".\n");
 }
