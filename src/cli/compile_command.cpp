@@ -30,7 +30,7 @@ bool chooseTemplate(Session& session, const std::string& file, Terminal& termina
   settings.templatePath = path;
   settings.templateFolder = folderOf(path);
   if (session.files.files().isFile(path)) return true;
-  terminal.complain("tamrikon: there is no template " + path);
+  terminal.complain("tamrikon: " + faultOfMissingTemplate(session.files.files(), path));
   return false;
 }
 

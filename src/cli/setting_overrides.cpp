@@ -77,14 +77,18 @@ std::string chooseTemplate(Session& session, std::string_view argument, std::str
   std::string path = joinPath(folder, value);
   if (!files.isFile(path) && !hasExtension(path)) path += ".tmkt";
   if (!files.isFile(path)) {
-    return "'" + std::string(argument) + "': there is no template " + path +
-           didYouMean(lastName(path), filesIn(files, std::string(folderOf(path))));
+    return "'" + std::string(argument) + "': " + faultOfMissingTemplate(files, path);
   }
   settings.templatePath = path;
   return {};
 }
 
 }  // namespace
+
+std::string faultOfMissingTemplate(FileSystem& files, const std::string& path) {
+  return "there is no template " + path +
+         didYouMean(lastName(path), filesIn(files, std::string(folderOf(path))));
+}
 
 std::string faultOfSetting(const std::string& argument) {
   const auto [key, value] = divided(argument);

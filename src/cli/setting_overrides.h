@@ -17,9 +17,11 @@ std::string faultOfSetting(const std::string& argument);
 /// Applies KEY=VALUE arguments without faults to the session's settings, by the rules of the
 /// settings file. Relative folders count from the current folder; comModules takes names divided
 /// by commas, in place of the selection before. The template is looked up when all else is set,
-/// with
-/// ".tmkt" added if it has no extension. What is wrong if it isn't there; otherwise empty.
+/// with ".tmkt" added if it has no extension. What is wrong if it isn't there; otherwise empty.
 std::string applySettings(Session& session, VBE& ide, const std::vector<std::string>& arguments);
+
+/// What to say of a template that isn't there, with the name that may have been meant.
+std::string faultOfMissingTemplate(FileSystem& files, const std::string& path);
 
 /// Whether one of the arguments sets `key`.
 bool setsKey(const std::vector<std::string>& arguments, std::string_view key);
