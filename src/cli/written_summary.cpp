@@ -45,9 +45,9 @@ std::string WrittenSummary::shown(const std::string& path) const {
 
 std::string WrittenSummary::sentence() const {
   if (folders_.empty()) return {};
-  const PageCount& pages = session_.pages;
-  std::string text = "Wrote " + grouped(pages.files()) + (pages.files() == 1 ? " page" : " pages");
-  if (pages.changedIsKnown()) text += " (" + grouped(pages.changed()) + " changed)";
+  const WrittenFiles& files = session_.writtenFiles;
+  std::string text = "Wrote " + grouped(files.count()) + (files.count() == 1 ? " page" : " pages");
+  if (files.changedIsKnown()) text += " (" + grouped(files.changed()) + " changed)";
   text += " to ";
   text += folders_.size() == 1 ? shown(folders_[0]) : grouped(folders_.size()) + " folders";
   if (helpFiles_.empty()) return text;

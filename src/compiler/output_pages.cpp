@@ -35,28 +35,35 @@ OutputPages::OutputPages(Session& session, store& store, VBE& ide)
 void OutputPages::put(Write write, std::string_view name, std::string_view extension,
                       std::string_view text) {
   const std::string file = std::string(name).append(extension);
-  if (write == Write::replace) session_.writtenFiles.add(file);
-  writePage(write, session_.settings.outputPath + file, text);
+  if (!writePage(write, session_.settings.outputPath + file, text)) return;
+  if (write == Write::append) {
+    session_.writtenFiles.append();
+  } else {
+    session_.writtenFiles.add(file, session_.files.changedFile());
+  }
 }
 
 /// Each project of a group writes its pages anew: they take the place of no others.
 void OutputPages::putGroupPage(Write write, std::string_view extension, std::string_view section) {
   const std::string& above = session_.groupFolders.above;
   const std::string& folder = above.empty() ? session_.settings.outputPath : above;
-  writePage(write, joinPath(withoutTrailingSeparator(folder), "Group+").append(extension),
-            store_.evaluateMacro(section));
+  const std::string path = joinPath(withoutTrailingSeparator(folder), "Group+").append(extension);
+  if (!writePage(write, path, store_.evaluateMacro(section))) return;
+  if (write == Write::append) {
+    session_.writtenFiles.append();
+  } else {
+    session_.writtenFiles.addGroupPage(path, session_.files.changedFile());
+  }
 }
 
-// A failure has been reported by the writer; an answer that gives up shows at the next checkpoint.
-void OutputPages::writePage(Write write, const std::string& path, std::string_view text) {
+/// Whether the page was written. A failure has been reported by the writer; an answer that gives up
+/// shows at the next checkpoint.
+bool OutputPages::writePage(Write write, const std::string& path, std::string_view text) {
   const PhaseScope phase(session_.times, CompilePhase::writing);
   written_ += text.size();
   if (written_ > maxWritten_) throw std::length_error("The pages take up too much space.");
-  if (write == Write::append) {
-    if (session_.files.appendTextFile(path, text, false) == 0) session_.pages.addPieces(path);
-  } else if (session_.files.writeTextFile(path, text, false) == 0) {
-    session_.pages.add(path, session_.files.changedFile());
-  }
+  if (write == Write::append) return session_.files.appendTextFile(path, text, false) == 0;
+  return session_.files.writeTextFile(path, text, false) == 0;
 }
 
 void OutputPages::putPage(std::string_view progress, std::string_view extensionMacro,

@@ -31,7 +31,7 @@ class OutputPages {
   /// In the folder of the project's pages.
   void put(Write write, std::string_view name, std::string_view extension, std::string_view text);
   void putGroupPage(Write write, std::string_view extension, std::string_view section);
-  void writePage(Write write, const std::string& path, std::string_view text);
+  bool writePage(Write write, const std::string& path, std::string_view text);
   void putPage(std::string_view progress, std::string_view extensionMacro, std::string_view section,
                const std::string& name);
   bool putFiles();

@@ -9,7 +9,6 @@
 #include "compiler/compile_times.h"
 #include "compiler/file_error_dialog.h"
 #include "compiler/group_folders.h"
-#include "compiler/page_count.h"
 #include "compiler/progress_dlg.h"
 #include "compiler/progress_log.h"
 #include "compiler/written_files.h"
@@ -48,7 +47,6 @@ class Session {
   bool showsPrograms = false;      // which one runs, and its error output, for who has no terminal
   bool programsRun = false;        // they do so now
   bool endsPrograms = false;       // those that run now are to end
-  PageCount pages;                 // that were written
   CompileTimes* times = nullptr;   // told of the phases of compiles, unless null
 
   ProgressDlg progressDlg;

@@ -30,16 +30,31 @@ void WrittenFiles::beginProject(std::string_view name, std::string_view file,
   folder_ = lowered(folder) + "/";
 }
 
-void WrittenFiles::add(std::string_view name) {
+void WrittenFiles::add(std::string_view name, bool changed) {
   std::string path = folder_;
   appendLowered(path, name);
-  const std::size_t project = projects_.size() - 1;
-  const auto [written, isNew] = files_.try_emplace(std::move(path));
-  if (!isNew) {
-    const auto& [before, nameBefore] = written->second;
-    lost_[{before, nameBefore != name}].emplace_back(name);
+  const auto [entry, isNew] = files_.try_emplace(std::move(path));
+  Written& file = entry->second;
+  const bool differsInCase = !isNew && file.name != name;
+  if (!isNew) lost_[{file.project, differsInCase}].emplace_back(name);
+  file.project = projects_.size() - 1;
+  file.name = name;
+  count(file, isNew || differsInCase, changed);
+}
+
+void WrittenFiles::addGroupPage(std::string_view path, bool changed) {
+  const auto [entry, isNew] = files_.try_emplace(std::string(path));
+  count(entry->second, isNew, changed);
+}
+
+/// A file counts once, whatever is written over it.
+void WrittenFiles::count(Written& file, bool isNew, bool changed) {
+  if (isNew) {
+    ++count_;
+    file.changed = false;
   }
-  written->second = {project, std::string(name)};
+  if (changed && !file.changed) ++changed_;
+  file.changed = file.changed || changed;
 }
 
 std::vector<std::string> WrittenFiles::endProject() {
