@@ -1,5 +1,4 @@
-// The command `comment --missing` on whole projects: those of the examples, those that other tests
-// use, and one of everything that could come out wrong.
+// The command `comment --missing` on whole projects: those of the examples and those of the tests.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -79,52 +78,6 @@ TEST(MissingComments, FindTheirPlacesInAllProjectsAtHand) {
     }
   }
   EXPECT_GE(projects, 8);
-}
-
-TEST(MissingComments, AreInsertedOnceWhateverTheSourceLooksLike) {
-  const test::TempFolder folder;
-  folder.put("Twice.bas", "Public Sub A()\nEnd Sub\n");  // named by two modules
-  folder.put("Bare.cls", "Attribute VB_Name = \"Bare\"\n");
-  folder.put(
-      "Mixed.bas",
-      "#If Win32 Then\nPublic Const A = 1, _\r\n  B = 2\r#Else\r\nPublic Const C = 3\r\n#End If\r\n"
-      "Public X As Long: Public Y As Long\n\n\n' a plain comment _\n'\nSub S(): End Sub: _\r\n"
-      "Property Get P() As Long\nAttribute P.VB_Description = \"A\\r\\nB _\"\nEnd Property");
-  folder.put("Utf8.cls",
-             "\xEF\xBB\xBF"
-             "Attribute VB_Name = \"Utf8\"\n' é\nPublic Größe As Long\nPublic Event Voll(ByVal "
-             "Größe As Größe)\n"
-             "\tPublic List(5) As String\n");
-  folder.put(
-      "Props.cls",
-      "Option Explicit\r\nProperty Get A(): End Property\r\nProperty Let A(v): End Property\r\n"
-      "'**\r\n' Known.\r\nProperty Get B(): End Property\r\nProperty Set B(v): End Property");
-  const std::string project =
-      folder.put("All.vbp",
-                 "Type=Exe\nModule=One; Twice.bas\nModule=Two; Twice.bas\nClass=Bare; Bare.cls\n"
-                 "Module=Mixed; Mixed.bas\nClass=Utf8; Utf8.cls\nClass=Props; Props.cls\n");
-  EXPECT_EQ(commentAll(folder, project),
-            "One\nOne.A\nBare\nMixed\nMixed.A\nMixed.X\nMixed.S\nUtf8\nUtf8.Größe\nUtf8.Voll\n"
-            "Utf8.List\nProps\nProps.A\n13 comments inserted in 5 modules.\n");
-  EXPECT_NE(folder.get("Props.cls").find("'@param        v Variant.\r\n'@see"), std::string::npos)
-      << "the skeleton of a property stands where its topic comes from";
-}
-
-TEST(MissingComments, AreThoseThatTheSettingsWantInTheModulesThatAreGiven) {
-  const test::TempFolder folder;
-  const std::string source =
-      "Public Sub A()\nAttribute A.VB_Description = \"5 $\"\nEnd Sub\nPrivate Sub B()\nEnd Sub\n"
-      "Const C = 1\n";
-  for (const char* name : {"One.cls", "Two.cls", "Three.cls"}) folder.put(name, source);
-  const std::string project = folder.put(
-      "All.vbp", "Type=Exe\nClass=One; One.cls\nClass=Two; Two.cls\nClass=Three; Three.cls\n");
-  folder.put("All.tamrik",
-             "#Tamrikon Project Settings#\ncomNonCommented = 0\ncomObject = 0\n"
-             "addDescription = 1\ncomModules = One\ncomModules = Two\n");
-  const ProgramRun run({"comment", project, "--missing", "TWO", "Three"});
-  EXPECT_EQ(run.out, "Two.A\n1 comment inserted in 1 module.\n");
-  EXPECT_EQ(run.err, "warning: the settings don't select module Three to be documented\n");
-  EXPECT_EQ(folder.get("Two.cls"), "'**\n'5 $$\n'@see\n'@rem\n" + source);
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // What somebody at a terminal sees, is asked and can stop.
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <stdlib.h>
 
 #include <filesystem>
 
@@ -91,39 +90,6 @@ TEST_F(TerminalTest, InterruptWaitsForProgramsAndASecondOneEndsThem) {
     EXPECT_EQ(folder_.has("out/Two.done"), presses == 1);
     EXPECT_FALSE(folder_.has("out/execAfter.log"));
   }
-}
-
-TEST_F(TerminalTest, TellsWhatWasWrittenAndWhatToOpen) {
-  const std::filesystem::path home = std::filesystem::current_path();
-  std::filesystem::current_path(folder_.path());
-  folder_.put("Both.vbg", "VBGROUP 5.0\nStartupProject=One.vbp\nProject=Two.vbp\n");
-  const auto expect = [&](const char* project, const std::string& said) {
-    const std::string out = ProgramRun(compile(project)).out;
-    EXPECT_TRUE(out.ends_with("\nWrote " + said + "\n")) << out;
-  };
-  expect("One.vbp", "6 pages (6 changed) to out; open out/One.p");
-  expect("Both.vbg", "14 pages (8 changed) to out; open out/One.p");
-  folder_.put("COne.cls", "'**\n'Empties.\nPublic Sub Fill()\nEnd Sub\n");
-  expect("One.vbp", "6 pages (0 changed) to out; open out/One.p");
-  folder_.put("t.tmkt", "$SPLIT$ 0\n$MEMBER-EXT$ .m\n");
-  expect("One.vbp", "1 page to out");
-  std::filesystem::current_path(home);
-}
-
-TEST_F(TerminalTest, OpensTheDocumentationOrTellsThatItCannot) {
-  folder_.put("bin/xdg-open", "#!/bin/sh\necho \"$1\" > " + (folder_ / "opened") + "\n");
-  std::filesystem::permissions(folder_ / "bin/xdg-open", std::filesystem::perms::owner_all);
-  const std::string path = ::getenv("PATH");
-  ::setenv("PATH", ((folder_ / "bin:") + path).c_str(), 1);
-  std::vector<std::string> arguments = compile("One.vbp");
-  arguments.push_back("--open");
-  EXPECT_EQ(ProgramRun(arguments).status, 0);
-  EXPECT_EQ(folder_.get("opened"), (folder_ / "out/One.p") + "\n");
-  folder_.put("t.tmkt", "$tamrik-help-file$\ngone.chm\n$end-tamrik-help-file$\n");
-  const ProgramRun failed(arguments);
-  EXPECT_EQ(failed.status, 1);
-  EXPECT_EQ(failed.err, "Error while showing documentation: Cannot show the \"gone.chm\" file\n");
-  ::setenv("PATH", path.c_str(), 1);
 }
 
 TEST(Questions, AreAnsweredByFirstLetterOrWord) {

@@ -15,7 +15,7 @@ STOCK = ROOT / "examples/Inventory/Stock.vbp"
 GROUP = ROOT / "examples/Inventory/Inventory.vbg"
 ODD = ROOT / "tests/data/templates/Odd.vbp"
 AZBUKA = ROOT / "tests/data/templates/Azbuka.vbp"
-DOUBLES = ROOT / "tests/data/compile/group-overwrites/All.vbg"  # names that projects share
+DOUBLES = ROOT / "tests/data/compile/groups/All.vbg"  # names that projects share
 NOTHING = ROOT / "tests/data/compile/single-file/Empty.vbp"
 
 # The topics of Odd, by module; those of Other and of the procedures of Value are that of Value.

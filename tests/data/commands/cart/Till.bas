@@ -1,0 +1,3 @@
+x = "é"
+Sub Main()
+End Sub

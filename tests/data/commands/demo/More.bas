@@ -1,0 +1,2 @@
+Sub B()
+End Sub

@@ -1,0 +1,2 @@
+Public Sub A()
+End Sub
