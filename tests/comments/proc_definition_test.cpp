@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tuple>
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
@@ -24,69 +24,30 @@ std::string show(const ProcDefinition& definition) {
   return text;
 }
 
-TEST(ProcDefinition, ParsesProcedures) {
-  using Case = std::pair<const char*, const char*>;
-  for (const auto& [line, expected] : {
-           Case{"Public Function F(Optional ByVal a As Long = 5, b$) As String",
-                "Function/String/optional byval a:Long=5/b:String"},
-           Case{"Sub S(a(), b As String)", "Sub//a():Variant/b:String"},
-           Case{"Sub S(Optional x As String = \")\")", "Sub//optional x:String=\")\""},
-           Case{"Sub S() ' As \"text", "Sub/"},
-           Case{"Friend Property Let P(vData As Long)", "Property Let//vData:Long"},
-           Case{"Public Event Changed(ByRef Cancel As Boolean)", "Event//Cancel:Boolean"},
-           Case{"Public Count As Long", "Event/Long"},
-           Case{"Property Get P(ByVal i%)", "Property Get/Variant/byval i:Integer"},
-           Case{"Sub S(a&, b@, c#, d!)", "Sub//a:Long/b:Currency/c:Double/d:Single"},
-           Case{"Sub S(a,b)", "Sub//a,b:Variant"},  // the blank is part of the separator
-           Case{"Sub S(a(1, 2) As Long)", "Sub//a(1:Variant/2):Long"},
-           // One push a round: the list ends behind the g of this one.
-           Case{"Sub S(a(f(1), g(2)), b) As X", "Sub/X/a(f(1):Variant/g(2):Variant"},
-           Case{"Function F(a As Long", "Function/Long"},
-           Case{"", "Event/"},
-       }) {
+TEST(ProcDefinition, ReadsDeclarations) {
+  const auto check = [](const test::TextCase& c) {
     ProcDefinition definition;
-    definition.pLine = line;
-    definition.parse();
-    EXPECT_EQ(show(definition), expected) << line;
-  }
-}
-
-TEST(ProcDefinition, ParsesOtherReturns) {
-  using Parse = void (ProcDefinition::*)();
-  using Case = std::tuple<const char*, Parse, const char*>;
-  const Parse property = &ProcDefinition::parsePropGetReturn;
-  const Parse variable = &ProcDefinition::parseVariableReturn;
-  const Parse constant = &ProcDefinition::parseConstantReturn;
-  for (const auto& [line, parse, expected] : {
-           Case{"Property Get P() As Long ' it", property, "Long ' it"},
-           Case{"Property Get P() ' don't", property, "Variant"},
-           Case{"Public Name As String * 10 ' text", variable, "String * 10"},
-           Case{"Dim c As New Collection", variable, "Collection"},
-           Case{"Const MAX_ITEMS As Long = 5", constant, "&5"},
-           Case{"Public Const A = 1, B = 2", constant, "1, B = 2"},
-           Case{"Const TITLE = \"x = 'y'\" ' z", constant, "\"x = 'y'\""},
-       }) {
-    ProcDefinition definition;
-    definition.pLine = line;
-    (definition.*parse)();
-    EXPECT_EQ(definition.returns, expected) << line;
-  }
-}
-
-TEST(Argument, TakesKeywordsInFrontOnly) {
-  using Case = std::pair<const char*, const char*>;
-  for (const auto& [line, expected] : {
-           Case{"x As Long = 5", "x:Long=5"},
-           Case{"ParamArray rest()", "optional array rest():Variant"},
-           Case{"Optional   ByRef a!", "optional a:Single"},
-           Case{"byval a#", "byval:Variant"},
-           Case{"Optional s = \"Optional As \"", "optional s:Variant=\"Optional As \""},
-           Case{"", ":Variant"},
-       }) {
-    argument arg;
-    arg.parse(line);
-    EXPECT_EQ(show(arg), expected) << line;
-  }
+    definition.pLine = c["line"];
+    if (c.has("procedure")) {
+      definition.parse();
+      EXPECT_EQ(show(definition), c["procedure"]);
+    } else if (c.has("property")) {
+      definition.parsePropGetReturn();
+      EXPECT_EQ(definition.returns, c["property"]);
+    } else if (c.has("variable")) {
+      definition.parseVariableReturn();
+      EXPECT_EQ(definition.returns, c["variable"]);
+    } else if (c.has("constant")) {
+      definition.parseConstantReturn();
+      EXPECT_EQ(definition.returns, c["constant"]);
+    } else {
+      argument arg;
+      arg.parse(c["line"]);
+      EXPECT_EQ(show(arg), c["argument"]);
+    }
+  };
+  test::forEachCase("comments/declarations.txt",
+                    {"line", "procedure", "property", "variable", "constant", "argument"}, check);
 }
 
 }  // namespace

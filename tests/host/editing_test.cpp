@@ -9,49 +9,26 @@
 #include "host/edit_group.h"
 #include "host/member_attributes.h"
 #include "host/source_text.h"
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
 
 using test::saved;
+using test::TextCase;
 using test::visible;
 
 TEST(Editing, HiddenLinesStayWithTheLineThatLivesOn) {
-  using Case = std::tuple<const char*, const char*, int, int, const char*, const char*>;
-  for (const auto& [name, before, first, count, text, after] : {
-           Case{"Enter behind it", "A()\nAttribute A.x = 1\nb\n", 1, 1, "A()\n",
-                "A()\nAttribute A.x = 1\n\nb\n"},
-           Case{"Enter before it", "  A()\nAttribute A.x = 1\nb\n", 1, 1, "  \n A()",
-                "  \n A()\nAttribute A.x = 1\nb\n"},
-           Case{"changed below new lines", "Sub A()\nAttribute A.x = 1\nb\n", 1, 1, "' S\nSub A(c)",
-                "' S\nSub A(c)\nAttribute A.x = 1\nb\n"},
-           Case{"joined with the line above", "  \nA()\nAttribute A.x = 1\nb\n", 1, 2, "  A()",
-                "  A()\nAttribute A.x = 1\nb\n"},
-           Case{"rest of it joined", "x\nAttribute x.x = 1\n'\nPublic A()\nAttribute A.x = 1\n", 1,
-                3, "xA()", "xA()\nAttribute x.x = 1\nAttribute A.x = 1\n"},
-           Case{"a whole module over the old one",
-                "a\nAttribute a.x = 1\n\nb\nAttribute b.x = 1\n\nc\nAttribute c.x = 1\n", 1, 5,
-                "new\n\n  b\n\nc\na\n",
-                "new\n\n  b\nAttribute b.x = 1\n\nc\nAttribute c.x = 1\na\nAttribute a.x = 1\n\n"},
-           Case{"gone with its line", "a\nAttribute a.x = 1\nb\nAttribute b.x = 1\nc\n", 1, 2, "z",
-                "z\nAttribute a.x = 1\nc\n"},
-           Case{"a statement that goes on behind it", "A()\nAttribute A.x = 1\nb\n", 1, 1,
-                "A( _\nc _\n)", "A( _\nc _\n)\nAttribute A.x = 1\nb\n"},
-           Case{"an empty line there", "a\r\nb", 2, 1, "", "a\r\n\r\n"},
-           Case{"tabs in front of lines", "\ta\n\tb\n\tc\n", 1, 3, "    a\n\tb.\n\tc",
-                "\ta\n    b.\n\tc\n"},
-           Case{"nothing", "a\nAttribute a.x = 1\n\rb", 1, 3, "a\r\n\rb",
-                "a\nAttribute a.x = 1\n\rb"},
-       }) {
-    SCOPED_TRACE(name);
-    SourceFile file(before, *CodePage::find(1252));
-    file.replaceLines(first, count, text);
-    EXPECT_EQ(saved(file), after);
+  const auto check = [](const TextCase& c) {
+    SourceFile file(c["before"], *CodePage::find(1252));
+    file.replaceLines(c.number("first"), c.number("count"), c["text"]);
+    EXPECT_EQ(saved(file), c["after"]);
     EXPECT_EQ(visible(SourceFile(saved(file), file.page())), visible(file));
     const bool wasChanged = file.isChanged();
     EXPECT_EQ(file.undo(), wasChanged);
-    EXPECT_EQ(saved(file), before);
-  }
+    EXPECT_EQ(saved(file), c["before"]);
+  };
+  test::forEachCase("host/edits.txt", {"before", "first", "count", "text", "after"}, check);
 }
 
 TEST(Editing, WhatIsTypedStaysVisibleUntilTheFileIsReadAgain) {

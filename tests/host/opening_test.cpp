@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <array>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -11,9 +10,12 @@
 #include "base/text.h"
 #include "host/host_ide.h"
 #include "support/temp_folder.h"
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
+
+using test::TextCase;
 
 /// What an opening gave.
 struct Opened {
@@ -159,41 +161,23 @@ TEST(Opening, GuessesTheCodePage) {
 }
 
 TEST(Opening, GuessesTheCodePageFromBytes) {
-  using Case = std::tuple<const char*, int, const char*, int>;
-  for (const auto& [text, writtenIn, name, page] : {
-           Case{"Sub ソート()\n", 932, "カナ", 932},
-           Case{"' 设置文件名\nMsgBox \"数据不能为空\"", 936, "库存", 936},
-           Case{"' 파일을 찾을 수 없습니다", 949, "재고", 949},
-           Case{"MsgBox \"請輸入檔案名稱\" ' 資料", 950, "庫存", 950},
-           Case{"", 1251, "Склад\"\nTitle=\"Учёт товаров на складе\"\nDescription=\"Отчёты", 1251},
-           Case{"' Το αρχείο δεν βρέθηκε\nPublic τιμή", 1253, "Αποθήκη", 1253},
-           Case{"' הקובץ לא נמצא, נסה שוב מאוחר יותר", 1255, "מחסן", 1255},
-           Case{"' لم يتم العثور على الملف\n' اسم المستخدم غير صحيح", 1256, "مخزن", 1256},
-           Case{"' ไม่พบแฟ้มข้อมูล\nMsgBox \"กรุณาป้อนชื่อ\"\n' บันทึก ยกเลิก", 874, "คลัง", 874},
-           // Those that stay what they are.
-           Case{"' Größe, naïve çà et là, ÄÖÜß, função, ÀÇÃO", 1252, "Prüfung", 0},
-           Case{"\"áàâã\", \"éèê\", \"íì\", \"óòôõ\", \"úùû\", \"ÁÀÂÃ\", \"ÉÈÊ\", \"ÓÒÔÕ\"", 1252,
-                "x", 0},
-           Case{"' “It’s” – don’t…\n'————————\n'ÉÍÍÍÍÍÍÍ»\n'ÈÍÍÍ¼\n'ÛÛ²²±±°°", 1252, "x", 0},
-           Case{"' gęślą jaźń, żółć, ŻÓŁĆ, źródło, wśród, połącz", 1250, "Źródło", 0},
-           Case{"' değişikliği, ışığı, küçük, üçüncü çığır, İŞÇİ", 1254, "Ölçü", 0},
-           Case{"Склад", 1251, "x", 0},
-       }) {
-    SCOPED_TRACE(text);
-    const CodePage& bytes = *CodePage::find(writtenIn);
+  const auto check = [](const TextCase& c) {
+    const CodePage& bytes = *CodePage::find(c.number("writtenIn"));
     const test::TempFolder folder;
-    folder.put("m.bas", bytes.encode(text));
-    folder.put("p.vbp",
-               bytes.encode("Type=Exe\nModule=m; m.bas\nName=\"" + std::string(name) + "\"\n"));
+    folder.put("m.bas", bytes.encode(c["module"]));
+    folder.put("p.vbp", bytes.encode("Type=Exe\nModule=m; m.bas\nName=\"" + c["project"] + "\"\n"));
     const Opened opened = openIn(folder, "p.vbp");
     ASSERT_TRUE(opened.ide) << opened.why;
-    EXPECT_EQ(opened.codePage(), page == 0 ? 1252 : page);
-    const std::string note = page == 0 ? "note: nothing tells the code page of "
-                                       : "note: the code page of " + opened.project().Name() +
-                                             " is guessed to be " + std::to_string(page);
+    EXPECT_EQ(opened.codePage(), c.has("guessed") ? c.number("guessed") : 1252);
+    const std::string note = c.has("guessed")
+                                 ? "note: the code page of " + opened.project().Name() +
+                                       " is guessed to be " + c["guessed"]
+                                 : "note: nothing tells the code page of ";
     EXPECT_TRUE(opened.warnings.starts_with(note)) << opened.warnings;
-    EXPECT_EQ(openIn(folder, "p.vbp", writtenIn).warnings, "");
-  }
+    EXPECT_EQ(openIn(folder, "p.vbp", c.number("writtenIn")).warnings, "");
+  };
+  test::forEachCase("host/guessed-code-pages.txt", {"project", "module", "writtenIn", "guessed"},
+                    check);
 }
 
 TEST(Opening, TakesTheKeptPageAndThatOfTheGroup) {
@@ -292,28 +276,16 @@ TEST(Opening, SurvivesAnyBytes) {
 }
 
 TEST(Opening, SavesTheHelpFileAlone) {
-  using Case = std::array<const char*, 4>;
-  for (const auto& [name, before, helpFile, after] : {
-           Case{
-               "replaced",
-               "Type=Exe\r\nhelpfile=\"\"  \r\nName=\"\xE4\x9D\"\r\n\r\n[X]\r\nHelpFile=1", "ä.chm",
-               "Type=Exe\r\nhelpfile=\"\xE4.chm\"  \r\nName=\"\xE4\x9D\"\r\n\r\n[X]\r\nHelpFile=1"},
-           Case{"added", "Type=Exe\n\n \n[X]\nA=1\n", "a.chm",
-                "Type=Exe\nHelpFile=\"a.chm\"\n\n \n[X]\nA=1\n"},
-           Case{"added behind a line without end", "Type=Exe", "a",
-                "Type=Exe\r\nHelpFile=\"a\"\r\n"},
-           Case{"UTF-8", "Type=\r\nName=ä\r\nHelpFile=a", "ж", "Type=\r\nName=ä\r\nHelpFile=\"ж\""},
-       }) {
-    SCOPED_TRACE(name);
+  test::forEachCase("host/help-files.txt", {"before", "helpFile", "after"}, [](const TextCase& c) {
     const test::TempFolder folder;
-    folder.put("p.vbp", before);
+    folder.put("p.vbp", c["before"]);
     const Opened opened = openIn(folder, "p.vbp");
     ASSERT_TRUE(opened.ide) << opened.why;
-    opened.project().setHelpFile(helpFile);
-    EXPECT_EQ(opened.project().HelpFile(), helpFile);
+    opened.project().setHelpFile(c["helpFile"]);
+    EXPECT_EQ(opened.project().HelpFile(), c["helpFile"]);
     EXPECT_EQ(opened.ide->saveAll().size(), 0U);
-    EXPECT_EQ(folder.get("p.vbp"), after);
-  }
+    EXPECT_EQ(folder.get("p.vbp"), c["after"]);
+  });
 }
 
 }  // namespace

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <string>
 #include <tuple>
 
 #include "host/member_attributes.h"
 #include "host/source_text.h"
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
@@ -17,56 +17,27 @@ const CodePage& page(int number = 1252) {
 }
 
 using test::saved;
+using test::TextCase;
 using test::visible;
 
 TEST(SourceFile, ShowsTheCodeBehindTheHead) {
-  using Case = std::array<const char*, 3>;
-  for (const auto& [name, bytes, expected] : {
-           Case{"empty", "", ""},
-           Case{"line ends of all kinds", "a\rb\nc\r\n\r\rd\n\r", "a|b|c|||d|"},
-           Case{"nested blocks, texts that look like their ends",
-                "VERSION 5.00\r\nObject = \"{1}#2.0#0\"; \"X.OCX\"\r\nBegin VB.Form a \r\n  "
-                "Caption = \"\r\n  BeginProperty Font {1} \r\n  endproperty\r\n  begin "
-                "VB.Label b\r\n\tEnd &all\r\n\tEnd\t\r\n  Begin =\r\n  END\r\nEnd\r\nAttribute "
-                "VB_Name = \"a\"\r\nx\r\n",
-                "x"},
-           Case{"blank line ends the head",
-                "VERSION 5.00\r\n\r\nAttribute VB_Name = \"a\"\r\nx\r\n", "|x"},
-           Case{"hidden lines",
-                "Sub A()\r\n\tattribute A.VB_HelpID = _\r\n5\r\nAttribute A.x = 1\r\nAttributed = "
-                "1\r\nAttribute\r\nEnd Sub\r\n",
-                "Sub A()|Attributed = 1|Attribute|End Sub"},
-           Case{"tabs in front of lines",
-                "BEGIN\n\tX\nEND\n\tSub A(b, _\r\n  \t c\t)\n\tAttribute A.x = 1\n \t\t\n\t",
-                "    Sub A(b, _|     c\t)|        |    "},
-       }) {
-    SCOPED_TRACE(name);
-    const SourceFile file(bytes, page());
-    EXPECT_EQ(visible(file), expected);
-    EXPECT_EQ(saved(file), bytes);
-  }
+  test::forEachCase("host/visible-code.txt", {"bytes", "visible"}, [](const TextCase& c) {
+    const SourceFile file(c["bytes"], page());
+    EXPECT_EQ(visible(file), c["visible"]);
+    EXPECT_EQ(saved(file), c["bytes"]);
+  });
 }
 
 TEST(SourceFile, KeepsTheBytesOfWhatIsNotEdited) {
-  using Case = std::tuple<const char*, int, const char*, const char*, const char*>;
-  for (const auto& [name, number, bytes, added, expected] : {
-           Case{"UTF-8", 1251, "\xC3\xA4\n", "ж", "\xD0\xB6\n\xC3\xA4\n"},
-           Case{"mark and bytes that aren't UTF-8", 1252, "\xEF\xBB\xBF\xFF\n", "ж",
-                "\xEF\xBB\xBF\xD0\xB6\n\xFF\n"},
-           Case{"pairs that another pair equals", 932, "' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n",
-                "表", "\x95\x5C\n' \x87\x90\xED\x40\x81\n\x83\x5C _\r\n"},
-           Case{"no line end at all", 1252, "a", "b\nc", "b\r\nc\r\na"},
-           Case{"tabs in front of lines", 1251, "\tx\n\t\xE6\n", "\t\tж",
-                "        \xE6\n\tx\n\t\xE6\n"},
-       }) {
-    SCOPED_TRACE(name);
-    SourceFile file(bytes, page(number));
-    EXPECT_EQ(saved(file), bytes);
+  const auto check = [](const TextCase& c) {
+    SourceFile file(c["bytes"], page(c.number("codePage")));
+    EXPECT_EQ(saved(file), c["bytes"]);
     EXPECT_FALSE(file.isChanged());
-    file.insertLines(1, added);
+    file.insertLines(1, c["added"]);
     EXPECT_TRUE(file.isChanged());
-    EXPECT_EQ(saved(file), expected);
-  }
+    EXPECT_EQ(saved(file), c["saved"]);
+  };
+  test::forEachCase("host/kept-bytes.txt", {"codePage", "bytes", "added", "saved"}, check);
 }
 
 TEST(SourceFile, EditsAroundHiddenLines) {

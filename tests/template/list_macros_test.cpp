@@ -1,148 +1,52 @@
 #include <gtest/gtest.h>
 
+#include "support/text_cases.h"
 #include "template/expansion_budget.h"
 #include "template/macro_fixture.h"
 
 namespace tamrikon {
 namespace {
 
-using Messages = std::vector<std::string>;
+using test::TextCase;
 
-const std::string kIfSyntax = kConfig + "Wrong syntax of IFNOTEMPTY macro. ";
-const std::string kIfLine = kIfSyntax + "Unfinished line.";
-const std::string kIfEnd = kIfSyntax + "$END-IFNOTEMPTY tag missing.";
-const std::string kListSyntax = kConfig + "Wrong syntax of DOLIST macro. ";
-const std::string kListLine = kListSyntax + "Unfinished line.";
-const std::string kListEnd = kListSyntax + "$END-DOLIST tag missing.";
-
-/// The message about the argument of an IFNOTEMPTY.
-std::string ifArgument(const std::string& argument) {
-  return kConfig + "Wrong argument \"" + argument + "\" of IFNOTEMPTY macro.";
-}
-
-struct Case {
-  const char* name;
-  std::string text;  // "|" is a CR, as in the result
-  std::string expected;
-  Messages messages = {};
-};
-
-template <std::size_t N>
-void run(const Case (&cases)[N]) {
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
+TEST(Expansion, FollowsTheMacrosOfATemplate) {
+  const auto check = [](const TextCase& c) {
     Macros macros;
     macros.set("FULL", "f");
     macros.set("VOID", "");
     macros.set("TO-VOID", "$VOID$");
+    macros.set("B", "b");
+    macros.set("PAIR", "5$$");
+    macros.set("CHR", "$");
+    macros.set("LONE", "x $ $B$");
     macros.setList("NO-ITEMS", {});
+    macros.setList("LIST", {"item|"});
     macros.setList("PARAM-LIST", {"a|first", "b|second|line|"});
     macros.setList("SET01-LIST", {"p|c|v|label", "p2|c2|v2|"});
-    EXPECT_EQ(macros.expand(c.text), c.expected);
-    EXPECT_EQ(macros.log.messages, c.messages);
-  }
-}
-
-TEST(IfNotEmpty, ChoosesABranch) {
-  const auto choice = [](const std::string& name) {
-    return "$IFNOTEMPTY$ $" + name + "$|yes$ELSEIF$no$END-IFNOTEMPTY$";
+    EXPECT_EQ(macros.expand(c["text"]), c["expected"]);
+    EXPECT_EQ(macros.log.messages, withPrefix(kConfig, c.list("warnings")));
   };
-  run({
-      {"text", choice("FULL"), "yes"},
-      {"value isn't expanded", choice("TO-VOID"), "yes"},
-      {"list", choice("PARAM-LIST"), "yes"},
-      {"empty text", choice("VOID"), "no"},
-      {"a special isn't in the table", choice("COUNTER"), "no"},
-      {"no else", "a $IFNOTEMPTY$ $VOID$|yes|$END-IFNOTEMPTY$ b", "a  b"},
-      {"line ends", "a|$IFNOTEMPTY$ $FULL$|yes|$ELSEIF$|no|$END-IFNOTEMPTY$|b", "a|yes||b"},
-      {"other words on the tag's line", "$IFNOTEMPTY$ if $$ $FULL$ isn't $ empty|y$END-IFNOTEMPTY$",
-       "y"},
-      {"nested",
-       "$IFNOTEMPTY$ $VOID$|1$IFNOTEMPTY$ $FULL$|2$ELSEIF$3$END-IFNOTEMPTY$$ELSEIF$"
-       "4$IFNOTEMPTY$ $VOID$|5$ELSEIF$6$END-IFNOTEMPTY$7$END-IFNOTEMPTY$8",
-       "4678"},
-      {"only the chosen branch acts",
-       "$IFNOTEMPTY$ $VOID$|$INC-COUNTER$$ELSEIF$$COUNTER$$END-IFNOTEMPTY$", "1"},
-      {"pairs survive", "$IFNOTEMPTY$ $FULL$|$$$FULL$$$$END-IFNOTEMPTY$", "$f$"},
-  });
-}
-
-TEST(IfNotEmpty, ReportsWrongSyntax) {
-  run({
-      {"no line end", "a$IFNOTEMPTY$ $FULL$ b $FULL$", "a", {kIfLine}},
-      {"no argument", "a$IFNOTEMPTY$ b|c $FULL$", "ac f", {ifArgument("")}},
-      {"wrong argument", "$IFNOTEMPTY$ $DOLIST$ x|$FULL$", "f", {ifArgument("DOLIST")}},
-      {"no end marker", "a$IFNOTEMPTY$ $FULL$|$FULL$$END-DOLIST$", "a", {kIfEnd}},
-      {"end marker beyond the branch",
-       "$IFNOTEMPTY$ $FULL$|a $DOLIST$ $PARAM-LIST$|$X $END-IFNOTEMPTY$|b$END-DOLIST$",
-       "a |b$END-DOLIST$",
-       {wrongName("$X"), wrongName("$X"), kListEnd}},
-  });
-}
-
-TEST(DoList, WalksParameterAndSetLists) {
-  run({
-      {"parameters keep their order and lines",
-       "$DOLIST$ $PARAM-LIST$|$LIST-ITEM-NUMBER$$LIST-ITEM-FIRST$/$LIST-ITEM-LAST$ "
-       "$LIST-ITEM-PARAM$=$LIST-ITEM-LABEL$;$END-DOLIST$.",
-       "11/ a=first;2/1 b=second|line|;."},
-      {"set table",
-       "$DOLIST$ $SET01-LIST$|$LIST-ITEM-PARAM$ $LIST-ITEM-CONSTANT$ $LIST-ITEM-VALUE$ "
-       "[$LIST-ITEM-LABEL$]|$END-DOLIST$",
-       "p c v [label]|p2 c2 v2 []|"},
-      {"no list", "a$DOLIST$ $FULL$|x$END-DOLIST$$DOLIST$ $X$|x$END-DOLIST$b", "ab"},
-      {"messages", "$DOLIST$", "", {kListLine}},
-      {"argument",
-       "$DOLIST$ $IFNOTEMPTY$|x",
-       "x",
-       {kConfig + "Wrong argument \"IFNOTEMPTY\" of DOLIST macro."}},
-      {"end", "$DOLIST$ $PARAM-LIST$|x", "", {kListEnd}},
-  });
+  test::forEachCase("template/expansions.txt", {"text", "expected", "warnings"}, check);
 }
 
 TEST(DoList, ResolvesAndSortsLinks) {
-  struct Case {
-    const char* name;
-    std::vector<std::string> items;
-    const char* expected;
-    Messages messages = {};
-  };
-  const std::string deadX = "Warning: dead x";
-  const std::string deadY = "Warning: dead y";
-  const Case cases[] = {
-      {"labels without regard to case",
-       {"Home.Run|b", "Home|A", "Home.Save|a"},
-       "a:Save:Home::12|A::Home::7|b:Run:Home::100|"},
-      {"then help ids as text", {"Home.Save|a", "Home.Run|A"}, "A:Run:Home::100|a:Save:Home::12|"},
-      {"letters beyond ASCII",
-       {"Home|\xC3\x89ta", "Home|\xC3\xA9t", "Home|z"},
-       "z::Home::7|\xC3\xA9t::Home::7|\xC3\x89ta::Home::7|"},
-      {"made labels",
-       {"Home.Save|", "Home|", "~Run|"},
-       "Home::Home::7|Run:Run:Home::100|Save (Home):Save:Home::12|"},
-      {"an alias' topic serves", {"Home.Old|"}, "Save (Home):Save:Home::12|"},
-      {"files",
-       {"\"b.txt|", "\"c|a label|of lines"},
-       "a label|of lines:c:External file:c:0|b.txt:b.txt:External file:b.txt:0|"},
-      // Sorting asks twice for each link, the walk once more.
-      {"dead links", {"x|", "y|l"}, "::::0|l::::0|", {deadX, deadX, deadY, deadY, deadX, deadY}},
-      {"an item without CR empties all", {"x|", "Home.Run", "y|"}, "", {deadX, deadX}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
+  const auto check = [](const TextCase& c) {
     Macros macros;
     macros.links.add("Home", 7);
     macros.links.add("Home.Run", 100);
     macros.links.add("Home.Save", 12, true);
     macros.links.add("Home.Old", 13);
     macros.links.aliases["Home.Old"] = "Home.Save";
-    macros.setList("SEE-LINK-LIST", c.items);
+    const std::string items = c["items"];
+    const auto parts = split(items, ';');
+    macros.setList("SEE-LINK-LIST", {parts.begin(), parts.end()});
     EXPECT_EQ(
         macros.expand("$DOLIST$ $SEE-LINK-LIST$|$LIST-ITEM-LABEL$:$LIST-ITEM$:"
                       "$LIST-ITEM-LOCATION$:$LIST-ITEM-FILE$:$LIST-ITEM-HELPID$|$END-DOLIST$"),
-        c.expected);
-    EXPECT_EQ(macros.log.messages, c.messages);
-  }
+        c["expected"]);
+    EXPECT_EQ(macros.log.messages, withPrefix("Warning: ", c.list("warnings")));
+  };
+  test::forEachCase("template/link-lists.txt", {"items", "expected", "warnings"}, check);
 }
 
 TEST(DoList, PublishesTheListsOfAModule) {

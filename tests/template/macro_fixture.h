@@ -95,6 +95,12 @@ struct Macros {
 
 inline const std::string kConfig = "WARNING (config file): ";
 
+inline std::vector<std::string> withPrefix(const std::string& prefix,
+                                           std::vector<std::string> messages) {
+  for (std::string& message : messages) message.insert(0, prefix);
+  return messages;
+}
+
 /// The message about a wrong name that was written so.
 inline std::string wrongName(const std::string& written) {
   return kConfig + "Wrong macro name " + written + ".";

@@ -12,41 +12,6 @@ namespace {
 
 using Messages = std::vector<std::string>;
 
-TEST(EvaluateMacro, ExpandsCalls) {
-  struct Case {
-    const char* name;
-    const char* text;
-    const char* expected;
-    Messages messages = {};
-  };
-  const Case cases[] = {
-      {"nested, any case", "a $b$ c", "a b c"},
-      {"undoubled in the outermost call only", "$PAIR$ 100$$", "5$ 100$"},
-      {"value isn't scanned again", "$PAIR$B$", "5$B$", {wrongName("$")}},
-      {"unknown stands as called", "$No$", "$No$"},
-      {"list gives its name", "$list$", "list"},
-      {"markers alone are unknown", "$ELSEIF$$END-DOLIST$", "$ELSEIF$END-DOLIST$"},
-      {"counting",
-       "$COUNTER$$INC-COUNTER$$COUNTER$$DEC-COUNTER$$DEC-COUNTER$$COUNTER$$RESET-COUNTER$$COUNTER$",
-       "1201"},
-      {"ids run on", "$NEXT-ID$$NEXT-ID$", "12"},
-      {"pair by chance", "$CHR$$CHR$", "$", {wrongName("$"), wrongName("$")}},
-      {"lone $ ends its own text", "$LONE$, $B$", "x $ $B$, b", {wrongName("$")}},
-      {"wrong name, unknown", "$X\ty", "$X$\ty", {wrongName("$X")}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
-    Macros macros;
-    macros.set("B", "b");
-    macros.set("PAIR", "5$$");
-    macros.set("CHR", "$");
-    macros.set("LONE", "x $ $B$");
-    macros.setList("LIST", {"item|"});
-    EXPECT_EQ(macros.expand(c.text), c.expected);
-    EXPECT_EQ(macros.log.messages, c.messages);
-  }
-}
-
 TEST(EvaluateMacro, AnswersByName) {
   Macros macros;
   macros.set("A", "$$ $B$");

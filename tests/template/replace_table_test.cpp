@@ -2,29 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <tuple>
-
+#include "support/text_cases.h"
 #include "template/macro_fixture.h"
 
 namespace tamrikon {
 namespace {
 
 TEST(ReplaceStrings, WorksPairByPair) {
-  using Case = std::tuple<const char*, std::vector<std::string>, std::string, std::string>;
-  const Case cases[] = {
-      {"odd word", {"a", "b", "b"}, "ab", "bb"},
-      {"escape first", {"&", "&amp;", "<", "&lt;"}, "a<b&c", "a&lt;b&amp;c"},
-      {"both cases", {"a", "x"}, "aAb", "xxb"},
-      {"no overlap", {"--", "+"}, "---", "+-"},
-      {"signs and letters", {"<B", "[b"}, "<b<<B<c", "[b<[b<c"},
-      {"empty word to find", {"", "x", "a", "b"}, "a", "b"},
-      {"empty word to put", {"<", ""}, "<a<", "a"},
-      {"letter beyond ASCII", {"\xC3\xA9", "e"}, "\xC3\x89t\xC3\xA9", "ete"},
-      {"ASCII relative", {"i", "1"}, "\xC4\xB0I", "11"},  // capital I with dot above
-  };
-  for (const auto& [name, table, text, expected] : cases) {
-    EXPECT_EQ(replaceStrings(text, table), expected) << name;
-  }
+  test::forEachCase("template/replacements.txt", {"table", "text", "expected"},
+                    [](const test::TextCase& c) {
+                      EXPECT_EQ(replaceStrings(c["text"], c.list("table")), c["expected"]);
+                    });
 }
 
 TEST(ReplaceTable, StopsAtTheEndOfTheBudget) {

@@ -4,10 +4,13 @@
 #include <fstream>
 #include <tuple>
 
+#include "support/text_cases.h"
 #include "template/macro_fixture.h"
 
 namespace tamrikon {
 namespace {
+
+using test::TextCase;
 
 /// Answers the first `repeats` file errors with Retry, the next one with Cancel.
 struct Reporter : FileErrorReporter {
@@ -48,35 +51,13 @@ class LoadSrc : public testing::Test {
 };
 
 TEST_F(LoadSrc, ReadsDefinitions) {
-  struct Case {
-    const char* name;
-    const char* file;
-    const char* macro;
-    const char* expected;
-    std::vector<std::string> messages = {};
-  };
-  const Case cases[] = {
-      {"comments", "no $A$\n\t$A$ no\n\n$A$ yes", "A", "yes"},
-      {"empty name", "$$ x", "", "x"},
-      {"section", "$tamrik-x$ x\n a\n$B$ $\n\tc \n$end-tamrik-x$\n", "TAMRIK-X", " a|$B$ $|\tc "},
-      {"last line empty", "$tamrik-x$\na\n\n$end-tamrik-x$", "tamrik-x", "a|"},
-      {"no end markers", "$tamrik-x$\n$end-tamrik-x$ y\n$end-TAMRIK-x$\n$end-tamrik-x$", "tamrik-x",
-       "$end-tamrik-x$ y|$end-TAMRIK-x$"},
-      {"capital makes a macro line", "$Tamrik-x$ v\n$B$ b", "tamrik-x", "v"},
-      {"wrong name of a section",
-       "$tamrik-x y\na\n$end-tamrik-x$\n$end-tamrik-x",
-       "tamrik-x",
-       "a|$end-tamrik-x$",
-       {wrongName("$tamrik-x")}},
-      {"code page", "$A$ \xE9", "A", "\xC3\xA9"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
+  const auto check = [this](const TextCase& c) {
     macros_.log.messages.clear();
-    EXPECT_EQ(load(c.file), 0);
-    EXPECT_EQ(body(c.macro), lines(c.expected));
-    EXPECT_EQ(macros_.log.messages, c.messages);
-  }
+    EXPECT_EQ(load(c["file"]), 0);
+    EXPECT_EQ(body(c["macro"]), lines(c["expected"]));
+    EXPECT_EQ(macros_.log.messages, withPrefix(kConfig, c.list("warnings")));
+  };
+  test::forEachCase("template/definitions.txt", {"file", "macro", "expected", "warnings"}, check);
 }
 
 TEST_F(LoadSrc, ReportsASectionWithoutEnd) {
@@ -154,29 +135,19 @@ TEST_F(LoadSrc, LimitsWhatCommentsCall) {
       "$COMMENT-MACROS$ EOL Code  MEMBER-NAME\n$REPLACE-TABLE$ < &lt; $${ &#36;{\n$EOL$ <br>\n"
       "$CODE$ <pre>\n$BAD$ <b>\n$MEMBER-EXT$ <x>");
   MacroTable& table = macros_.table;
-  using Case = std::tuple<const char*, const char*, const char*>;  // as a comment's, as a name's
-  for (const auto& [text, comment, name] : {
-           Case{"costs $< 5", "costs $&lt; 5", "costs $&lt; 5"},
-           Case{"$CHR60$b $BAD$", "$CHR60$b $BAD$", "$CHR60$b $BAD$"},
-           Case{"a$EOL$b$eol$<", "a<br>b<br>&lt;", "a$EOL$b$eol$&lt;"},
-           Case{"$$EOL$ $$$EOL$$", "$EOL$ $<br>$", "$$EOL$ $$$EOL$$"},
-           Case{"5$,$EOL$ $x$EOL$", "5$,<br> $x<br>", "5$,$EOL$ $x$EOL$"},
-           Case{"$CODE$$MEMBER-NAME$", "<pre>&lt;n>", "$CODE$$MEMBER-NAME$"},
-           Case{"${x}", "&#36;{x}", "&#36;{x}"},
-           Case{"$REPLACE-OFF$<$", "$REPLACE-OFF$&lt;$", "$REPLACE-OFF$&lt;$"},
-           Case{"$DOLIST$ $L$", "$DOLIST$ $L$", "$DOLIST$ $L$"},
-       }) {
-    SCOPED_TRACE(text);
+  const auto check = [&](const TextCase& c) {
+    const std::string text = c["text"];
     table.setProjectText("MEMBER-NAME", "<n>");
     table.setCommentText("MEMBER-TODO", text);
     EXPECT_EQ(table.getMacroBody("MEMBER-TODO"), text);
-    EXPECT_EQ(macros_.expand("$REPLACE-ON$$MEMBER-TODO$"), comment);
+    EXPECT_EQ(macros_.expand("$REPLACE-ON$$MEMBER-TODO$"), c["asComment"]);
     table.setProjectText("MEMBER-TODO", text);
-    EXPECT_EQ(macros_.expand("$MEMBER-TODO$"), name);
-    macros_.setList("SEE-LINK-LIST", {std::string("\"") + text + "|" + text});
+    EXPECT_EQ(macros_.expand("$MEMBER-TODO$"), c["asName"]);
+    macros_.setList("SEE-LINK-LIST", {"\"" + text + "|" + text});
     EXPECT_EQ(macros_.expand("$DOLIST$ $SEE-LINK-LIST$|$LIST-ITEM$$LIST-ITEM-LABEL$$END-DOLIST$"),
-              std::string(name) + comment);
-  }
+              c["asName"] + c["asComment"]);
+  };
+  test::forEachCase("template/comment-texts.txt", {"text", "asComment", "asName"}, check);
   EXPECT_TRUE(macros_.log.messages.empty());
 }
 
