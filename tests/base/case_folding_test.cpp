@@ -3,9 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "base/keyed_list.h"
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
+
+using test::TextCase;
 
 TEST(LowerCase, CoversTheScripts) {
   struct Case {
@@ -34,38 +37,16 @@ TEST(CaseFolding, CapitalsAreThoseOfSingleCharacters) {
 }
 
 TEST(CaseFolding, ComparesAndHashesAlike) {
-  struct Case {
-    std::string_view a;
-    std::string_view b;
-    bool isEqual;
-    bool isPrefix;  // whether a begins with b
+  const auto check = [](const TextCase& c) {
+    const std::string text = c["text"];
+    const std::string other = c["other"];
+    const bool isEqual = c["equal"] == "yes";
+    EXPECT_EQ(equalIgnoringCase(text, other), isEqual);
+    EXPECT_EQ(startsWithIgnoringCase(text, other), c["begins"] == "yes");
+    EXPECT_EQ(CaseInsensitiveHash()(text) == CaseInsensitiveHash()(other), isEqual);
+    EXPECT_EQ(lowered(text) == lowered(other), isEqual);
   };
-  const Case cases[] = {
-      {"", "", true, true},
-      {"Module1", "MODULE1", true, true},
-      {"Module1", "module", false, true},
-      {"Module", "module1", false, false},
-      {"stra\xC3\x9F"
-       "e",
-       "STRASSE", false, false},
-      {"\xD0\x96"
-       "a",
-       "\xD0\xB6"
-       "A",
-       true, true},
-      {"\xE2\x84\xAA"
-       "elvin",
-       "kELVIN", true, true},  // Kelvin sign: one byte for three
-      {"\xFF", "\xFE", false, false},
-      {"_", "\x7F", false, false},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(std::string(c.a));
-    EXPECT_EQ(equalIgnoringCase(c.a, c.b), c.isEqual);
-    EXPECT_EQ(startsWithIgnoringCase(c.a, c.b), c.isPrefix);
-    EXPECT_EQ(CaseInsensitiveHash()(c.a) == CaseInsensitiveHash()(c.b), c.isEqual);
-    EXPECT_EQ(lowered(c.a) == lowered(c.b), c.isEqual);
-  }
+  test::forEachCase("base/ignoring-case.txt", {"text", "other", "equal", "begins"}, check);
 }
 
 TEST(Lowered, KeepsWhatIsNoText) {
@@ -76,28 +57,11 @@ TEST(Lowered, KeepsWhatIsNoText) {
 }
 
 TEST(ReplaceIgnoringCase, FindsByLetter) {
-  struct Case {
-    std::string_view text;
-    std::string_view find;
-    std::string_view with;
-    std::string_view expected;
-  };
-  const Case cases[] = {
-      {"aAa", "a", "bb", "bbbbbb"},
-      {"aaa", "aa", "b", "ba"},
-      {"abc", "", "x", "abc"},
-      {"abc", "abcd", "x", "abc"},
-      {"", "a", "x", ""},
-      {"a.A", "A", "", "."},
-      {"x\xE2\x84\xAAyK", "k", "-", "x-y-"},  // shorter lower case
-      {"\xE2\xB1\xA2z\xC8\xBAz", "\xC9\xAB", "l", "lz\xC8\xBAz"},
-      {"\xC8\xBA!\xC8\xBA?", "\xE2\xB1\xA5!", "-", "-\xC8\xBA?"},  // longer lower case
-      {"\xC4\xB0I\xC4\xB1", "i", "1", "11\xC4\xB1"},
-      {"\xC3\xA9\xA9", "\xC2\xA9", "x", "\xC3\xA9x"},  // a stray byte's own value
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(replaceIgnoringCase(c.text, c.find, c.with), c.expected) << c.text;
-  }
+  test::forEachCase("base/replacements-ignoring-case.txt", {"text", "find", "with", "expected"},
+                    [](const TextCase& c) {
+                      EXPECT_EQ(replaceIgnoringCase(c["text"], c["find"], c["with"]),
+                                c["expected"]);
+                    });
 }
 
 TEST(KeyedList, RefusesAKeyInAnotherCase) {

@@ -5,10 +5,12 @@
 #include "base/paths.h"
 #include "base/utf8.h"
 #include "base/vb_text.h"
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
 
+using test::TextCase;
 using Views = std::vector<std::string_view>;
 
 TEST(Text, TrimsBlanksAlone) {
@@ -32,28 +34,11 @@ TEST(Text, DividesAndReplaces) {
 }
 
 TEST(InStrOutsideQuotes, SkipsLiterals) {
-  struct Case {
-    std::string_view text;
-    std::string_view word;
-    std::size_t start;
-    std::size_t expected;
+  const auto check = [](const TextCase& c) {
+    const auto start = static_cast<std::size_t>(c.number("start"));
+    EXPECT_EQ(inStrOutsideQuotes(c["text"], c["word"], start), std::size_t(c.number("place")));
   };
-  const Case cases[] = {
-      {"a = b", "= ", 1, 3},
-      {"a", "a", 0, 0},
-      {"aXa", "a", 2, 3},
-      {"a", "a", 2, 0},
-      {R"(x = "a As b" As c)", " As ", 1, 13},
-      {R"("a"" As " As b)", " As ", 1, 10},
-      {R"(" As " " As ")", " As ", 1, 0},
-      {R"(x "no end As)", " As", 1, 0},
-      {R"(x "" As)", " As", 1, 5},
-      {R"(x "a")", "\"", 1, 3},
-      {R"("a" b)", "a", 2, 2},  // begun inside, the literal isn't known
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(inStrOutsideQuotes(c.text, c.word, c.start), c.expected) << c.text;
-  }
+  test::forEachCase("base/places-outside-quotes.txt", {"text", "word", "start", "place"}, check);
 }
 
 TEST(VbText, KnowsCommentsBlanksAndContinuations) {
@@ -68,26 +53,11 @@ TEST(VbText, KnowsCommentsBlanksAndContinuations) {
 }
 
 TEST(Paths, AcceptBothSeparators) {
-  struct Case {
-    std::string_view path;
-    std::string_view folder;
-    std::string_view name;
-    std::string_view base;
-  };
-  const Case cases[] = {
-      {"C:\\work\\a.b.vbp", "C:\\work", "a.b.vbp", "a.b"},
-      {"/home/u/a", "/home/u", "a", "a"},
-      {"a\\b/c.x", "a\\b", "c.x", "c"},
-      {"a.txt", "", "a.txt", "a"},
-      {"x.y/", "x.y", "", ""},
-      {"", "", "", ""},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.path);
-    EXPECT_EQ(folderOf(c.path), c.folder);
-    EXPECT_EQ(lastName(c.path), c.name);
-    EXPECT_EQ(baseName(c.path), c.base);
-  }
+  test::forEachCase("base/paths.txt", {"path", "folder", "file", "base"}, [](const TextCase& c) {
+    EXPECT_EQ(folderOf(c["path"]), c["folder"]);
+    EXPECT_EQ(lastName(c["path"]), c["file"]);
+    EXPECT_EQ(baseName(c["path"]), c["base"]);
+  });
   EXPECT_FALSE(hasExtension("x.y/z"));
   EXPECT_EQ(joinPath("C:\\a", "b"), "C:\\a\\b");
   EXPECT_EQ(joinPath("C:\\a/", "b"), "C:\\a/b");

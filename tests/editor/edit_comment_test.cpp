@@ -2,6 +2,7 @@
 
 #include "editor/demo_project.h"
 #include "editor/lines.h"
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
@@ -197,8 +198,7 @@ TEST_F(EditCommentTest, NothingIsLostWithoutAWord) {
   const std::string declaration = "  Public Function Add(";
   CodeModule& store = module("Store");
   const int line = lineOf(declaration);
-  for (test::TextCase& c : test::casesIn("lost-lines.txt")) {
-    SCOPED_TRACE(c["name"]);
+  const auto check = [&](const test::TextCase& c) {
     const std::string comment = "'**" + c["headline"] + "|'" + replaceAll(c["comment"], "|", "|'");
     store.InsertLines(line, replaceAll(comment, "|", "\r\n"));
     const std::string before = source();
@@ -223,7 +223,9 @@ TEST_F(EditCommentTest, NothingIsLostWithoutAWord) {
       EXPECT_NE(source().find(written + declaration), std::string::npos) << source();
     }
     store.DeleteLines(line, lineOf(declaration) - line);
-  }
+  };
+  test::forEachCase("editor/lost-lines.txt", {"headline", "comment", "remarks", "lost", "written"},
+                    check);
 }
 
 TEST_F(EditCommentTest, OptionsChangeWhatIsWritten) {

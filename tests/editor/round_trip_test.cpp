@@ -18,6 +18,7 @@
 #include "host/host_ide.h"
 #include "model/wrappers.h"
 #include "settings/settings_file.h"
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
@@ -190,13 +191,13 @@ TEST(RoundTrip, AnUnchangedCommentStaysAndAChangedOneLosesNoWordUnannounced) {
 
 /// Where a comment doesn't come back as it was if all of it is laid out.
 TEST(RoundTrip, ChangesThatTheFormatMakes) {
-  for (test::TextCase& c : test::casesIn("laid-out.txt")) {
-    const ProjectSettings settings = layoutOf(std::stoi(c["wrap"]), std::stoi(c["eol"]));
-    const Lines first = applied(test::lines(c["comment"]), settings);
-    EXPECT_EQ(join(first, "|"), c["first"]) << c["name"];
-    const std::string& second = c.count("second") > 0 ? c["second"] : c["first"];
-    EXPECT_EQ(join(applied(first, settings), "|"), second) << c["name"];
-  }
+  const auto check = [](const test::TextCase& c) {
+    const ProjectSettings settings = layoutOf(c.number("wrap"), c.number("eol"));
+    const Lines first = applied(c.list("comment"), settings);
+    EXPECT_EQ(join(first, "|"), c["first"]);
+    EXPECT_EQ(join(applied(first, settings), "|"), c[c.has("second") ? "second" : "first"]);
+  };
+  test::forEachCase("editor/laid-out.txt", {"wrap", "eol", "comment", "first", "second"}, check);
 }
 
 /// Where the declarations of commented members are, the lowest of a module first.
