@@ -31,21 +31,6 @@ class ExternalProgramsTest : public testing::Test {
   Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data"};
 };
 
-TEST_F(ExternalProgramsTest, RunsEachLineAsItStandsAndLogsItWithItsOutput) {
-  const std::string log =
-      run("  echo 1 2  \r   \recho '$x' \"50%\" | cat\rcd /\rpwd\recho \"open\rfalse\recho out; "
-          "echo err "
-          ">&2");
-  EXPECT_EQ(log,
-            "echo 1 2\n1 2\n"
-            "echo '$x' \"50%\" | cat\n$x 50%\n"
-            "cd /\npwd\n/\n"
-            "echo \"open\n"
-            "false\n"
-            "echo out; echo err >&2\nout\n\n");
-  EXPECT_TRUE(std::filesystem::is_empty(session_.settings.outputPath));
-}
-
 TEST_F(ExternalProgramsTest, ShowsInADialogWhichOneRunsAndItsErrors) {
   session_.showsPrograms = true;
   CommandButton& cancel = session_.progressDlg.CancelButton;

@@ -3,11 +3,9 @@ import atexit
 import html.parser
 import os
 import pathlib
-import re
 import shutil
 import subprocess
 import tempfile
-import unittest
 import urllib.parse
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -28,7 +26,6 @@ PROGRAM = os.environ.get("TAMRIKON", ROOT / "build/dev/bin/tamrikon")
 BASE = tempfile.mkdtemp()
 atexit.register(shutil.rmtree, BASE)
 TEMPLATES = shutil.copytree(ROOT / "data/Templates", pathlib.Path(BASE) / "it's \"$(here) `")
-CONTROLS = re.compile("[\x00-\x08\x0b\x0c\x0e-\x1f\x7f]")
 
 
 class Compile:
@@ -56,17 +53,6 @@ class Compile:
 
     def names(self, ending=""):
         return {file.name for file in self.folder.iterdir() if file.name.endswith(ending)}
-
-
-class TemplateTest(unittest.TestCase):
-    def check_every_run_gives_the_same(self, template):
-        first, second = (Compile(ODD, template, "--no-exec") for _ in range(2))
-        self.assertEqual(first.names(), second.names())
-        for name in first.names():
-            text = first.text(name)
-            self.assertEqual(text, second.text(name), name)
-            self.assertNotRegex(text, CONTROLS, name)
-            self.assertNotRegex(text, r"\$[A-Za-z][-A-Za-z]+\$", name)  # a macro that isn't there
 
 
 def topic_names(topics, separator="-"):

@@ -1,11 +1,26 @@
-"""A folder for each project of a group: every link between the projects and the group is right."""
+"""What holds for all templates: the same pages in every run, and right links between the projects of a
+group and the group, in a folder for each project."""
 import json
 import re
 import subprocess
 import unittest
 import urllib.parse
 
-from program import DOUBLES, Compile, Page
+from program import DOUBLES, ODD, Compile, Page
+
+CONTROLS = re.compile("[\x00-\x08\x0b\x0c\x0e-\x1f\x7f]")
+
+
+class EveryRunTest(unittest.TestCase):
+    def test_gives_the_same(self):
+        for template in ("chm", "html", "json", "markdown", "rtf"):
+            first, second = (Compile(ODD, template, "--no-exec") for _ in range(2))
+            self.assertEqual(first.names(), second.names())
+            for name in first.names():
+                text = first.text(name)
+                self.assertEqual(text, second.text(name), name)
+                self.assertNotRegex(text, CONTROLS, name)
+                self.assertNotRegex(text, r"\$[A-Za-z][-A-Za-z]+\$", name)  # a macro that isn't there
 
 
 class FoldersTest(unittest.TestCase):
