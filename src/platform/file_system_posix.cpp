@@ -195,13 +195,14 @@ class PosixFileSystem final : public FileSystem {
     if (file.isOpen() && !triesOld) {
       return writeAll(file.number(), bytes) && file.close() ? FileError::none : errorOf(errno);
     }
-    findsOldFiles_ = file.isOpen() || errno == EEXIST;
+    const bool isOld = file.isOpen() || errno == EEXIST;
+    findsOldFiles_ = isOld;
     if (!file.isOpen()) file.open(native, O_RDWR | O_CREAT);
     if (!file.isOpen() && errno == EACCES) file.open(native, O_WRONLY | O_CREAT);
     if (!file.isOpen()) return errorOf(errno, native);
     struct stat status {};
     if (::fstat(file.number(), &status) != 0) return errorOf(errno);
-    if (S_ISREG(status.st_mode) && status.st_size > 0) {
+    if (S_ISREG(status.st_mode) && (isOld || status.st_size > 0)) {
       changed = !holds(file.number(), status.st_size, bytes);
       if (!changed) return FileError::none;
       if (::ftruncate(file.number(), 0) != 0) return errorOf(errno);
