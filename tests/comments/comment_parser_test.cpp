@@ -3,13 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <tuple>
 
 #include "base/text.h"
+#include "support/text_cases.h"
 
 namespace tamrikon {
 namespace {
 
+using test::TextCase;
 using Lines = std::vector<std::string>;
 
 class CommentParserTest : public testing::Test {
@@ -50,37 +51,19 @@ TEST_F(CommentParserTest, FindsTagWordsByExactPrefixInFront) {
 }
 
 TEST_F(CommentParserTest, CutsTagTextAtWhitespace) {
-  using Case = std::tuple<const char*, Lines, Lines>;
-  for (const auto& [text, see, param] : {
-           Case{"", {}, {"\r"}},
-           Case{"  a   b  c ", {"a\rb  c"}, {"a\rb  c\r"}},
-           Case{" a \tb", {"a\r\tb"}, {"a\r\tb\r"}},
-           Case{" a\t b", {"a\rb"}, {"a\rb\r"}},
-           Case{"\ta b", {"\ra b"}, {"\ra b\r"}},
-       }) {
-    EXPECT_EQ(read({std::string("@see") + text}).getSeeList(), see) << text;
-    EXPECT_EQ(read({std::string("@param") + text}).getParamList(), param) << text;
-  }
+  const auto check = [this](const TextCase& c) {
+    EXPECT_EQ(read({"@see" + c["text"]}).getSeeList(), c.list("see"));
+    EXPECT_EQ(read({"@param" + c["text"]}).getParamList(), c.list("param"));
+  };
+  test::forEachCase("comments/tag-texts.txt", {"text", "see", "param"}, check);
 }
 
 TEST_F(CommentParserTest, SortsSettingsIntoThreeTables) {
-  using Case = std::tuple<const char*, Lines, std::array<Lines, 3>>;
-  for (const auto& [name, body, tables] : {
-           Case{"literal with blanks, further lines",
-                {"@set  Mode  A  \"x \"\"y\" first  one ", "  more", "@set Mode B 2"},
-                {Lines{"Mode\rA\r\"x \"\"y\"\rfirst  one\r  more\r", "Mode\rB\r2\r\r"}, {}, {}}},
-           Case{"fewer words",
-                {"@set Mode", "@set Mode A", "@set Flags"},
-                {Lines{"Mode\r\r\r\r", "Mode\rA\r\r\r"}, {"Flags\r\r\r\r"}, {}}},
-           Case{"a fourth parameter is dropped, with its lines",
-                {"@set a 1", "@set b 1", "@set c 1", "@set d 1", "lost", "@set b 2", "@set"},
-                {Lines{"a\r1\r\r\r"}, {"b\r1\r\r\r", "b\r2\r\r\r"}, {"c\r1\r\r\r"}}},
-           Case{"no parameter: the table without a name",
-                {"@set", "@set a", "@set", "@set A"},
-                {Lines{"\r\r\r\r", "a\r\r\r\r"}, {"\r\r\r\r", "A\r\r\r\r"}, {}}},
-       }) {
-    EXPECT_EQ(read(body).getSettingsList(), tables) << name;
-  }
+  const auto check = [this](const TextCase& c) {
+    const std::array<Lines, 3> tables{c.list("first"), c.list("second"), c.list("third")};
+    EXPECT_EQ(read(c.list("comment")).getSettingsList(), tables);
+  };
+  test::forEachCase("comments/setting-tables.txt", {"comment", "first", "second", "third"}, check);
 }
 
 TEST_F(CommentParserTest, TakesUserTagsAsTheyWereWhenTheCommentCame) {

@@ -34,7 +34,7 @@ class ProgressDlgTest : public testing::Test {
 
   test::TempFolder folder_;
   test::ScriptedToolkit toolkit_;
-  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data/$home"};
+  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data"};
   ProgressDlg& dialog_ = session_.progressDlg;
   std::unique_ptr<HostIde> ide_;
   std::string template_;
@@ -90,24 +90,6 @@ TEST_F(ProgressDlgTest, FinishedTopicsOfASingleFileAreWrittenWhateverEndsTheComp
   EXPECT_EQ(dialog_.Text1.text(),
             "Project: One\r\nERROR: The expansion of tamrik-method-body has no end: its bounds of "
             "calls and text are used up at $tamrik-loop$, in the topic of CTwo.Spill\r\n");
-}
-
-TEST_F(ProgressDlgTest, CompilePublishesPathsWithTheirDollarsAndOneSeparator) {
-  folder_.put("t.tmkt",
-              "$SPLIT$ 0\n$MEMBER-EXT$ .m\n$tamrik-project-body$\n$TAMRIK-PATH$ "
-              "$TEMPLATE-PATH$ $OUTPUT-PATH$ $CHARSET$ $TITLE-PAGE-TEXT$\n"
-              "$end-tamrik-project-body$\n$tamrik-title-body$\n$end-tamrik-title-body$");
-  open();
-  const std::string plain = folder_ / "a$MEMBER-EXT$b";
-  std::filesystem::create_directory(plain);
-  for (const std::string& output : {plain, plain + "/"}) {
-    session_.settings.outputPath = output;
-    dialog_.startCompile();
-    EXPECT_EQ(folder_.get("a$MEMBER-EXT$b/One.m")
-                  .find("/data/$home /data/$home/Templates " + plain + " windows-1252 "),
-              0U);
-    EXPECT_EQ(session_.settings.outputPath, plain + "/");
-  }
 }
 
 TEST_F(ProgressDlgTest, ShowingItCompilesAndLeavesItOpenWithItsLog) {

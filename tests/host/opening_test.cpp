@@ -180,24 +180,6 @@ TEST(Opening, GuessesTheCodePageFromBytes) {
                     check);
 }
 
-TEST(Opening, TakesTheKeptPageAndThatOfTheGroup) {
-  const test::TempFolder folder;
-  folder.put("a.vbp", "Type=Exe\nModule=m; a.bas\nName=\"A\"\n");
-  folder.put("a.bas", "' \xE4\n");
-  folder.put("b.vbp", "Type=Exe\nName=\"\xC1\"\n");
-  folder.put("g.vbg", "VBGROUP 5.0\nProject=a.vbp\nProject=b.vbp\n");
-  folder.put("b.codepage", "1251\r\n");
-  const Opened opened = openIn(folder, "g.vbg");
-  EXPECT_EQ(opened.codePage(1), 1251);
-  EXPECT_EQ(opened.project(2).Name(), "Б");
-  EXPECT_TRUE(opened.warnings.starts_with("note: the code page of A is guessed to be 1251"));
-  EXPECT_EQ(openIn(folder, "g.vbg", 1253).codePage(2), 1253);
-  folder.put("b.codepage", "1251x");
-  EXPECT_TRUE(openIn(folder, "b.vbp")
-                  .warnings.starts_with("warning: ~/b.codepage doesn't hold the number of a code "
-                                        "page, such as 1251|note: nothing"));
-}
-
 TEST(Opening, ReadsGroups) {
   const test::TempFolder folder;
   folder.put("A/a.vbp", "Type=Exe\nName=\"A\"\nModule=S; ..\\s.bas\n");
@@ -221,28 +203,6 @@ TEST(Opening, ReadsGroups) {
   ofA->InsertLines(1, "Public y");
   EXPECT_EQ(ofB->Lines(1, 2), "Public y\r\nx");
   EXPECT_EQ(ofB->Members().Count(), 1);
-}
-
-TEST(Opening, SaysWhyThereIsNothingToOpen) {
-  const test::TempFolder folder;
-  folder.put("empty.vbg", "VBGROUP 5.0\nProject=no.vbp\nProject=form.frm\n");
-  folder.put("form.frm", "VERSION 5.00\nBegin VB.Form f \n   Name = \"x\"\nType = 1\nEnd\n");
-  folder.put("other.vbp", "Name=\"x\"\n[Type]\nType=Exe\n");
-  folder.put("other.vbg", "Type=Exe\n");
-  folder.put("dir.vbp/x", "");
-  EXPECT_EQ(openIn(folder, "no.vbp").why, "cannot read ~/no.vbp: there is no such file");
-  EXPECT_EQ(openIn(folder, "dir.vbp").why,
-            "cannot read ~/dir.vbp: it is not a file that can be opened");
-  EXPECT_EQ(openIn(folder, "empty.vbg").why,
-            "cannot read ~/empty.vbg: it has no project that can be read");
-  for (const char* name : {"form.frm", "other.vbp"}) {
-    EXPECT_EQ(openIn(folder, name).why, std::string("~/") + name +
-                                            " isn't a Visual Basic project: it has no line "
-                                            "\"Type=\"");
-  }
-  EXPECT_EQ(openIn(folder, "other.vbg").why,
-            "~/other.vbg isn't a Visual Basic project group: its first line isn't "
-            "\"VBGROUP 5.0\"");
 }
 
 TEST(Opening, SurvivesAnyBytes) {
