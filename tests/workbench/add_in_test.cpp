@@ -1,9 +1,7 @@
 // Tamrikon in the workbench, from its menu entries to what stands in files and sources.
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -87,20 +85,6 @@ TEST_F(AddInTest, CommentIsAddedWhereTheUserRightClicks) {
   expectSame(editor, module);
   trigger("undo");
   EXPECT_FALSE(module.isChanged());
-}
-
-TEST_F(AddInTest, CodeIsCopiedToTheClipboardAndPastedIntoAComment) {
-  put("Stock/StockErrors.bas", "Sub A()\r\n    Beep\r\nEnd Sub\r\n");
-  open();
-  CodeEditor& editor = show("StockErrors");
-  editor.setSelection({1, 1, 2, 9});
-  item("Code Window", "Copy Selection as Code")->trigger();
-  EXPECT_EQ(fromQt(QGuiApplication::clipboard()->text()),
-            "'$CODE$\r'Sub A()$EOL$\r'    Beep\r'$END-CODE$");
-  editor.setSelection({1, 1, 1, 1});
-  trigger("paste");
-  EXPECT_EQ(module("StockErrors").Lines(1, 4),
-            "'$CODE$\r\n'Sub A()$EOL$\r\n'    Beep\r\n'$END-CODE$Sub A()");
 }
 
 TEST_F(AddInTest, UserUnloadsItAndLoadsItAgain) {

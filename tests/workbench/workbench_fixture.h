@@ -50,27 +50,26 @@ class WorkbenchTest : public testing::Test {
   void SetUp() override {
     qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_ / "config"));
     qputenv("XDG_STATE_HOME", QByteArray::fromStdString(folder_ / "state"));
-    std::filesystem::copy(TAMRIKON_EXAMPLES "/Inventory", folder_ / "Inventory",
+    std::filesystem::copy(projects_, folder_ / "Projects",
                           std::filesystem::copy_options::recursive);
     start();
   }
 
+  WorkbenchOptions options() { return {toQt(folder_ / "settings.ini"), &prompts_}; }
+
   /// Starts the program anew.
   void start() {
     window_.reset();
-    WorkbenchOptions options;
-    options.settingsFile = toQt(folder_ / "settings.ini");
-    options.prompts = &prompts_;
-    window_ = std::make_unique<WorkbenchWindow>(options);
+    window_ = std::make_unique<WorkbenchWindow>(options());
     window_->show();
     window_->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window_.get()));
   }
 
-  QString path(const std::string& name) const { return toQt(folder_ / ("Inventory/" + name)); }
-  std::string bytes(const std::string& name) const { return folder_.get("Inventory/" + name); }
+  QString path(const std::string& name) const { return toQt(folder_ / ("Projects/" + name)); }
+  std::string bytes(const std::string& name) const { return folder_.get("Projects/" + name); }
   void put(const std::string& name, const std::string& bytes) {
-    folder_.put("Inventory/" + name, bytes);
+    folder_.put("Projects/" + name, bytes);
   }
 
   void open(const std::string& name = "Inventory.vbg") {
@@ -86,6 +85,7 @@ class WorkbenchTest : public testing::Test {
   CodeTabs& tabs() const { return *window_->findChild<CodeTabs*>(); }
   void trigger(const char* action) const { window_->findChild<QAction*>(action)->trigger(); }
 
+  std::filesystem::path projects_ = TAMRIKON_EXAMPLES "/Inventory";  // of which it gets copies
   TempFolder folder_;
   ScriptedPrompts prompts_;
   std::unique_ptr<WorkbenchWindow> window_;

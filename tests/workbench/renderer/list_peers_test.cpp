@@ -37,17 +37,6 @@ TEST_F(ListPeersTest, ListFollowsTheProgramAndTellsNothing) {
   });
 }
 
-TEST_F(ListPeersTest, KeysSelectFromTheFirstItemOn) {
-  showLists([&] {
-    dialog.List.setFocus();
-    dialog.told();
-    user.press(Qt::Key_Down);
-    user.press(Qt::Key_Down);
-    user.press(Qt::Key_End);
-    EXPECT_EQ(dialog.told(), "key List.key List=a key List.key List=b key List.key List=c ");
-  });
-}
-
 TEST_F(ListPeersTest, ChecksFollowTheProgram) {
   std::vector<CheckList::Item> items(5000, {"item", false});
   dialog.Checks.setItems(items);
@@ -103,16 +92,6 @@ TEST_F(ListPeersTest, FolderTreeReadsWhatIsOpened) {
     dialog.Folders.setRoot("/docs");
     EXPECT_EQ(tree.topLevelItem(0)->childCount(), 1);
     EXPECT_EQ(dialog.told(), "");
-  });
-}
-
-TEST_F(ListPeersTest, ArrowKeysInABoxStepItsSpin) {
-  show([&] {
-    user.focus(dialog.Width);
-    dialog.told();
-    user.press(Qt::Key_Up);
-    user.press(Key::down);
-    EXPECT_EQ(dialog.told(), "key Width.key Spin=81 key Width.key Spin=80 ");
   });
 }
 

@@ -42,22 +42,6 @@ TEST_F(TextPeersTest, CaretStaysWhereItIsWhileAHandlerChangesTheText) {
   });
 }
 
-TEST_F(TextPeersTest, LinesAreTypedAndLeftWithTab) {
-  show([&] {
-    user.focus(dialog.Lines);
-    dialog.told();
-    user.typeText("a");
-    user.press(Key::enter);
-    user.typeText("b");
-    user.press(Qt::Key_Return, Qt::ControlModifier);
-    user.press(Qt::Key_Return, Qt::ShiftModifier);
-    EXPECT_EQ(dialog.Lines.text(), "a\r\nb\r\n\r\n");
-    dialog.told();
-    user.press(Qt::Key_Tab);
-    EXPECT_EQ(dialog.told(), "key Lines.key -Lines +Width ");
-  });
-}
-
 TEST_F(TextPeersTest, NoBreakSpacesOutliveTyping) {
   dialog.Lines.setText("10\xC2\xA0km\r\n");
   show([&] {

@@ -1,0 +1,3 @@
+Attribute VB_Name = "Main"
+Sub Main()
+End Sub

@@ -1,0 +1,3 @@
+Attribute VB_Name = "Shared"
+' one
+' two

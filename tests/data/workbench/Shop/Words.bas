@@ -1,0 +1,5 @@
+Attribute VB_Name = "Words"
+Item items
+none
+A ITEM item
+end
