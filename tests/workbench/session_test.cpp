@@ -143,6 +143,7 @@ class SessionTest : public WorkbenchTest, public testing::WithParamInterface<std
     const auto* item = find<ProjectExplorer>("projectTree").currentItem();
     parts["explorer"] = item != nullptr ? item->text(0) : "";
     const auto& messages = find<MessageList>("messageList");
+    parts["messages"] = "";
     for (int i = 0; i < messages.count() && messages.isVisible(); ++i) {
       parts["messages"] += '\n' + messages.item(i)->text();
     }
