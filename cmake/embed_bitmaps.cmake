@@ -12,7 +12,7 @@ foreach(line IN LISTS lines)
   string(APPEND arrays "constexpr std::uint8_t kBitmap${number}[] = {${bytes}};\n")
   string(APPEND cases "    case ${number}: return kBitmap${number};\n")
 endforeach()
-file(WRITE ${OUTPUT} "#include \"ide/bitmap_resources.h\"
+file(WRITE ${OUTPUT} "#include \"connect/bitmap_resources.h\"
 
 namespace tamrikon {
 namespace {

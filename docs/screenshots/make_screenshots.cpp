@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "platform/data_folder.h"
+#include "toolkit_qt/qt_text.h"
 #include "workbench/modal_steps.h"
-#include "workbench/renderer/qt_text.h"
 #include "workbench/workbench_window.h"
 
 namespace tamrikon {

@@ -2,8 +2,8 @@
 
 #include <new>
 
-#include "addin/com_ptr.h"
 #include "addin/connect_object.h"
+#include "com/com_ptr.h"
 
 namespace tamrikon {
 

@@ -3,8 +3,8 @@
 
 #include <atomic>
 
-#include "addin/com.h"
 #include "addin/server_lock.h"
+#include "com/com.h"
 
 namespace tamrikon {
 

@@ -3,13 +3,13 @@
 #include <new>
 #include <utility>
 
-#include "addin/com_ptr.h"
 #include "addin/registration.h"
 #include "base/paths.h"
+#include "com/com_ptr.h"
 #include "compiler/session.h"
 #include "compiler/store.h"
+#include "connect/connect.h"
 #include "ide/add_in_host.h"
-#include "ide/connect.h"
 #include "platform/data_folder.h"
 #include "platform/user_settings.h"
 

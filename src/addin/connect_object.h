@@ -4,8 +4,8 @@
 #include <atomic>
 #include <memory>
 
-#include "addin/add_in_interfaces.h"
 #include "addin/server_lock.h"
+#include "com/add_in_interfaces.h"
 
 namespace tamrikon {
 

@@ -2,9 +2,9 @@
 #include <new>
 
 #include "addin/class_factory.h"
-#include "addin/com_ptr.h"
-#include "addin/component.h"
 #include "addin/registration.h"
+#include "com/com_ptr.h"
+#include "com/component.h"
 
 #ifndef _WIN32
 #define STDAPI extern "C" __attribute__((visibility("default"))) tamrikon::HRESULT

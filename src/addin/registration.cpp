@@ -1,7 +1,7 @@
 #include "addin/registration.h"
 
-#include "addin/component.h"
-#include "addin/registry_keys.h"
+#include "com/component.h"
+#include "com/registry_keys.h"
 #include "platform/dynamic_library.h"
 
 namespace tamrikon {

@@ -1,7 +1,7 @@
 // Counts what keeps the library in use: its objects, and the locks that hosts put on it.
 #pragma once
 
-#include "addin/com.h"
+#include "com/com.h"
 
 namespace tamrikon {
 

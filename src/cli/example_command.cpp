@@ -3,7 +3,7 @@
 #include "cli/commands.h"
 #include "cli/project_opening.h"
 #include "cli/source_places.h"
-#include "ide/copy_selection_as_code.h"
+#include "connect/copy_selection_as_code.h"
 #include "settings/settings_file.h"
 
 namespace tamrikon {

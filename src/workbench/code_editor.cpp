@@ -10,9 +10,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "toolkit_qt/qt_text.h"
 #include "workbench/block_text.h"
 #include "workbench/line_number_area.h"
-#include "workbench/renderer/qt_text.h"
 #include "workbench/vb_highlighter.h"
 
 namespace tamrikon {

@@ -7,7 +7,7 @@
 #include "base/paths.h"
 #include "host/host_component.h"
 #include "host/host_project.h"
-#include "workbench/renderer/qt_text.h"
+#include "toolkit_qt/qt_text.h"
 
 namespace tamrikon {
 

@@ -9,7 +9,7 @@
 #include "host/edit_group.h"
 #include "host/host_component.h"
 #include "host/host_project.h"
-#include "workbench/renderer/qt_text.h"
+#include "toolkit_qt/qt_text.h"
 #include "workbench/text_search.h"
 
 namespace tamrikon {

@@ -4,9 +4,9 @@
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
+#include "toolkit_qt/qt_text.h"
 #include "workbench/file_content.h"
 #include "workbench/lists_in_words.h"
-#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 

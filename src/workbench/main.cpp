@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "platform/display.h"
-#include "workbench/renderer/qt_text.h"
+#include "toolkit_qt/qt_text.h"
 #include "workbench/workbench_window.h"
 
 namespace {

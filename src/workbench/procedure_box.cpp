@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "workbench/renderer/qt_text.h"
+#include "toolkit_qt/qt_text.h"
 
 namespace tamrikon {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/paths.h"
-#include "workbench/renderer/qt_text.h"
+#include "toolkit_qt/qt_text.h"
 #include "workbench/workbench_icons.h"
 
 namespace tamrikon {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <set>
 
+#include "toolkit_qt/qt_text.h"
 #include "workbench/lists_in_words.h"
-#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 

@@ -1,7 +1,7 @@
 #include "workbench/project_search.h"
 
+#include "toolkit_qt/qt_text.h"
 #include "workbench/block_text.h"
-#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 

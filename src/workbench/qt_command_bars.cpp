@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "ide/ide.h"
-#include "workbench/renderer/qt_text.h"
+#include "toolkit_qt/qt_text.h"
 
 namespace tamrikon {
 namespace {

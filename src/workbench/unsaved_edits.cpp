@@ -8,9 +8,9 @@
 #include <QUuid>
 #include <algorithm>
 
+#include "toolkit_qt/qt_text.h"
 #include "workbench/block_text.h"
 #include "workbench/file_content.h"
-#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "platform/text_decoding.h"
 #include "settings/user_tag_import.h"
-#include "workbench/renderer/qt_text.h"
+#include "toolkit_qt/qt_text.h"
 
 namespace tamrikon {
 namespace {

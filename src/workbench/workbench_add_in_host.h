@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "ide/add_in_host.h"
-#include "workbench/renderer/qt_toolkit.h"
+#include "toolkit_qt/qt_toolkit.h"
 #include "workbench/workbench_ide.h"
 
 namespace tamrikon {

@@ -17,9 +17,9 @@
 
 #include "base/paths.h"
 #include "platform/user_folders.h"
+#include "toolkit_qt/qt_text.h"
 #include "workbench/block_text.h"
 #include "workbench/program_name.h"
-#include "workbench/renderer/qt_text.h"
 
 namespace tamrikon {
 namespace {

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "addin/host/add_ins.h"
+#include "addin_host/add_ins.h"
 #include "host/host_ide.h"
 #include "platform/file_system.h"
 #include "workbench/code_commands.h"

@@ -3,14 +3,14 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
-#include "addin/host/add_in_manager_dlg.h"
-#include "addin/host/own_component.h"
+#include "addin_host/add_in_manager_dlg.h"
+#include "addin_host/own_component.h"
 #include "platform/data_folder.h"
 #include "toolkit/open_manual.h"
+#include "toolkit_qt/qt_text.h"
 #include "workbench/lists_in_words.h"
 #include "workbench/program_name.h"
 #include "workbench/project_search.h"
-#include "workbench/renderer/qt_text.h"
 #include "workbench/workbench_window.h"
 
 namespace tamrikon {

@@ -1,16 +1,16 @@
 // Add-ins from the host's side: how they are found, loaded on start-up and managed by the user.
-#include "addin/host/add_ins.h"
+#include "addin_host/add_ins.h"
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 
-#include "addin/component.h"
-#include "addin/host/add_in_manager_dlg.h"
-#include "addin/host/own_component.h"
-#include "addin/registry_keys.h"
 #include "addin/user_folder.h"
+#include "addin_host/add_in_manager_dlg.h"
+#include "addin_host/own_component.h"
+#include "com/component.h"
+#include "com/registry_keys.h"
 #include "platform/dynamic_library.h"
 #include "platform/user_settings.h"
 #include "support/scripted_ide.h"

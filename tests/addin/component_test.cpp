@@ -5,14 +5,14 @@
 #include <cstdio>
 #include <memory>
 
-#include "addin/add_in_interfaces.h"
-#include "addin/com_ptr.h"
-#include "addin/component.h"
-#include "addin/guid_text.h"
-#include "addin/host/host_application.h"
-#include "addin/host/own_component.h"
-#include "addin/registry_keys.h"
 #include "addin/user_folder.h"
+#include "addin_host/host_application.h"
+#include "addin_host/own_component.h"
+#include "com/add_in_interfaces.h"
+#include "com/com_ptr.h"
+#include "com/component.h"
+#include "com/guid_text.h"
+#include "com/registry_keys.h"
 #include "platform/dynamic_library.h"
 #include "support/scripted_ide.h"
 #include "support/scripted_toolkit.h"

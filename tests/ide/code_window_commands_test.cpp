@@ -4,8 +4,8 @@
 #include <array>
 #include <tuple>
 
-#include "ide/add_comment_at_cursor.h"
-#include "ide/copy_selection_as_code.h"
+#include "connect/add_comment_at_cursor.h"
+#include "connect/copy_selection_as_code.h"
 #include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "compiler/store.h"
-#include "ide/connect.h"
+#include "connect/connect.h"
 #include "support/scripted_ide.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"

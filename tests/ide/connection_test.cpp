@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <map>
 
+#include "connect/item_faces.h"
 #include "ide/connect_fixture.h"
-#include "ide/item_faces.h"
 
 namespace tamrikon::test {
 namespace {

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "toolkit_qt/qt_text.h"
 #include "workbench/block_text.h"
 #include "workbench/code_colours.h"
-#include "workbench/renderer/qt_text.h"
 #include "workbench/text_search.h"
 #include "workbench/vb_tokens.h"
 

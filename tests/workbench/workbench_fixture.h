@@ -12,8 +12,8 @@
 #include <string>
 
 #include "support/temp_folder.h"
+#include "toolkit_qt/qt_text.h"
 #include "workbench/block_text.h"
-#include "workbench/renderer/qt_text.h"
 #include "workbench/workbench_window.h"
 
 namespace tamrikon::test {

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "settings/options/indent_example.h"
+#include "dialogs/indent_example.h"
 #include "settings/options/options_fixture.h"
 #include "support/fake_module.h"
 

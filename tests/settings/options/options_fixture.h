@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "base/text.h"
-#include "settings/options/frm_add_in.h"
+#include "dialogs/frm_add_in.h"
 #include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"

@@ -1,7 +1,7 @@
 #include <filesystem>
 
+#include "dialogs/text_input.h"
 #include "settings/options/options_fixture.h"
-#include "settings/options/text_input.h"
 #include "toolkit/frm_browse_dlg.h"
 
 namespace tamrikon {

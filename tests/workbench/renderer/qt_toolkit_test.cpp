@@ -1,11 +1,11 @@
-#include "workbench/renderer/qt_toolkit.h"
+#include "toolkit_qt/qt_toolkit.h"
 
 #include <QComboBox>
 #include <QFileDialog>
 #include <QMessageBox>
 
 #include "support/temp_folder.h"
-#include "workbench/renderer/file_filter.h"
+#include "toolkit_qt/file_filter.h"
 #include "workbench/renderer/window_user.h"
 
 namespace tamrikon {

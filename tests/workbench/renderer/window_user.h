@@ -15,7 +15,7 @@
 #include "toolkit/folder_tree.h"
 #include "toolkit/list_controls.h"
 #include "toolkit/value_controls.h"
-#include "workbench/renderer/qt_toolkit.h"
+#include "toolkit_qt/qt_toolkit.h"
 
 namespace tamrikon::test {
 
