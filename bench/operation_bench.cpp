@@ -7,8 +7,8 @@
 
 #include "comments/comment_parser.h"
 #include "host/module_analysis.h"
-#include "host/source_file.h"
 #include "platform/data_folder.h"
+#include "source/source_file.h"
 #include "template/link_items.h"
 #include "template/macro_table.h"
 

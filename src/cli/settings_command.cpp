@@ -4,9 +4,9 @@
 #include "cli/project_opening.h"
 #include "cli/setting_overrides.h"
 #include "compiler/store.h"
-#include "host/file_on_disk.h"
 #include "host/kept_code_page.h"
 #include "platform/data_folder.h"
+#include "source/file_on_disk.h"
 
 namespace tamrikon {
 namespace {

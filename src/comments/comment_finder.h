@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "comments/comment_lines.h"
-#include "ide/module_lines.h"
+#include "vb/module_lines.h"
 
 namespace tamrikon {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/text.h"
-#include "base/vb_text.h"
+#include "vb/vb_text.h"
 
 namespace tamrikon {
 namespace {

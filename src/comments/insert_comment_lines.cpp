@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "base/text.h"
-#include "base/vb_text.h"
+#include "vb/vb_text.h"
 
 namespace tamrikon {
 namespace {

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "comments/comment_lines.h"
-#include "comments/proc_definition.h"
 #include "settings/project_settings.h"
+#include "vb/proc_definition.h"
 
 namespace tamrikon {
 

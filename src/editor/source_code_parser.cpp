@@ -6,9 +6,9 @@
 #include "base/case_folding.h"
 #include "base/keyed_list.h"
 #include "base/text.h"
-#include "base/vb_text.h"
-#include "comments/proc_definition.h"
 #include "model/wrappers.h"
+#include "vb/proc_definition.h"
+#include "vb/vb_text.h"
 
 namespace tamrikon {
 namespace {

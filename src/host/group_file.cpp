@@ -1,9 +1,9 @@
 #include "host/group_file.h"
 
+#include "base/line_reader.h"
 #include "base/paths.h"
-#include "host/line_reader.h"
 #include "host/project_file.h"
-#include "host/scanning.h"
+#include "vb/scanning.h"
 
 namespace tamrikon {
 namespace {

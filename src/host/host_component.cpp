@@ -4,7 +4,7 @@
 
 #include "base/case_folding.h"
 #include "base/paths.h"
-#include "host/names.h"
+#include "vb/names.h"
 
 namespace tamrikon {
 

@@ -4,10 +4,10 @@
 #include <memory>
 #include <string>
 
-#include "host/conditional_expression.h"
 #include "host/host_module.h"
-#include "host/source_store.h"
 #include "ide/ide.h"
+#include "source/source_store.h"
+#include "vb/conditional_expression.h"
 
 namespace tamrikon {
 

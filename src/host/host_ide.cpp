@@ -9,11 +9,11 @@
 #include "base/case_folding.h"
 #include "base/paths.h"
 #include "base/utf8.h"
-#include "host/attribute_text.h"
-#include "host/code_page_guess.h"
 #include "host/group_file.h"
 #include "host/kept_code_page.h"
 #include "host/project_pages.h"
+#include "source/code_page_guess.h"
+#include "vb/attribute_text.h"
 
 namespace tamrikon {
 namespace {

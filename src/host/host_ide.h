@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "host/file_on_disk.h"
 #include "host/host_project.h"
 #include "host/save_failure.h"
-#include "host/source_store.h"
 #include "host/unseen_screen.h"
 #include "ide/ide.h"
 #include "platform/code_page.h"
 #include "platform/file_system.h"
+#include "source/file_on_disk.h"
+#include "source/source_store.h"
 
 namespace tamrikon {
 

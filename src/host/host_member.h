@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "base/case_folding.h"
-#include "host/member_attributes.h"
 #include "host/module_analysis.h"
 #include "ide/ide.h"
+#include "source/member_attributes.h"
 
 namespace tamrikon {
 

@@ -5,7 +5,7 @@
 
 #include "host/host_component.h"
 #include "host/host_project.h"
-#include "host/names.h"
+#include "vb/names.h"
 
 namespace tamrikon {
 

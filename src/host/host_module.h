@@ -5,12 +5,12 @@
 #include <optional>
 #include <string>
 
-#include "host/conditional_expression.h"
-#include "host/edit_group.h"
 #include "host/host_member.h"
 #include "host/module_analysis.h"
-#include "host/source_store.h"
 #include "ide/ide.h"
+#include "source/edit_group.h"
+#include "source/source_store.h"
+#include "vb/conditional_expression.h"
 
 namespace tamrikon {
 

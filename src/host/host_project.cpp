@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/paths.h"
-#include "host/names.h"
+#include "vb/names.h"
 
 namespace tamrikon {
 namespace {

@@ -7,16 +7,16 @@
 #include <string>
 #include <vector>
 
-#include "host/code_page_guess.h"
-#include "host/conditional_expression.h"
-#include "host/file_on_disk.h"
 #include "host/host_component.h"
 #include "host/host_screen.h"
-#include "host/path_lookup.h"
 #include "host/project_file.h"
-#include "host/source_store.h"
 #include "ide/ide.h"
 #include "platform/code_page.h"
+#include "source/code_page_guess.h"
+#include "source/file_on_disk.h"
+#include "source/path_lookup.h"
+#include "source/source_store.h"
+#include "vb/conditional_expression.h"
 
 namespace tamrikon {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "host/conditional_compilation.h"
-#include "host/declarations.h"
-#include "host/names.h"
-#include "host/scanning.h"
-#include "host/statements.h"
+#include "vb/conditional_compilation.h"
+#include "vb/declarations.h"
+#include "vb/names.h"
+#include "vb/scanning.h"
+#include "vb/statements.h"
 
 namespace tamrikon {
 namespace {

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "base/case_folding.h"
-#include "host/conditional_expression.h"
 #include "ide/ide.h"
+#include "vb/conditional_expression.h"
 
 namespace tamrikon {
 

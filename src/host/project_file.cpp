@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "base/line_reader.h"
 #include "base/text.h"
 #include "base/utf8.h"
-#include "host/line_reader.h"
-#include "host/scanning.h"
-#include "host/source_head.h"
+#include "source/source_head.h"
+#include "vb/scanning.h"
 
 namespace tamrikon {
 namespace {

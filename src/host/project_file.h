@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "host/source_file.h"
 #include "ide/ide.h"
 #include "platform/code_page.h"
+#include "source/source_file.h"
 
 namespace tamrikon {
 

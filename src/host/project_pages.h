@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "host/code_page_guess.h"
 #include "platform/code_page.h"
+#include "source/code_page_guess.h"
 
 namespace tamrikon {
 

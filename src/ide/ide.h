@@ -15,6 +15,8 @@
 #include "ide/command_bars.h"
 #include "ide/events.h"
 #include "ide/windows.h"
+#include "vb/declaration_kinds.h"
+#include "vb/shared_lines.h"
 
 namespace tamrikon {
 
@@ -28,11 +30,6 @@ class IdeError : public std::runtime_error {
 };
 
 enum class MemberType { method = 1, property = 2, variable = 3, event = 4, constant = 5 };
-
-enum class Scope { private_ = 1, public_ = 2, friend_ = 3 };
-
-/// Which procedure of a name is meant; Sub and Function are `procedure`.
-enum class ProcKind { procedure = 0, let = 1, set = 2, get = 3 };
 
 class Members;
 
@@ -83,12 +80,6 @@ class CodePane {
   virtual void setTopLine(int line) = 0;
   virtual tamrikon::CodeModule& CodeModule() const = 0;
   virtual tamrikon::Window& Window() const = 0;
-};
-
-/// The lines of a module together with what keeps their text alive.
-struct SharedLines {
-  std::shared_ptr<const void> memory;
-  std::shared_ptr<const std::vector<std::string_view>> lines;
 };
 
 class CodeModule {

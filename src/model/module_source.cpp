@@ -5,7 +5,10 @@
 namespace tamrikon {
 
 ModuleSource::ModuleSource(CodeModule& module)
-    : module_(module), lines_(module), name_(module.Name()), type_(module.Parent().Type()) {
+    : module_(module),
+      lines_(module.ShareLines()),
+      name_(module.Name()),
+      type_(module.Parent().Type()) {
   const Members& members = module.Members();
   const int count = members.Count();
   members_.reserve(static_cast<std::size_t>(count));  // the names are views of it

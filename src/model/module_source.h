@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "ide/ide.h"
-#include "ide/module_lines.h"
+#include "vb/module_lines.h"
 
 namespace tamrikon {
 

@@ -1,7 +1,7 @@
 #include "model/wrappers.h"
 
-#include "comments/proc_definition.h"
 #include "model/page_context.h"
+#include "vb/proc_definition.h"
 
 namespace tamrikon {
 namespace {

@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 #include <optional>
 
-#include "host/edit_group.h"
 #include "host/host_component.h"
 #include "host/host_project.h"
+#include "source/edit_group.h"
 #include "toolkit_qt/qt_text.h"
 #include "workbench/text_search.h"
 

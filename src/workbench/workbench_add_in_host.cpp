@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "host/edit_group.h"
+#include "source/edit_group.h"
 
 namespace tamrikon {
 

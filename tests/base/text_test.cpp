@@ -4,7 +4,6 @@
 
 #include "base/paths.h"
 #include "base/utf8.h"
-#include "base/vb_text.h"
 #include "support/text_cases.h"
 
 namespace tamrikon {
@@ -31,25 +30,6 @@ TEST(Text, DividesAndReplaces) {
   EXPECT_EQ(cutField(text, ','), "");
   EXPECT_EQ(cutField(text, ','), "b");
   EXPECT_EQ(text, "");
-}
-
-TEST(InStrOutsideQuotes, SkipsLiterals) {
-  const auto check = [](const TextCase& c) {
-    const auto start = static_cast<std::size_t>(c.number("start"));
-    EXPECT_EQ(inStrOutsideQuotes(c["text"], c["word"], start), std::size_t(c.number("place")));
-  };
-  test::forEachCase("base/places-outside-quotes.txt", {"text", "word", "start", "place"}, check);
-}
-
-TEST(VbText, KnowsCommentsBlanksAndContinuations) {
-  EXPECT_EQ(stripLineComment("x = \"it's\"  ' isn't"), "x = \"it's\"");
-  EXPECT_EQ(stripLineComment("x \t' c"), "x \t");
-  EXPECT_EQ(firstWhitespace("ab\tc d"), 3U);
-  EXPECT_EQ(firstWhitespace("ab"), 0U);
-  EXPECT_EQ(firstWhitespaceOutsideStrings("\"a b\"\tc d"), 6U);
-  EXPECT_EQ(firstWhitespaceOutsideStrings("\"a b\tc\" d"), 8U);
-  EXPECT_TRUE(isContinued("a _"));
-  for (const char* line : {"a_", "a\t_", "a _ ", "_", ""}) EXPECT_FALSE(isContinued(line)) << line;
 }
 
 TEST(Paths, AcceptBothSeparators) {

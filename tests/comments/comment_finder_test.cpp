@@ -15,7 +15,7 @@ std::string show(const std::optional<LineRange>& range) {
 TEST(CommentFinder, FindsTheCommentsOfMembersAndModules) {
   const auto check = [](const test::TextCase& c) {
     const test::FakeModule source(c.list("lines"));
-    const ModuleLines lines(source);
+    const ModuleLines lines(source.ShareLines());
     if (c.has("member")) {
       EXPECT_EQ(show(getCommentRange(lines, source.CountOfLines())), c["member"]);
     } else {

@@ -1,6 +1,6 @@
 // A declaration on one line, read in each way.
-#include "comments/proc_definition.h"
 #include "fuzz/fuzz_target.h"
+#include "vb/proc_definition.h"
 
 void fuzz(const std::string& data) {
   using tamrikon::ProcDefinition;

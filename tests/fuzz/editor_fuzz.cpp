@@ -10,8 +10,8 @@
 #include "fuzz/fuzz_target.h"
 #include "fuzz/layout.h"
 #include "fuzz/memory_files.h"
-#include "host/edit_group.h"
 #include "host/host_ide.h"
+#include "source/edit_group.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // A source file: what is read is written back byte for byte, also when all edits are undone.
 #include "fuzz/fuzz_target.h"
-#include "host/source_file.h"
+#include "source/source_file.h"
 
 void fuzz(const std::string& data) {
   using namespace tamrikon;

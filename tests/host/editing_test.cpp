@@ -6,9 +6,9 @@
 #include <tuple>
 #include <vector>
 
-#include "host/edit_group.h"
-#include "host/member_attributes.h"
 #include "host/source_text.h"
+#include "source/edit_group.h"
+#include "source/member_attributes.h"
 #include "support/text_cases.h"
 
 namespace tamrikon {

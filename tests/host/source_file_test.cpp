@@ -1,12 +1,12 @@
-#include "host/source_file.h"
+#include "source/source_file.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <tuple>
 
-#include "host/member_attributes.h"
 #include "host/source_text.h"
+#include "source/member_attributes.h"
 #include "support/text_cases.h"
 
 namespace tamrikon {

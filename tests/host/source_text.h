@@ -6,7 +6,7 @@
 
 #include "base/text.h"
 #include "host/save_failure.h"
-#include "host/source_file.h"
+#include "source/source_file.h"
 
 namespace tamrikon::test {
 

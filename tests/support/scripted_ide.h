@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
-#include "host/edit_group.h"
 #include "host/project_event_sources.h"
 #include "ide/add_in_host.h"
 #include "platform/user_settings.h"
+#include "source/edit_group.h"
 #include "support/open_project.h"
 #include "toolkit/toolkit.h"
 
