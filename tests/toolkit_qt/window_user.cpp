@@ -1,4 +1,4 @@
-#include "workbench/renderer/window_user.h"
+#include "toolkit_qt/window_user.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "workbench/renderer/window_user.h"
+#include "toolkit_qt/window_user.h"
 
 namespace tamrikon::test {
 

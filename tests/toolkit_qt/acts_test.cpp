@@ -1,19 +1,19 @@
 // What a user does, and what a dialog is told of it: the same from a script and from a real window.
-// Each paragraph of tests/data/renderer/acts.txt holds acts, and below each what is told; those of
-// window_acts.txt are about keys that only a window knows.
+// Each paragraph of tests/data/toolkit_qt/acts.txt holds acts, and below each what is told; those
+// of window_acts.txt are about keys that only a window knows.
 #include <fstream>
 #include <iterator>
 #include <sstream>
 
 #include "base/text.h"
 #include "support/scripted_toolkit.h"
-#include "workbench/renderer/sample_dialog.h"
+#include "toolkit_qt/sample_dialog.h"
 
 namespace tamrikon {
 namespace {
 
 std::vector<std::string> paragraphs(const std::string& name) {
-  std::ifstream file(TAMRIKON_TEST_DATA "/renderer/" + name);
+  std::ifstream file(TAMRIKON_TEST_DATA "/toolkit_qt/" + name);
   const std::string text{std::istreambuf_iterator<char>(file), {}};
   std::vector<std::string> result;
   for (std::size_t start = 0; start < text.size();) {

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <map>
 
+#include "connect/connect_fixture.h"
 #include "connect/item_faces.h"
-#include "ide/connect_fixture.h"
 
 namespace tamrikon::test {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "support/temp_folder.h"
 #include "toolkit_qt/file_filter.h"
-#include "workbench/renderer/window_user.h"
+#include "toolkit_qt/window_user.h"
 
 namespace tamrikon {
 namespace {

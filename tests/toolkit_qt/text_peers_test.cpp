@@ -4,7 +4,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
-#include "workbench/renderer/sample_dialog.h"
+#include "toolkit_qt/sample_dialog.h"
 
 namespace tamrikon {
 namespace {

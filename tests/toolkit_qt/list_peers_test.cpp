@@ -3,7 +3,7 @@
 #include <QProgressBar>
 #include <QTreeWidget>
 
-#include "workbench/renderer/sample_dialog.h"
+#include "toolkit_qt/sample_dialog.h"
 
 namespace tamrikon {
 namespace {

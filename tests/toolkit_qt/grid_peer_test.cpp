@@ -1,6 +1,6 @@
 #include <QTableWidget>
 
-#include "workbench/renderer/sample_dialog.h"
+#include "toolkit_qt/sample_dialog.h"
 
 namespace tamrikon {
 namespace {

@@ -1,6 +1,6 @@
 // What the items of the add-in do, from the Options dialog to the pages of a group.
+#include "connect/connect_fixture.h"
 #include "editor/edit_comment.h"
-#include "ide/connect_fixture.h"
 
 namespace tamrikon::test {
 namespace {

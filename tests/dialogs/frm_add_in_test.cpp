@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "dialogs/indent_example.h"
-#include "settings/options/options_fixture.h"
+#include "dialogs/options_fixture.h"
 #include "support/fake_module.h"
 
 namespace tamrikon {

@@ -1,4 +1,4 @@
-#include "workbench/renderer/sample_dialog.h"
+#include "toolkit_qt/sample_dialog.h"
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -1,7 +1,7 @@
 #include <filesystem>
 
+#include "dialogs/options_fixture.h"
 #include "dialogs/text_input.h"
-#include "settings/options/options_fixture.h"
 #include "toolkit/frm_browse_dlg.h"
 
 namespace tamrikon {
