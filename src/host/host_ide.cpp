@@ -129,6 +129,8 @@ class HostIde::Opening {
 
   void openProjects() {
     const auto& projects = ide_.projects_.projects_;
+    // A source that several projects share is read in the page that is known best.
+    for (const std::size_t i : pages_.surestFirst()) projects[i]->decodeSources(pages_.of(i));
     for (std::size_t i = 0; i < projects.size(); ++i) projects[i]->open(pages_.of(i), warn_);
     const auto nameOf = [&](std::size_t i) { return projects[i]->Name(); };
     for (const std::string& note : pages_.notes(nameOf)) warn_(note);

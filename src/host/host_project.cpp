@@ -50,6 +50,12 @@ HostProject::HostProject(std::string fileName, std::string bytes, const ProjectC
   guess.addBytes(file_.undecoded());
 }
 
+void HostProject::decodeSources(const CodePage& page) {
+  for (const FoundComponent& found : found_->components) {
+    if (found.source != nullptr) found.source->decode(page);
+  }
+}
+
 void HostProject::open(const CodePage& page, const WarningSink& warn) {
   page_ = &page;
   file_.setCodePage(page);
@@ -67,7 +73,6 @@ void HostProject::open(const CodePage& page, const WarningSink& warn) {
       if (hasCode(line.type)) warn(cannotReadWarning(tried));
       if (file.path.empty()) file.path = tried;
     }
-    if (file.source != nullptr) file.source->decode(page);
     std::string name = file_.text(line.name);
     if (name.empty()) name = baseName(file.path);
     components_.add(

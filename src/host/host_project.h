@@ -55,7 +55,10 @@ class HostProject final : public VBProject {
   /// What its files tell of the code page. Only until it is opened.
   const CodePageGuess& guess() const { return found_->guess; }
 
-  /// Opens all components; to be called once, before what follows.
+  /// Reads the sources in `page` that no other project has read before. Only until it is opened.
+  void decodeSources(const CodePage& page);
+
+  /// Opens all components, whose sources have been decoded; to be called once, before what follows.
   void open(const CodePage& page, const WarningSink& warn);
 
   std::string Name() const override { return name_; }

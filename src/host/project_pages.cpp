@@ -1,6 +1,8 @@
 #include "host/project_pages.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace tamrikon {
 namespace {
@@ -24,31 +26,48 @@ void ProjectPages::add(const CodePage* chosen, const CodePageGuess& guess) {
   Found found;
   if (chosen != nullptr) {
     found.page = chosen->number();
+    found.source = Source::asked;
   } else {
     found.page = guess.named();
     found.needsPage = guess.needsPage();
-    if (found.page == 0 && found.needsPage) {
+    if (found.page != 0) {
+      found.source = Source::named;
+    } else if (found.needsPage) {
       found.page = guess.fromBytes();
-      found.isGuessed = found.page != 0;
+      if (found.page != 0) found.source = Source::bytes;
     }
   }
-  projects_.push_back(found);
+  if (found.page == 0) found.bytes = guess.bytes();
+  projects_.push_back(std::move(found));
 }
 
-int ProjectPages::common() const {
+int ProjectPages::ofOthers(const Found& project) const {
   std::map<int, std::size_t> counts;
-  for (const Found& project : projects_) {
-    if (project.page != 0) ++counts[project.page];
+  for (const Found& other : projects_) {
+    if (other.page != 0) ++counts[other.page];
   }
-  const auto most =
-      std::max_element(counts.begin(), counts.end(),
-                       [](const auto& a, const auto& b) { return a.second < b.second; });
-  return most == counts.end() ? kDefault : most->first;
+  int common = kDefault;
+  std::size_t most = 0;
+  for (const auto& [page, count] : counts) {
+    if (count < most || !project.bytes.canBe(page)) continue;
+    common = count == most ? kDefault : page;
+    most = count;
+  }
+  return common;
 }
 
 const CodePage& ProjectPages::of(std::size_t project) const {
-  const int own = projects_[project].page;
-  return *CodePage::find(own != 0 ? own : common());
+  const Found& found = projects_[project];
+  return *CodePage::find(found.page != 0 ? found.page : ofOthers(found));
+}
+
+std::vector<std::size_t> ProjectPages::surestFirst() const {
+  std::vector<std::size_t> order(projects_.size());
+  std::iota(order.begin(), order.end(), 0);
+  std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+    return projects_[a].source < projects_[b].source;
+  });
+  return order;
 }
 
 std::vector<std::string> ProjectPages::notes(
@@ -58,7 +77,7 @@ std::vector<std::string> ProjectPages::notes(
   for (std::size_t i = 0; i < projects_.size(); ++i) {
     const Found& project = projects_[i];
     if (!project.needsPage) continue;
-    if (project.isGuessed || (project.page == 0 && common() != kDefault)) {
+    if (project.source == Source::bytes || (project.page == 0 && of(i).number() != kDefault)) {
       guessed[of(i).number()].push_back(nameOf(i));
     } else if (project.page == 0) {
       unknown.push_back(nameOf(i));

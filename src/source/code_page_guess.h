@@ -53,6 +53,8 @@ class CodePageGuess {
   /// The number of the page that the bytes look like, or 0.
   int fromBytes() const { return sample_.page(); }
 
+  const ByteSample& bytes() const { return sample_; }
+
   /// Whether there are bytes above 0x7F that aren't UTF-8.
   bool needsPage() const { return !sample_.empty(); }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <set>
 #include <vector>
 
@@ -161,22 +162,25 @@ class PairReader {
   std::size_t inRun_ = 0;
 };
 
+bool isText(const PairCounts& counts) {
+  return counts.characters >= 2 && counts.invalid * 50 <= counts.characters &&
+         counts.everyday * 10 >= counts.characters * 9 &&
+         counts.inRuns * 3 >= counts.characters * 2;
+}
+
 /// How much of the text is of the language's frequent characters, from 0 to 1; 0 too if it fails
 /// another test.
 double likenessTo(const DoubleBytePage& page, std::string_view text) {
-  const PairCounts counts = PairReader(page, {}).read(text);
-  const bool isPossible = counts.characters >= 2 && counts.invalid * 50 <= counts.characters &&
-                          counts.everyday * 10 >= counts.characters * 9 &&
-                          counts.inRuns * 3 >= counts.characters * 2;
-  if (!isPossible) return 0;  // mostly so, and its table needn't be made
+  if (!isText(PairReader(page, {}).read(text))) return 0;  // mostly so: its table needn't be made
   std::set<unsigned> frequent;
   const std::string bytes = CodePage::find(page.number)->encode(page.frequent);
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
     frequent.insert(byteAt(bytes, i) * 256 + byteAt(bytes, i + 1));
   }
-  const PairCounts again = PairReader(page, frequent).read(text);
-  const double share = static_cast<double>(again.frequent) / static_cast<double>(again.characters);
-  const double needed = again.characters < 8 ? 0.5 : 0.25;
+  const PairCounts counts = PairReader(page, frequent).read(text);
+  const double share =
+      static_cast<double>(counts.frequent) / static_cast<double>(counts.characters);
+  const double needed = counts.characters < 8 ? 0.5 : 0.25;
   return share >= needed ? share : 0;
 }
 
@@ -230,6 +234,11 @@ Runs readRuns(std::string_view text) {
   return runs;
 }
 
+/// Whether half of the letters are in such words: accented letters stand alone.
+bool areMostWords(const Runs& runs) {
+  return runs.letters * 2 >= runs.all;
+}
+
 /// The mean binary logarithm of the frequencies of the letters, if the words were of that page.
 double likenessTo(const AlphabetPage& page, const std::vector<std::string_view>& words) {
   const std::size_t count = codePointCount(page.letters);
@@ -278,8 +287,7 @@ int doubleBytePage(std::string_view text) {
 
 int alphabetPage(std::string_view text) {
   const Runs runs = readRuns(text);
-  const bool isPossible =
-      runs.different.size() >= 4 && runs.letters >= 20 && runs.letters * 2 >= runs.all;
+  const bool isPossible = runs.different.size() >= 4 && runs.letters >= 20 && areMostWords(runs);
   if (!isPossible) return 0;
   const AlphabetPage* best = nullptr;
   double most = 0;
@@ -307,6 +315,19 @@ void ByteSample::add(std::string_view text) {
     lines_ += reader.line().substr(0, kEnough - lines_.size());
     lines_ += '\n';
   }
+}
+
+bool ByteSample::canBe(int page) const {
+  if (empty()) return true;
+  for (const DoubleBytePage& entry : kDoubleBytePages) {
+    if (entry.number == page) return isText(PairReader(entry, {}).read(lines_));
+  }
+  const bool isAlphabet =
+      std::any_of(std::begin(kAlphabetPages), std::end(kAlphabetPages),
+                  [&](const AlphabetPage& entry) { return entry.number == page; });
+  if (!isAlphabet) return true;
+  const Runs runs = readRuns(lines_);
+  return runs.letters > 0 && areMostWords(runs);
 }
 
 int ByteSample::page() const {

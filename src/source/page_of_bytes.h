@@ -31,6 +31,11 @@ class ByteSample {
   /// The number of the page that they look like, or 0.
   int page() const;
 
+  /// Whether they may be text of the page, for which something else speaks: in a double-byte page
+  /// they are such characters, and in a page of another alphabet half of the letters stand in
+  /// runs of three and more. Latin pages, and no bytes at all, pass in any case.
+  bool canBe(int page) const;
+
  private:
   std::string lines_;
 };
