@@ -64,6 +64,8 @@ void writeIdeDescription(PageContext& context, Wrapper& wrapper) {
   std::string text = context.macros.getMacroBody("MEMBER-DESCRIPTION");
   if (text.ends_with('\r')) text.pop_back();
   text = replaceAll(replaceAll(text, "\r", " "), "$EOL$", "\r\n");
+  // As the pages show it: a comment can double a "$", and skeletons of descriptions do.
+  if (context.macros.limitsComments()) text = replaceAll(text, "$$", "$");
   int helpContextID = 0;
   tryStep([&] { helpContextID = wrapper.ideHelpContextID(); });
   tryStep([&] { wrapper.setIdeDescription(text); });
