@@ -81,6 +81,9 @@ bool prepare(Session& session, HostIde& ide, VBProject& project, const CompileOp
     terminal.complain("tamrikon: " + fault);
     return false;
   }
+  // An empty one in the settings file would be the root of the disk.
+  std::string& output = session.settings.outputPath;
+  if (output.empty()) output = session.settingsFile.defaultOutputFolder(ide);
   if (options.addsModules) {
     session.settingsFile.addOtherModules(ide);
   } else if (!setsKey(options.settings, "comModules")) {

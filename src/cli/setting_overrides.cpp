@@ -96,6 +96,7 @@ std::string faultOfSetting(const std::string& argument) {
   if (argument.find('=') == std::string::npos) {
     return start + " is no setting: KEY=VALUE is needed";
   }
+  if (key == "templateFolder" && value.empty()) return start + ": a folder is needed";
   if (hasLineEnd(key) || (hasLineEnd(value) && key != "titlePageText")) {
     return start + ": only titlePageText can have several lines";
   }
@@ -121,6 +122,8 @@ std::string applySettings(Session& session, VBE& ide, const std::vector<std::str
     if (key == kModulesKey) {
       session.settings.comModules = {};
       for (const std::string_view name : split(value, ',')) file.apply(key, trim(name), modules);
+    } else if (key == "outputPath" && value.empty()) {
+      session.settings.outputPath = file.defaultOutputFolder(ide);
     } else if ((key == "outputPath" || key == "templateFolder") && !isAbsolutePath(value)) {
       file.apply(key, session.files.files().absolute(std::string(value)), modules);
     } else if (key == "templatePath") {
