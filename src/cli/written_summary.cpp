@@ -33,7 +33,7 @@ void WrittenSummary::addProject() {
 
 std::string WrittenSummary::helpFile() const {
   try {
-    return session_.currentStore->evaluateMacro("tamrik-help-file");
+    return session_.currentStore->helpFile();
   } catch (const std::exception&) {
     return {};  // whoever opens the file hears of it
   }

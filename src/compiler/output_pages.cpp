@@ -154,7 +154,7 @@ void OutputPages::closingSteps() {
   // A request to cancel that came behind the last topic is meant for this project.
   if (!store_.checkpoint()) return;
   if (session_.settings.comContextID) {
-    ide_.ActiveVBProject().setHelpFile(store_.evaluateMacro("tamrik-help-file"));
+    ide_.ActiveVBProject().setHelpFile(store_.helpFile());
   }
 }
 

@@ -93,7 +93,7 @@ void ProgressDlg::cancel() {
 bool ProgressDlg::showDocumentation() {
   std::string file;
   try {
-    if (session_.currentStore) file = session_.currentStore->evaluateMacro("tamrik-help-file");
+    if (session_.currentStore) file = session_.currentStore->helpFile();
   } catch (const BudgetUsedUp& usedUp) {
     toolkit().messageBox({"Error while showing documentation", std::string(usedUp.what()) + "."});
     return false;

@@ -25,6 +25,11 @@ int store::loadSrc(const std::string& file, bool silent) {
   return macros.loadSrc(file, silent, session_.files);
 }
 
+std::string store::helpFile() {
+  const std::string lines = macros.evaluateMacro("tamrik-help-file");
+  return lines.substr(0, lines.find_first_of("\r\n"));
+}
+
 PageContext store::pageContext() {
   PageContext context{macros, parser_, session_.settings, wrappers, lists, {}};
   for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {

@@ -35,6 +35,9 @@ class store {
 
   std::string evaluateMacro(std::string_view name) { return macros.evaluateMacro(name); }
 
+  /// What to open of the finished documentation: the first line of the template's help file.
+  std::string helpFile();
+
   MacroTable macros;
   WrapperCollections wrappers;
   WrapperComments comments;
