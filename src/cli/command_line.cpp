@@ -150,14 +150,20 @@ std::string faultOfNames(const CLI::App& app, const std::vector<std::string>& ar
     return faultOfWord("command", arguments.front(), names);
   }
   std::vector<std::string> names;
+  std::string letters;
   for (const CLI::App* each : {&app, command}) {
     if (each == nullptr) continue;
     for (const CLI::Option* option : each->get_options()) {
       for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
+      for (const std::string& name : option->get_snames()) letters += name;
     }
   }
   for (const std::string& argument : arguments) {
     if (argument == "--") break;
+    const bool hasLetter = argument.size() > 1 && argument[0] == '-' && argument[1] != '-';
+    if (hasLetter && letters.find(argument[1]) == std::string::npos) {
+      return "there is no option '" + argument.substr(0, 2) + "'";
+    }
     const std::string name = argument.substr(0, argument.find('='));
     if (!name.starts_with("--") || std::count(names.begin(), names.end(), name) != 0) continue;
     return faultOfWord("option", name, names);
