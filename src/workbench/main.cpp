@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <string_view>
 
 #include "platform/display.h"
 #include "toolkit_qt/qt_text.h"
@@ -19,10 +20,20 @@ bool canShowWindows(int argc, char** argv) {
   return tamrikon::hasDisplay() || std::any_of(argv, argv + argc, namesPlatform);
 }
 
+/// Whether the command line asks for the help or the version alone, which need no window.
+bool asksForText(int argc, char** argv) {
+  return std::any_of(argv + 1, argv + argc, [](const std::string_view argument) {
+    return argument == "-h" || argument == "--help" || argument == "--help-all" ||
+           argument == "-v" || argument == "--version";
+  });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (!canShowWindows(argc, argv)) {
+  if (asksForText(argc, argv)) {
+    qputenv("QT_QPA_PLATFORM", "minimal");
+  } else if (!canShowWindows(argc, argv)) {
     std::fputs(
         "tamrikon-workbench: there is no display to show windows on (neither DISPLAY nor "
         "WAYLAND_DISPLAY is set)\n",
