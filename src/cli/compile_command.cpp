@@ -60,7 +60,7 @@ void chooseFolders(Session& session, HostIde& ide, const CompileOptions& options
   session.groupFolders = foldersBelow(absoluteFolder(session, above), ide.VBProjects());
 }
 
-/// Tells of modules that are missed in the settings file, unless the file itself was told of.
+/// Warns of modules that the settings file doesn't list, if there is such a file.
 void tellUnlistedModules(Session& session, HostIde& ide, Terminal& terminal) {
   if (session.settingsFile.unlistedModules(ide).empty()) return;
   for (const std::string& note : session.settingsFile.notes(ide)) {

@@ -41,7 +41,7 @@ class Terminal final : public Toolkit {
   std::optional<std::string> chooseFileToSave(const FileChoice&) override { return std::nullopt; }
 
   /// The first Ctrl+C presses the cancel button of the dialog in front, if it can be pressed then.
-  /// `interrupted`, unless it is empty, hears of each, with how many there were for that dialog.
+  /// `interrupted`, if set, is called for each Ctrl+C with their number for that dialog, from 1.
   void checkpoint() override;
   std::function<void(int times)> interrupted;
 

@@ -126,7 +126,7 @@ int replaceFile(const std::string& path, std::string_view bytes) {
   std::string name;
   const int descriptor = createReplacement(path, name);
   if (descriptor < 0) return errno;
-  // Closing it tells of what went wrong late, but the lock has to last until the end.
+  // close() reports late write errors, but the lock has to last until the end.
   const int holder = ::fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
   int failure = fill(descriptor, path, bytes);
   if (failure == 0 && ::rename(name.c_str(), path.c_str()) != 0) failure = errno;

@@ -8,7 +8,7 @@
 namespace tamrikon {
 
 /// What a template's line COMMENT-MACROS lists. Texts of a project then bring no markup of their
-/// own: they call what is listed, and each other "$" of theirs is a "$".
+/// own: they call what is listed, and any other "$" in them is just a "$".
 class CommentMacros {
  public:
   /// `names` are divided by blanks; their case doesn't matter.

@@ -8,12 +8,11 @@
 
 namespace tamrikon {
 
-/// An item that names its topic itself. The template sees it as an item with a link and, unless
-/// the label is to be made, a label: the name of the wrapper, with its module where it must be
-/// told, and `word` behind it.
+/// An item that names its topic itself. The template sees it as an item with a link and, if it has
+/// a label, the name of the topic, with its module where the name alone is ambiguous, and `word`.
 struct TopicItem {
-  const void*
-      wrapper;  // as in LinkTarget; null: a thing without a topic, which nobody is warned of
+  /// As in LinkTarget; null for a thing without a topic, which causes no warning.
+  const void* wrapper;
   bool hasLabel = false;
   std::string_view word = {};  // lives as long as the program
 };

@@ -134,25 +134,24 @@ void UnsavedEdits::note(HostModule& module) {
 }
 
 void UnsavedEdits::writeAll() {
-  for (const HostModule* module : std::as_const(edited_)) write(*module);
+  for (HostModule* module : std::as_const(edited_)) write(*module);
   edited_.clear();
 }
 
-bool UnsavedEdits::write(const HostModule& module) {
+bool UnsavedEdits::write(HostModule& module) {
   const QString path = toQt(module.path());
-  auto* const key = const_cast<HostModule*>(&module);
   if (!module.isChanged()) {
-    saved_.remove(key);
+    saved_.remove(&module);
     if (!own_.isEmpty()) QFile::remove(own_ + '/' + nameFor(path));
     return true;
   }
-  if (!saved_.contains(key)) {
-    saved_[key] = keeper_.ide()->changedOnDisk(module) ? QByteArray() : contentOf(path);
+  if (!saved_.contains(&module)) {
+    saved_[&module] = keeper_.ide()->changedOnDisk(module) ? QByteArray() : contentOf(path);
   }
   if (!hasFolder()) return false;
   QSaveFile file(own_ + '/' + nameFor(path));
   if (!file.open(QIODevice::WriteOnly)) return false;
-  const QStringList text = QStringList{kHeader, path, saved_[key].toHex(), ""} + linesOf(module);
+  const QStringList text = QStringList{kHeader, path, saved_[&module].toHex(), ""} + linesOf(module);
   file.write(QByteArray::fromStdString(fromBlock(text.join('\n'))));
   return file.commit();
 }

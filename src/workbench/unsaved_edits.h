@@ -46,7 +46,7 @@ class UnsavedEdits final : public QObject {
   void letGo();
   void note(HostModule& module);
   void writeAll();
-  bool write(const HostModule& module);
+  bool write(HostModule& module);
   bool hasFolder();
   void offerFrom(const QString& folder);
 
