@@ -9,6 +9,7 @@
 #include "compiler/session.h"
 #include "compiler/store.h"
 #include "connect/connect.h"
+#include "dialogs/file_error_dialog.h"
 #include "ide/add_in_host.h"
 #include "platform/data_folder.h"
 #include "platform/user_settings.h"
@@ -34,15 +35,17 @@ struct Connect::Connection {
   Connection(ComPtr<IAddInApplication> theApplication, AddInHost& theHost)
       : application(std::move(theApplication)),
         host(theHost),
-        session(host.toolkit(), nativeFileSystem(), nativeProcessServices(),
+        fileErrors(host.toolkit()),
+        session(fileErrors, nativeFileSystem(), nativeProcessServices(),
                 dataFolderOf(std::string(folderOf(componentPath())))),
-        addIn(session, host, nativeUserSettings()) {
+        addIn(host.toolkit(), session, host, nativeUserSettings()) {
     addIn.code = std::make_shared<ServerLock>();
-    session.showsPrograms = true;
+    addIn.progressDlg.run.showsPrograms = true;
   }
 
   ComPtr<IAddInApplication> application;
   AddInHost& host;
+  FileErrorDialog fileErrors;
   Session session;
   connect addIn;
 };

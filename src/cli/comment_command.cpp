@@ -24,7 +24,7 @@ class CommentRun {
   int run() {
     ide_ = openProject(options_, terminal_, files());
     if (!ide_) return kFailed;
-    Session session(terminal_, files(), nativeProcessServices(), dataFolder());
+    Session session(terminal_.fileErrors, files(), nativeProcessServices(), dataFolder());
     for (VBProject* project : projectsOf(*ide_, options_.allProjects)) {
       activateProject(session, *ide_, *project, terminal_);
       modules_ = SettingsFile::codeModules(*ide_);

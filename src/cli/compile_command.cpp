@@ -11,8 +11,10 @@
 #include "cli/setting_overrides.h"
 #include "cli/terminal.h"
 #include "cli/written_summary.h"
+#include "compiler/compile.h"
 #include "compiler/group_compile.h"
 #include "compiler/store.h"
+#include "dialogs/show_documentation.h"
 #include "platform/data_folder.h"
 
 namespace tamrikon {
@@ -48,7 +50,7 @@ std::string absoluteFolder(Session& session, const std::string& folder) {
 }
 
 /// Without --output, the output folder of the start-up project is that of the group.
-void chooseFolders(Session& session, HostIde& ide, const CompileOptions& options) {
+GroupFolders chooseFolders(Session& session, HostIde& ide, const CompileOptions& options) {
   std::string above = options.outputFolder;
   if (above.empty()) {
     ide.activate(ide.startupProject());
@@ -57,7 +59,7 @@ void chooseFolders(Session& session, HostIde& ide, const CompileOptions& options
     applySettings(session, ide, options.settings);
     above = session.settings.outputPath;
   }
-  session.groupFolders = foldersBelow(absoluteFolder(session, above), ide.VBProjects());
+  return foldersBelow(absoluteFolder(session, above), ide.VBProjects());
 }
 
 /// Warns of modules that the settings file doesn't list, if there is such a file.
@@ -71,100 +73,104 @@ void tellUnlistedModules(Session& session, HostIde& ide, Terminal& terminal) {
       "--leave-out-modules that they are left out on purpose");
 }
 
+/// The compile of the projects that the command line names.
+class ProjectCompiles {
+ public:
+  /// All of them must outlive this object.
+  ProjectCompiles(Session& session, HostIde& ide, const CompileOptions& options, Terminal& terminal,
+                  CompileRun& run)
+      : session_(session), ide_(ide), options_(options), terminal_(terminal), run_(run) {}
+
+  /// Whether all projects were compiled.
+  bool compileAll();
+
+  /// What it has written, as one line; empty if no compile has finished.
+  std::string summary() const { return summary_.sentence(); }
+
+ private:
+  bool prepare(VBProject& project);
+  bool compile(const VBProject& project);
+  bool compileProjectsOfGroup();
+
+  Session& session_;
+  HostIde& ide_;
+  const CompileOptions& options_;
+  Terminal& terminal_;
+  CompileRun& run_;
+  WrittenSummary summary_{session_, run_};
+};
+
 /// Makes a project the active one, with its settings as the command line changes them. False if
 /// there is no template or no place for its pages.
-bool prepare(Session& session, HostIde& ide, VBProject& project, const CompileOptions& options,
-             Terminal& terminal) {
-  activateProject(session, ide, project, terminal);
-  const std::string fault = applySettings(session, ide, options.settings);
+bool ProjectCompiles::prepare(VBProject& project) {
+  activateProject(session_, ide_, project, terminal_);
+  const std::string fault = applySettings(session_, ide_, options_.settings);
   if (!fault.empty()) {
-    terminal.complain("tamrikon: " + fault);
+    terminal_.complain("tamrikon: " + fault);
     return false;
   }
   // An empty one in the settings file would be the root of the disk.
-  std::string& output = session.settings.outputPath;
-  if (output.empty()) output = session.settingsFile.defaultOutputFolder(ide);
-  if (options.addsModules) {
-    session.settingsFile.addOtherModules(ide);
-  } else if (!setsKey(options.settings, "comModules")) {
-    tellUnlistedModules(session, ide, terminal);
+  std::string& output = session_.settings.outputPath;
+  if (output.empty()) output = session_.settingsFile.defaultOutputFolder(ide_);
+  if (options_.addsModules) {
+    session_.settingsFile.addOtherModules(ide_);
+  } else if (!setsKey(options_.settings, "comModules")) {
+    tellUnlistedModules(session_, ide_, terminal_);
   }
-  const std::string& file = options.templateFile;
-  if (!file.empty() && !chooseTemplate(session, file, terminal)) return false;
-  const GroupFolders& folders = session.groupFolders;
+  const std::string& file = options_.templateFile;
+  if (!file.empty() && !chooseTemplate(session_, file, terminal_)) return false;
+  const GroupFolders& folders = run_.groupFolders;
   if (!folders.above.empty()) {
-    const std::string folder = folders.of(ide.VBProjects(), project);
-    return chooseOutput(session, joinPath(folders.above, folder), terminal);
+    const std::string folder = folders.of(ide_.VBProjects(), project);
+    return chooseOutput(session_, joinPath(folders.above, folder), terminal_);
   }
-  if (!options.outputFolder.empty()) {
-    return chooseOutput(session, absoluteFolder(session, options.outputFolder), terminal);
+  if (!options_.outputFolder.empty()) {
+    return chooseOutput(session_, absoluteFolder(session_, options_.outputFolder), terminal_);
   }
-  session.settingsFile.createOutputFolder();
+  session_.settingsFile.createOutputFolder();
   return true;
 }
 
-/// Whether the last compile, that of `project`, worked.
-bool reportOutcome(Session& session, const VBProject& project, Terminal& terminal) {
-  const std::string name = project.Name();
-  switch (session.progressDlg.outcome()) {
-    case CompileOutcome::finished: return true;
+/// Compiles the active project and reports a failure. Whether it worked.
+bool ProjectCompiles::compile(const VBProject& project) {
+  session_.currentStore.reset();
+  CompileResult result = compileProject(session_, ide_, run_, terminal_);
+  session_.currentStore = std::move(result.compiled);
+  switch (result.outcome) {
+    case CompileOutcome::finished: summary_.addProject(); return true;
     case CompileOutcome::aborted:
-      terminal.complain("tamrikon: the compile of " + name + " was stopped");
+      terminal_.complain("tamrikon: the compile of " + project.Name() + " was stopped");
       return false;
     case CompileOutcome::failed: break;
   }
-  terminal.complain("tamrikon: the compile of " + name + " failed");
+  terminal_.complain("tamrikon: the compile of " + project.Name() + " failed");
   return false;
 }
 
-/// Ctrl+C while a template's programs run lets them end; a second one ends them, and `ends` the
-/// whole run.
-void handleInterrupts(Session& session, Terminal& terminal, bool& ends) {
-  terminal.interrupted = [&](int times) {
-    if (!session.programsRun) return;
-    ends = times > 1;
-    session.endsPrograms = ends;
-    if (ends) return;
-    terminal.complain(
-        "tamrikon: waiting for the template's programs to end; Ctrl+C ends them and tamrikon");
-  };
+bool ProjectCompiles::compileAll() {
+  std::vector<const VBProject*> projects;
+  for (int number = 1; number <= ide_.VBProjects().Count(); ++number) {
+    projects.push_back(&ide_.VBProjects().Item(number));
+  }
+  for (const std::string& warning : warningsOfMissingModules(options_.settings, projects)) {
+    terminal_.complain(warning);
+  }
+  if (ide_.isGroup()) return compileProjectsOfGroup();
+  VBProject& project = ide_.ActiveVBProject();
+  return prepare(project) && compile(project);
 }
 
-/// Whether all projects were compiled; `summary` has those that were.
-bool compileAll(Session& session, HostIde& ide, const CompileOptions& options, Terminal& terminal,
-                WrittenSummary& summary) {
-  std::vector<const VBProject*> projects;
-  for (int number = 1; number <= ide.VBProjects().Count(); ++number) {
-    projects.push_back(&ide.VBProjects().Item(number));
-  }
-  for (const std::string& warning : warningsOfMissingModules(options.settings, projects)) {
-    terminal.complain(warning);
-  }
-  bool ends = false;
-  handleInterrupts(session, terminal, ends);
-  if (!ide.isGroup()) {
-    VBProject& project = ide.ActiveVBProject();
-    if (!prepare(session, ide, project, options, terminal)) return false;
-    session.progressDlg.VBInstance = &ide;
-    session.progressDlg.showModal();
-    if (!reportOutcome(session, project, terminal)) return false;
-    summary.addProject();
-    return true;
-  }
-  if (options.hasFolders) chooseFolders(session, ide, options);
+bool ProjectCompiles::compileProjectsOfGroup() {
+  if (options_.hasFolders) run_.groupFolders = chooseFolders(session_, ide_, options_);
   bool worked = true;
   GroupSteps steps;
   steps.activate = [&](VBProject& project) {
-    const bool ready = !ends && prepare(session, ide, project, options, terminal);
-    worked = ready && worked;
-    return ready;
+    const bool isReady = !terminal_.hasEndedPrograms() && prepare(project);
+    worked = isReady && worked;
+    return isReady;
   };
-  steps.compiled = [&](VBProject& project) {
-    const bool finished = reportOutcome(session, project, terminal);
-    if (finished) summary.addProject();
-    worked = finished && worked;
-  };
-  compileGroup(session, ide, steps);
+  steps.compile = [&](VBProject& project, bool) { worked = compile(project) && worked; };
+  compileGroup(ide_, run_, steps);
   return worked;
 }
 
@@ -228,25 +234,22 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
   times.enter(CompilePhase::other);
   if (!ide) return kFailed;
   if (options.saves) ide->writeHeldHelpIds();
-  Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
-  session.runsPrograms = options.runsPrograms;
-  session.showsCommands = options.verbose;
-  session.log.onMessage = [&](const std::string& text, const std::string& wording) {
-    terminal.showMessage(text, wording);
-  };
-  session.warn = [&](const std::string& line) { terminal.complain(line); };
-  if (options.printsTimes) session.times = &times;
-  WrittenSummary summary(session);
-  bool worked = compileAll(session, *ide, options, terminal, summary);
+  Session session(terminal.fileErrors, nativeFileSystem(), nativeProcessServices(), dataFolder());
+  CompileRun run;
+  run.runsPrograms = options.runsPrograms;
+  run.showsCommands = options.verbose;
+  if (options.printsTimes) run.times = &times;
+  ProjectCompiles compiles(session, *ide, options, terminal, run);
+  bool worked = compiles.compileAll();
   // A compile that was stopped has changed only some of the attributes.
   if (options.saves && worked) worked = saveAll(*ide, terminal);
   if (log.is_open() && !log.flush()) {
     terminal.complain("tamrikon: cannot write the log " + options.logFile);
     worked = false;
   }
-  const std::string written = summary.sentence();
+  const std::string written = compiles.summary();
   if (!options.quiet && !written.empty()) terminal.print(written);
-  if (options.opens && worked) worked = session.progressDlg.showDocumentation();
+  if (options.opens && worked) worked = showDocumentation(session.currentStore.get(), terminal);
   if (options.printsTimes) {
     times.enter(CompilePhase::other);
     printTimes(times, streams.err);

@@ -62,7 +62,7 @@ int settingsCommand(SettingsOptions options, const Streams& streams) {
   if (kept != 0 && options.codePage == 0) options.codePage = kept;
   const std::unique_ptr<HostIde> ide = openProject(options, terminal);
   if (!ide) return kFailed;
-  Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
+  Session session(terminal.fileErrors, nativeFileSystem(), nativeProcessServices(), dataFolder());
   bool worked = true;
   for (VBProject* project : projectsOf(*ide, options.allProjects)) {
     if (kept != 0) worked = keepPage(*project, kept, terminal) && worked;

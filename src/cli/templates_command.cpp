@@ -12,7 +12,7 @@ namespace tamrikon {
 int templatesCommand(int codePage, const Streams& streams) {
   constexpr std::size_t kNameWidth = 16;
   Terminal terminal(streams, true);  // faults of a template show when it is compiled with
-  Session session(terminal, nativeFileSystem(), nativeProcessServices(), dataFolder());
+  Session session(terminal.fileErrors, nativeFileSystem(), nativeProcessServices(), dataFolder());
   if (codePage != 0) session.files.setCodePage(*CodePage::find(codePage));
   session.settings.outputPath = session.addInFolder;  // as for a project without a file
   const std::string folder = joinPath(session.addInFolder, "Templates");

@@ -6,11 +6,8 @@
 #include "base/text.h"
 #include "base/utf8.h"
 #include "cli/questions.h"
+#include "compiler/compile_run.h"
 #include "platform/open_document.h"
-#include "toolkit/buttons.h"
-#include "toolkit/dialog.h"
-#include "toolkit/text_controls.h"
-#include "toolkit/value_controls.h"
 
 namespace tamrikon {
 namespace {
@@ -39,15 +36,6 @@ std::string withLineFeeds(const std::string& text) {
   return lines;
 }
 
-/// The button of the dialog that has `role` and can be pressed, or null.
-CommandButton* buttonOf(const Dialog& dialog, ButtonRole role) {
-  for (Control* control : dialog.controls()) {
-    auto* button = dynamic_cast<CommandButton*>(control);
-    if (button != nullptr && button->role() == role && button->isEnabled()) return button;
-  }
-  return nullptr;
-}
-
 /// The first `width` characters.
 std::string_view shortened(std::string_view text, std::size_t width) {
   std::size_t offset = 0;
@@ -57,74 +45,36 @@ std::string_view shortened(std::string_view text, std::size_t width) {
 
 }  // namespace
 
-class Terminal::StatusPeer final : public ControlPeer {
- public:
-  StatusPeer(Terminal& terminal, const StatusBar& bar) : terminal_(terminal), bar_(bar) {}
-  void changed() override {
-    terminal_.status_ = bar_.panel(1);
-    if (terminal_.status_.empty()) return terminal_.clearStatus();
-    terminal_.showStatus();
-  }
-
- private:
-  Terminal& terminal_;
-  const StatusBar& bar_;
-};
-
-/// Changes what the next status line says; the status itself follows at once.
-class Terminal::ProgressPeer final : public ControlPeer {
- public:
-  ProgressPeer(Terminal& terminal, const ProgressIndicator& indicator)
-      : terminal_(terminal), indicator_(indicator) {}
-  void changed() override {
-    terminal_.done_ = indicator_.done();
-    terminal_.all_ = indicator_.all();
-  }
-
- private:
-  Terminal& terminal_;
-  const ProgressIndicator& indicator_;
-};
-
 Terminal::Terminal(const Streams& streams, bool quiet) : streams_(streams), quiet_(quiet) {}
 
 Terminal::~Terminal() {
   clearStatus();
 }
 
-void Terminal::runModal(Dialog& dialog) {
-  std::vector<std::pair<Control*, std::unique_ptr<ControlPeer>>> peers;
-  for (Control* control : dialog.controls()) {
-    std::unique_ptr<ControlPeer> peer;
-    if (const auto* bar = dynamic_cast<StatusBar*>(control); bar != nullptr) {
-      peer = std::make_unique<StatusPeer>(*this, *bar);
-    } else if (const auto* shown = dynamic_cast<ProgressIndicator*>(control); shown != nullptr) {
-      peer = std::make_unique<ProgressPeer>(*this, *shown);
-    } else {
-      continue;
-    }
-    control->attach(peer.get());
-    peers.emplace_back(control, std::move(peer));
-  }
-  Dialog* const owner = std::exchange(dialog_, &dialog);
+void Terminal::compileBegins() {
+  compiles_ = true;
   interrupts_ = 0;
-  done_ = all_ = 0;
-  dialog.onActivate();
-  if (CommandButton* button = buttonOf(dialog, ButtonRole::default_);
-      dialog.isShown() && button != nullptr) {
-    button->userClicked();
-  }
-  dialog.close();
-  dialog_ = owner;
-  for (const auto& [control, peer] : peers) control->attach(nullptr);
+  setProgress(0, 0);
+  setStatusLine("Analysing the project...");
 }
 
-void Terminal::checkpoint() {
-  if (!streams_.isInterrupted() || dialog_ == nullptr) return;
-  CommandButton* button = buttonOf(*dialog_, ButtonRole::cancel);
-  if (button == nullptr) return;
-  if (++interrupts_ == 1) button->userClicked();
-  if (interrupted) interrupted(interrupts_);
+void Terminal::compileEnded(CompileOutcome outcome) {
+  compiles_ = false;
+  clearStatus();
+  if (outcome == CompileOutcome::failed && streams_.errIsTerminal)
+    streams_.err << '\a' << std::flush;
+}
+
+void Terminal::checkpoint(CompileRun& run) {
+  if (!streams_.isInterrupted()) return;
+  ++interrupts_;
+  run.cancelRequested = true;
+  if (!run.programsRun) return;
+  if (interrupts_ > 1) {
+    run.endsPrograms = hasEndedPrograms_ = true;
+  } else {
+    complain("tamrikon: waiting for the template's programs to end; Ctrl+C ends them and tamrikon");
+  }
 }
 
 bool Terminal::openDocument(const std::string& path, const MessageBox& failure) {
@@ -133,12 +83,8 @@ bool Terminal::openDocument(const std::string& path, const MessageBox& failure) 
   return false;
 }
 
-void Terminal::beep() {
-  if (streams_.errIsTerminal) streams_.err << '\a' << std::flush;
-}
-
-void Terminal::showMessage(const std::string& text, const std::string& wording) {
-  if (dialog_ == nullptr) return;
+void Terminal::addMessage(const std::string& text, const std::string& wording) {
+  if (!compiles_) return;
   if (log_ != nullptr) *log_ << withLineFeeds(text) << '\n';
   if (wording.empty() && !text.empty()) return;
   const std::string lines = withLineFeeds(wording);
@@ -180,18 +126,27 @@ MessageAnswer Terminal::ask(const MessageBox& box) {
   return answerOfNobody(box.buttons);
 }
 
-void Terminal::showStatus() {
+void Terminal::setStatusLine(const std::string& text) {
+  text.empty() ? clearStatus() : showStatus(text);
+}
+
+void Terminal::setProgress(std::size_t done, std::size_t all) {
+  done_ = done;
+  all_ = all;
+}
+
+void Terminal::showStatus(const std::string& text) {
   if (!streams_.errIsTerminal) return;
   // A line for each of thousands of pages would cost more than the pages.
   constexpr auto kPause = std::chrono::milliseconds(40);
   constexpr std::size_t kWidth = 79;
   const auto now = std::chrono::steady_clock::now();
   // What ends so is a step of its own, which may take its time.
-  if (statusIsShown_ && !status_.ends_with("...") && now - lastShown_ < kPause) return;
+  if (statusIsShown_ && !text.ends_with("...") && now - lastShown_ < kPause) return;
   lastShown_ = now;
   std::string line;
   if (all_ != 0) line = "[" + std::to_string(done_) + "/" + std::to_string(all_) + "] ";
-  line += status_;
+  line += text;
   streams_.err << "\r\x1b[K" << shortened(line, kWidth) << std::flush;
   statusIsShown_ = true;
 }

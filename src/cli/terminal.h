@@ -1,20 +1,19 @@
-// Shows dialogs on a terminal or in a pipe, as far as that goes: a status bar and a progress
-// indicator become a status line, a message box becomes a question. All else that a dialog holds
-// stays unseen. Messages of a compile are printed as they come.
+// Talks to somebody at a terminal, or to nobody, in a pipe: messages are printed as they come, a
+// message box becomes a question, and what a compile is doing becomes a status line.
 #pragma once
 
 #include <chrono>
-#include <functional>
-#include <memory>
 #include <ostream>
 #include <string>
 
 #include "cli/command_line.h"
-#include "toolkit/toolkit.h"
+#include "compiler/compile_listener.h"
+#include "dialogs/file_error_dialog.h"
+#include "toolkit/prompter.h"
 
 namespace tamrikon {
 
-class Terminal final : public Toolkit {
+class Terminal final : public Prompter, public CompileListener {
  public:
   /// The streams must outlive this object. With `quiet`, only warnings and errors of the log are
   /// printed.
@@ -23,37 +22,17 @@ class Terminal final : public Toolkit {
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
 
+  /// Asks here what to do about a file error.
+  FileErrorDialog fileErrors{*this};
+
   /// Adds a stream, which must outlive this object, that gets all messages of the log.
   void setLog(std::ostream& log) { log_ = &log; }
 
-  /// Whether a warning or an error was told, in the log or beside it.
+  /// Whether there was a warning or an error, in the log or beside it.
   bool hadWarnings() const { return hadWarnings_; }
 
-  /// Activates the dialog and, when that is done, presses its default button if it is enabled:
-  /// there is nobody who would.
-  void runModal(Dialog& dialog) override;
-
-  /// Without somebody to ask, Cancel is taken, or No where there is no Cancel.
-  MessageAnswer messageBox(const MessageBox& box) override;
-
-  /// Nothing is chosen.
-  std::optional<std::string> chooseFileToOpen(const FileChoice&) override { return std::nullopt; }
-  std::optional<std::string> chooseFileToSave(const FileChoice&) override { return std::nullopt; }
-
-  /// The first Ctrl+C presses the cancel button of the dialog in front, if it can be pressed then.
-  /// `interrupted`, if set, is called for each Ctrl+C with their number for that dialog, from 1.
-  void checkpoint() override;
-  std::function<void(int times)> interrupted;
-
-  /// There is none: what is put there is gone.
-  std::string clipboardText() override { return {}; }
-  void setClipboardText(const std::string&) override {}
-
-  bool openDocument(const std::string& path, const MessageBox& failure) override;
-  void beep() override;
-
-  /// A message of the dialog in front, if there is one: the log gets `text`, the output `wording`.
-  void showMessage(const std::string& text, const std::string& wording);
+  /// Whether Ctrl+C has ended a template's programs: then the whole run is to end.
+  bool hasEndedPrograms() const { return hasEndedPrograms_; }
 
   /// A line on the output.
   void print(const std::string& text);
@@ -61,21 +40,37 @@ class Terminal final : public Toolkit {
   /// A line on the error stream.
   void complain(const std::string& text);
 
- private:
-  class StatusPeer;
-  class ProgressPeer;
+  /// Without somebody to ask, Cancel is taken, or No where there is no Cancel.
+  MessageAnswer messageBox(const MessageBox& box) override;
+  bool openDocument(const std::string& path, const MessageBox& failure) override;
 
+  void compileBegins() override;
+  void compileEnded(CompileOutcome outcome) override;
+
+  /// While a compile runs, the log gets `text` and the output `wording`.
+  void addMessage(const std::string& text, const std::string& wording) override;
+  void warn(const std::string& line) override { complain(line); }
+  void setStatusLine(const std::string& text) override;
+
+  /// The next status line shows it.
+  void setProgress(std::size_t done, std::size_t all) override;
+
+  /// Ctrl+C stops the compile. While a template's programs run, the first one waits for them and
+  /// the second one ends them.
+  void checkpoint(CompileRun& run) override;
+
+ private:
   MessageAnswer ask(const MessageBox& box);
-  void showStatus();
+  void showStatus(const std::string& text);
   void clearStatus();
 
   Streams streams_;
   bool quiet_;
   std::ostream* log_ = nullptr;
   bool hadWarnings_ = false;
-  Dialog* dialog_ = nullptr;  // in front
-  int interrupts_ = 0;        // of it
-  std::string status_;
+  bool compiles_ = false;
+  int interrupts_ = 0;  // of the compile of this project
+  bool hasEndedPrograms_ = false;
   bool statusIsShown_ = false;
   std::size_t done_ = 0;
   std::size_t all_ = 0;

@@ -24,7 +24,7 @@ void addOnce(std::vector<std::string>& all, const std::string& text) {
 }  // namespace
 
 void WrittenSummary::addProject() {
-  const std::string& above = session_.groupFolders.above;
+  const std::string& above = run_.groupFolders.above;
   const std::string& folder = above.empty() ? session_.settings.outputPath : above;
   addOnce(folders_, std::string(withoutTrailingSeparator(folder)));
   const std::string file = helpFile();
@@ -45,7 +45,7 @@ std::string WrittenSummary::shown(const std::string& path) const {
 
 std::string WrittenSummary::sentence() const {
   if (folders_.empty()) return {};
-  const WrittenFiles& files = session_.writtenFiles;
+  const WrittenFiles& files = run_.writtenFiles;
   std::string text = "Wrote " + grouped(files.count()) + (files.count() == 1 ? " page" : " pages");
   if (files.changedIsKnown()) text += " (" + grouped(files.changed()) + " changed)";
   text += " to ";

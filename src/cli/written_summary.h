@@ -4,14 +4,15 @@
 #include <string>
 #include <vector>
 
+#include "compiler/compile_run.h"
 #include "compiler/session.h"
 
 namespace tamrikon {
 
 class WrittenSummary {
  public:
-  /// `session` must outlive this object.
-  explicit WrittenSummary(Session& session) : session_(session) {}
+  /// Both must outlive this object.
+  WrittenSummary(Session& session, const CompileRun& run) : session_(session), run_(run) {}
 
   /// Takes in the project whose compile has just finished.
   void addProject();
@@ -25,6 +26,7 @@ class WrittenSummary {
   std::string shown(const std::string& path) const;
 
   Session& session_;
+  const CompileRun& run_;
   std::vector<std::string> folders_;
   std::vector<std::string> helpFiles_;  // those that are there
 };

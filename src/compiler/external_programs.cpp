@@ -16,19 +16,21 @@ constexpr int kEventPause = 50;  // milliseconds
 /// Closes the handle, also where an event throws.
 class RunningProgram {
  public:
-  RunningProgram(Session& session, ProcessHandle& handle) : session_(session), handle_(handle) {
-    session_.programsRun = true;
-    session_.endsPrograms = false;
+  RunningProgram(CompileRun& run, ProcessServices& processes, ProcessHandle& handle)
+      : run_(run), processes_(processes), handle_(handle) {
+    run_.programsRun = true;
+    run_.endsPrograms = false;
   }
   ~RunningProgram() {
-    session_.programsRun = false;
-    session_.processes.CloseHandle(handle_);
+    run_.programsRun = false;
+    processes_.CloseHandle(handle_);
   }
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;
 
  private:
-  Session& session_;
+  CompileRun& run_;
+  ProcessServices& processes_;
   ProcessHandle& handle_;
 };
 
@@ -39,13 +41,13 @@ std::string withoutLastLineEnd(const std::string& text) {
 }  // namespace
 
 void ExternalPrograms::runExternalPrograms(const std::string& text) {
-  const std::string base = joinPath(session_.settings.outputPath, "execAfter.");
+  const std::string base = joinPath(context_.session.settings.outputPath, "execAfter.");
   const std::string script = base + std::string(CommandScript::extension());
   const std::string log = base + "log";
   if (runScript(text, script, log)) {
     removeFiles(script, log);
   } else {
-    session_.log.logMessage("ERROR: Cannot create and execute batch file.");
+    log_.logMessage("ERROR: Cannot create and execute batch file.");
   }
 }
 
@@ -53,29 +55,29 @@ bool ExternalPrograms::runScript(const std::string& text, const std::string& scr
                                  const std::string& log) {
   const int codePage = threadCodePage();
   std::string batch = CommandScript::header(
-      codePage, std::string(withoutTrailingSeparator(session_.settings.templateFolder)));
+      codePage, std::string(withoutTrailingSeparator(context_.session.settings.templateFolder)));
   std::vector<std::string> commands;
   for (const std::string_view line : split(text, '\r')) {
     const std::string_view command = trim(line);
     if (command.empty()) continue;
-    batch += CommandScript::linesFor(command, log, session_.showsPrograms);
+    batch += CommandScript::linesFor(command, log, context_.run.showsPrograms);
     commands.emplace_back(command);
   }
-  if (session_.showsPrograms) command_.emplace(session_.files.files(), log, commands);
-  TextFiles files(session_.files.files(), session_.fileErrors);
+  if (context_.run.showsPrograms) command_.emplace(context_.files.files(), log, commands);
+  TextFiles files(context_.files.files(), context_.errorReporter());
   const CodePage* page = CodePage::find(CommandScript::codePage(codePage));
-  files.setCodePage(page != nullptr ? *page : session_.files.codePage());
+  files.setCodePage(page != nullptr ? *page : context_.files.codePage());
   if (files.writeTextFile(script, batch, false) != 0) return false;
-  const std::string interpreter = CommandScript::interpreter(session_.processes);
+  const std::string interpreter = CommandScript::interpreter(processes_);
   runProcessAndWait(interpreter, CommandScript::commandLine(interpreter, script));
   std::string output;
   // A process that didn't start shows here: there is no log then.
   if (files.readTextFile(log, true, output) != 0) return false;
   const ProgramOutput shown = readProgramOutput(output, commands, CommandScript::mark());
-  if (session_.showsCommands) {
-    session_.log.logMessage(shown.log);
+  if (context_.run.showsCommands) {
+    log_.logMessage(shown.log);
   } else {
-    session_.log.logMessageAs(shown.log, withoutLastLineEnd(shown.printed));
+    log_.logMessageAs(shown.log, withoutLastLineEnd(shown.printed));
   }
   return true;
 }
@@ -85,13 +87,13 @@ void ExternalPrograms::removeFiles(const std::string& script, const std::string&
   constexpr int kPause = 100;  // milliseconds
   int repeats = 0;
   for (const std::string& path : {script, log}) {
-    while (session_.files.files().remove(path) != FileError::none) {
+    while (context_.files.files().remove(path) != FileError::none) {
       if (repeats++ == kRepeats) {
-        session_.log.logMessage("WARNING: Cannot delete temporary batch (" + script + ") or log (" +
-                                log + ") files.");
+        log_.logMessage("WARNING: Cannot delete temporary batch (" + script + ") or log (" + log +
+                        ") files.");
         return;
       }
-      session_.processes.Sleep(kPause);
+      processes_.Sleep(kPause);
     }
   }
 }
@@ -100,36 +102,36 @@ bool ExternalPrograms::runProcessAndWait(const std::string& application,
                                          const std::vector<std::string>& commandLine) {
   ProcessHandle handle;
   int error = 0;
-  if (!session_.processes.CreateProcess(application, commandLine, handle, error) &&
-      !session_.processes.CreateProcess("", commandLine, handle, error)) {
-    session_.log.logMessage("ERROR: Cannot execute " + join(commandLine, " ") + ".");
-    session_.log.logMessage("CreateProcess failed. Error: " + std::to_string(error));
+  if (!processes_.CreateProcess(application, commandLine, handle, error) &&
+      !processes_.CreateProcess("", commandLine, handle, error)) {
+    log_.logMessage("ERROR: Cannot execute " + join(commandLine, " ") + ".");
+    log_.logMessage("CreateProcess failed. Error: " + std::to_string(error));
     return false;
   }
-  const RunningProgram running(session_, handle);
-  while (!session_.processes.WaitForSingleObject(handle, kEventPause)) {
+  const RunningProgram running(context_.run, processes_, handle);
+  while (!processes_.WaitForSingleObject(handle, kEventPause)) {
     showStatus();
-    session_.toolkit.checkpoint();
-    if (std::exchange(session_.endsPrograms, false)) session_.processes.TerminateProcess(handle);
+    context_.listener.checkpoint(context_.run);
+    if (std::exchange(context_.run.endsPrograms, false)) processes_.TerminateProcess(handle);
   }
   return true;
 }
 
 void ExternalPrograms::showStatus() {
   if (!command_) return;
-  const char* const doing = session_.cancelRequested
+  const char* const doing = context_.run.cancelRequested
                                 ? "Waiting for the end (Cancel again asks whether to end it) of: "
                                 : "Running: ";
-  session_.progressDlg.setStatusLine(doing + command_->now());
+  context_.listener.setStatusLine(doing + command_->now());
 }
 
 int ExternalPrograms::threadCodePage() {
-  return localeCodePage(session_.processes.GetThreadLocale());
+  return localeCodePage(processes_.GetThreadLocale());
 }
 
 int ExternalPrograms::localeCodePage(int locale) {
   constexpr int kDefaultAnsiCodePage = 4100;
-  const std::string buffer = session_.processes.GetLocaleInfoA(locale, kDefaultAnsiCodePage);
+  const std::string buffer = processes_.GetLocaleInfoA(locale, kDefaultAnsiCodePage);
   const std::string_view digits = cutAtNul(buffer);
   int number = 0;
   std::from_chars(digits.data(), digits.data() + digits.size(), number);

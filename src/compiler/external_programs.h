@@ -7,22 +7,23 @@
 #include <string_view>
 #include <vector>
 
+#include "compiler/compile_context.h"
 #include "compiler/running_command.h"
-#include "compiler/session.h"
 
 namespace tamrikon {
 
 class ExternalPrograms {
  public:
-  /// `session` must outlive this object.
-  explicit ExternalPrograms(Session& session) : session_(session) {}
+  /// `context` must outlive this object.
+  explicit ExternalPrograms(CompileContext& context)
+      : context_(context), processes_(context.session.processes), log_(context.compiled.log) {}
 
   /// `text` holds a command on each line, lines being divided by CR. Waits until all have run; all
   /// reporting goes to the log.
   void runExternalPrograms(const std::string& text);
 
   /// Whether the process started; it has ended then. Events get through meanwhile: a request to
-  /// cancel leaves the process alone, Session::endsPrograms ends it.
+  /// cancel leaves the process alone, CompileRun::endsPrograms ends it.
   bool runProcessAndWait(const std::string& application,
                          const std::vector<std::string>& commandLine);
 
@@ -41,7 +42,9 @@ class ExternalPrograms {
 
   void showStatus();
 
-  Session& session_;
+  CompileContext& context_;
+  ProcessServices& processes_;
+  ProgressLog& log_;
   std::optional<RunningCommand> command_;  // where it is shown
 };
 

@@ -2,22 +2,17 @@
 
 namespace tamrikon {
 
-void compileGroup(Session& session, VBE& ide, const GroupSteps& steps) {
-  session.compileWholeGroup = true;
-  session.groupLogText.clear();
-  session.writtenFiles.beginRun();
-  session.progressDlg.VBInstance = &ide;
+void compileGroup(VBE& ide, CompileRun& run, const GroupSteps& steps) {
+  run.compileWholeGroup = true;
+  run.writtenFiles.beginRun();
   const VBProjects& projects = ide.VBProjects();
   int count = 0;
   for (int number = 1; number <= projects.Count(); ++number) {
     VBProject& project = projects.Item(number);
     if (project.VBComponents().Count() == 0) continue;
-    session.lastGroupProject = ++count == projects.Count();
-    if (!steps.activate(project)) continue;
-    session.progressDlg.showModal();
-    steps.compiled(project);
+    ++count;
+    if (steps.activate(project)) steps.compile(project, count == projects.Count());
   }
-  session.groupLogText.clear();
 }
 
 }  // namespace tamrikon

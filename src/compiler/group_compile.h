@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "compiler/session.h"
+#include "compiler/compile_run.h"
 #include "ide/ide.h"
 
 namespace tamrikon {
@@ -13,12 +13,11 @@ struct GroupSteps {
   /// project out.
   std::function<bool(VBProject&)> activate;
 
-  /// The project has been compiled; the progress dialog tells how.
-  std::function<void(VBProject&)> compiled;
+  /// Compiles it. `isLast` says that it is the last one of the group.
+  std::function<void(VBProject&, bool isLast)> compile;
 };
 
-/// Shows the progress dialog once for each project that has components. The log runs on over all of
-/// them.
-void compileGroup(Session& session, VBE& ide, const GroupSteps& steps);
+/// Compiles each project that has components.
+void compileGroup(VBE& ide, CompileRun& run, const GroupSteps& steps);
 
 }  // namespace tamrikon

@@ -21,49 +21,50 @@ constexpr std::size_t kEnoughToAppend = std::size_t{1} << 16;
 
 }  // namespace
 
-OutputPages::OutputPages(Session& session, store& store, VBE& ide)
-    : session_(session),
-      store_(store),
-      ide_(ide),
-      context_(store.pageContext()),
-      projectName_(ide.ActiveVBProject().Name()),
-      maxWritten_(kFreeSize + kMaxGrowth * store.sourceSize()) {
-  session.writtenFiles.beginProject(projectName_, ide.ActiveVBProject().FileName(),
-                                    session.files.files().absolute(session.settings.outputPath));
+OutputPages::OutputPages(CompileContext& context)
+    : compile_(context),
+      settings_(context.session.settings),
+      run_(context.run),
+      store_(context.compiled),
+      context_(store_.pageContext()),
+      projectName_(context.ide.ActiveVBProject().Name()),
+      maxWritten_(kFreeSize + kMaxGrowth * store_.sourceSize()) {
+  run_.writtenFiles.beginProject(projectName_, context.ide.ActiveVBProject().FileName(),
+                                 context.files.files().absolute(settings_.outputPath));
 }
 
 void OutputPages::put(Write write, std::string_view name, std::string_view extension,
                       std::string_view text) {
   const std::string file = std::string(name).append(extension);
-  if (!writePage(write, session_.settings.outputPath + file, text)) return;
+  if (!writePage(write, settings_.outputPath + file, text)) return;
   if (write == Write::append) {
-    session_.writtenFiles.append();
+    run_.writtenFiles.append();
   } else {
-    session_.writtenFiles.add(file, session_.files.changedFile());
+    run_.writtenFiles.add(file, compile_.files.changedFile());
   }
 }
 
 /// Each project of a group writes its pages anew: they take the place of no others.
 void OutputPages::putGroupPage(Write write, std::string_view extension, std::string_view section) {
-  const std::string& above = session_.groupFolders.above;
-  const std::string& folder = above.empty() ? session_.settings.outputPath : above;
+  const std::string& above = run_.groupFolders.above;
+  const std::string& folder = above.empty() ? settings_.outputPath : above;
   const std::string path = joinPath(withoutTrailingSeparator(folder), "Group+").append(extension);
   if (!writePage(write, path, store_.evaluateMacro(section))) return;
   if (write == Write::append) {
-    session_.writtenFiles.append();
+    run_.writtenFiles.append();
   } else {
-    session_.writtenFiles.addGroupPage(path, session_.files.changedFile());
+    run_.writtenFiles.addGroupPage(path, compile_.files.changedFile());
   }
 }
 
 /// Whether the page was written. A failure has been reported by the writer; an answer that gives up
 /// shows at the next checkpoint.
 bool OutputPages::writePage(Write write, const std::string& path, std::string_view text) {
-  const PhaseScope phase(session_.times, CompilePhase::writing);
+  const PhaseScope phase(run_.times, CompilePhase::writing);
   written_ += text.size();
   if (written_ > maxWritten_) throw std::length_error("The pages take up too much space.");
-  if (write == Write::append) return session_.files.appendTextFile(path, text, false) == 0;
-  return session_.files.writeTextFile(path, text, false) == 0;
+  if (write == Write::append) return compile_.files.appendTextFile(path, text, false) == 0;
+  return compile_.files.writeTextFile(path, text, false) == 0;
 }
 
 void OutputPages::putPage(std::string_view progress, std::string_view extensionMacro,
@@ -79,13 +80,13 @@ void OutputPages::setProjectName() {
 }
 
 bool OutputPages::groupPages() {
-  if (!session_.compileWholeGroup) return true;
+  if (!run_.compileWholeGroup) return true;
   show("group's project file...");
   putGroupPage(Write::replace, store_.evaluateMacro("PROJECT-EXT"), "tamrik-group-project-body");
-  if (!store_.checkpoint()) return false;
+  if (!compile_.checkpoint()) return false;
   show("group's contents...");
   putGroupPage(Write::replace, store_.evaluateMacro("CONTENTS-EXT"), "tamrik-group-contents-body");
-  return store_.checkpoint();
+  return compile_.checkpoint();
 }
 
 void OutputPages::compileFiles() {
@@ -94,24 +95,24 @@ void OutputPages::compileFiles() {
 
 /// Nothing holds the folder any more when the closing steps begin.
 bool OutputPages::putFiles() {
-  const auto folder = session_.files.files().keepOpen(session_.settings.outputPath);
+  const auto folder = compile_.files.files().keepOpen(settings_.outputPath);
   if (!groupPages()) return false;
   putPage("project file...", "PROJECT-EXT", "tamrik-project-body", projectName_);
-  if (!store_.checkpoint()) return false;
+  if (!compile_.checkpoint()) return false;
   putPage("contents...", "CONTENTS-EXT", "tamrik-contents-body", projectName_);
-  if (!store_.checkpoint()) return false;
+  if (!compile_.checkpoint()) return false;
   putPage("index...", "INDEX-EXT", "tamrik-index-body", projectName_);
-  if (!store_.checkpoint()) return false;
+  if (!compile_.checkpoint()) return false;
   putPage("title page...", "MEMBER-EXT", "tamrik-title-body", projectName_ + "+title");
-  if (!store_.checkpoint()) return false;
+  if (!compile_.checkpoint()) return false;
   return putTopics();
 }
 
 bool OutputPages::wantsTopic(const Wrapper& wrapper) const {
   if (wrapper.kind() != WrapperKind::module) return true;
   const ComponentType type = wrapper.source().type();
-  if (isStandardModule(type)) return session_.settings.comStdModule;
-  return isForm(type) ? session_.settings.comForm : session_.settings.comObject;
+  if (isStandardModule(type)) return settings_.comStdModule;
+  return isForm(type) ? settings_.comForm : settings_.comObject;
 }
 
 /// Tells whose topic has no end.
@@ -127,18 +128,18 @@ std::string OutputPages::topicOf(Wrapper& wrapper) {
 bool OutputPages::putTopics() {
   const std::string extension = store_.evaluateMacro("MEMBER-EXT");
   for (const WrapperRef& wrapper : store_.compiledList) {
-    if (!store_.checkpoint()) return false;
+    if (!compile_.checkpoint()) return false;
     store_.links.compiledWrapper = wrapper.get();
     const std::string& module = wrapper->source().name();
     const bool isModule = wrapper->kind() == WrapperKind::module;
-    session_.log.ShowProgress(module, isModule ? std::string() : wrapper->name());
+    store_.log.ShowProgress(module, isModule ? std::string() : wrapper->name());
     if (wantsTopic(*wrapper)) {
       const std::string name = isModule ? module : module + "-" + wrapper->name();
       std::string page = topicOf(*wrapper);
       put(Write::replace, name, extension, page);
       store_.macros.reuse(std::move(page));
     }
-    session_.progressDlg.setProgress(++topicsDone_, store_.compiledList.size());
+    compile_.listener.setProgress(++topicsDone_, store_.compiledList.size());
   }
   return true;
 }
@@ -147,26 +148,26 @@ void OutputPages::closingSteps() {
   show("external programs...");
   // Expanded in any case: what the section does to counters and the log mustn't depend on a switch.
   const std::string commands = store_.evaluateMacro("tamrik-exec-after");
-  if (session_.runsPrograms) {
-    const PhaseScope phase(session_.times, CompilePhase::programs);
-    ExternalPrograms(session_).runExternalPrograms(commands);
+  if (run_.runsPrograms) {
+    const PhaseScope phase(run_.times, CompilePhase::programs);
+    ExternalPrograms(compile_).runExternalPrograms(commands);
   }
   // A request to cancel that came behind the last topic is meant for this project.
-  if (!store_.checkpoint()) return;
-  if (session_.settings.comContextID) {
-    ide_.ActiveVBProject().setHelpFile(store_.helpFile());
+  if (!compile_.checkpoint()) return;
+  if (settings_.comContextID) {
+    compile_.ide.ActiveVBProject().setHelpFile(store_.helpFile());
   }
 }
 
 bool OutputPages::appendGroupPages(std::string& extension) {
-  if (!session_.compileWholeGroup) return true;
+  if (!run_.compileWholeGroup) return true;
   show("group's project file...");
   extension = store_.evaluateMacro("PROJECT-EXT");
   putGroupPage(Write::replace, extension, "tamrik-group-project-body");
-  if (!store_.checkpoint()) return false;
+  if (!compile_.checkpoint()) return false;
   show("group's contents...");
   putGroupPage(Write::append, extension, "tamrik-group-contents-body");
-  return store_.checkpoint();
+  return compile_.checkpoint();
 }
 
 void OutputPages::compileSingleFile() {
@@ -175,19 +176,19 @@ void OutputPages::compileSingleFile() {
   show("project file...");
   setProjectName();
   put(Write::replace, projectName_, extension, store_.evaluateMacro("tamrik-project-body"));
-  if (!store_.checkpoint()) return;
+  if (!compile_.checkpoint()) return;
   show("title page...");
   put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-title-body"));
-  if (!store_.checkpoint()) return;
+  if (!compile_.checkpoint()) return;
   show("contents...");
   makeContents(store_.compiledList, store_.macros);
   put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-contents-body"));
-  if (!store_.checkpoint()) return;
+  if (!compile_.checkpoint()) return;
   if (!appendTopics(extension)) return;
   show("index...");
   store_.macros.setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(store_.compiledList));
   put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-index-body"));
-  if (!store_.checkpoint()) return;
+  if (!compile_.checkpoint()) return;
   closingSteps();
 }
 
@@ -198,7 +199,7 @@ bool OutputPages::appendTopics(const std::string& extension) {
   };
   try {
     for (const std::vector<WrapperRef>& stretch : topicOrder(store_.compiledList)) {
-      if (!store_.checkpoint()) {
+      if (!compile_.checkpoint()) {
         putFinished();
         return false;
       }
@@ -218,13 +219,13 @@ bool OutputPages::appendTopics(const std::string& extension) {
 void OutputPages::addTopic(Wrapper& wrapper, std::string& text) {
   store_.links.compiledWrapper = &wrapper;
   const bool isModule = wrapper.kind() == WrapperKind::module;
-  session_.log.ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
+  store_.log.ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
   if (wantsTopic(wrapper)) {
     std::string topic = topicOf(wrapper);
     text += topic;
     store_.macros.reuse(std::move(topic));
   }
-  session_.progressDlg.setProgress(++topicsDone_, store_.compiledList.size());
+  compile_.listener.setProgress(++topicsDone_, store_.compiledList.size());
 }
 
 }  // namespace tamrikon

@@ -5,9 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "compiler/session.h"
-#include "compiler/store.h"
-#include "ide/ide.h"
+#include "compiler/compile_context.h"
 
 namespace tamrikon {
 
@@ -15,8 +13,8 @@ namespace tamrikon {
 /// thrown.
 class OutputPages {
  public:
-  /// All of them must outlive this object. The project is the active one.
-  OutputPages(Session& session, store& store, VBE& ide);
+  /// `context` must outlive this object. The project is the active one.
+  explicit OutputPages(CompileContext& context);
 
   /// A file for each page and each topic.
   void compileFiles();
@@ -27,7 +25,7 @@ class OutputPages {
  private:
   enum class Write { replace, append };
 
-  void show(std::string_view name) { session_.log.ShowProgress(name, ""); }
+  void show(std::string_view name) { store_.log.ShowProgress(name, ""); }
   /// In the folder of the project's pages.
   void put(Write write, std::string_view name, std::string_view extension, std::string_view text);
   void putGroupPage(Write write, std::string_view extension, std::string_view section);
@@ -47,9 +45,10 @@ class OutputPages {
   bool appendTopics(const std::string& extension);
   void addTopic(Wrapper& wrapper, std::string& text);
 
-  Session& session_;
+  CompileContext& compile_;
+  ProjectSettings& settings_;
+  CompileRun& run_;
   store& store_;
-  VBE& ide_;
   PageContext context_;
   const std::string projectName_;
   const std::size_t maxWritten_;

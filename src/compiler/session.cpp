@@ -6,15 +6,12 @@
 
 namespace tamrikon {
 
-Session::Session(Toolkit& dialogToolkit, FileSystem& fileSystem, ProcessServices& processServices,
-                 std::string dataFolder)
-    : toolkit(dialogToolkit),
+Session::Session(FileErrorReporter& errorReporter, FileSystem& fileSystem,
+                 ProcessServices& processServices, std::string dataFolder)
+    : fileErrors(errorReporter),
       processes(processServices),
       addInFolder(std::move(dataFolder)),
-      progressDlg(*this),
-      log(progressDlg),
-      fileErrors(dialogToolkit, cancelRequested),
-      files(fileSystem, fileErrors),
+      files(fileSystem, errorReporter),
       settingsFile(settings, addInFolder, files) {}
 
 Session::~Session() = default;

@@ -1,15 +1,15 @@
-// The central class of a compile: the macro table of a template, the wrappers of a project and
-// what turns them into pages. Each of its groups of operations is a class of the folder that it
-// belongs to; this one makes them work on one state and runs the compile.
+// The state of a compile: the macro table of a template, the wrappers of a project and what turns
+// them into pages. Each of its groups of operations is a class of the folder that it belongs to;
+// this one makes them work on one state.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "comments/comment_parser.h"
-#include "compiler/session.h"
-#include "ide/ide.h"
+#include "compiler/progress_log.h"
 #include "model/link_lists.h"
 #include "model/links.h"
 #include "model/module_source.h"
@@ -22,22 +22,23 @@ namespace tamrikon {
 
 class store {
  public:
-  /// `session` must outlive this object; the IDE's objects, as long as it holds their wrappers.
-  explicit store(Session& session);
+  /// Both must outlive this object; the IDE's objects, as long as it holds their wrappers.
+  store(const ProjectSettings& settings, CompileListener& listener);
 
   /// Loads a template: 0 for success, 2 if the user gave up at the file error dialog, 3 for any
   /// other failure. Throws as MacroTable::loadSrc() does.
-  int loadSrc(const std::string& file, bool silent);
+  int loadSrc(const std::string& file, bool silent, TextFiles& files);
 
-  /// Turns the active project of the IDE into documentation. A request to cancel ends it at the
-  /// next checkpoint; the store is empty then.
-  void compile(VBE& VBInstance);
+  /// Finds the documented members of the active project, whose topics serve them, and the lists of
+  /// the whole project. Where `shouldContinue` says no, it ends with false and an empty store.
+  bool analyse(const std::function<bool()>& shouldContinue);
 
   std::string evaluateMacro(std::string_view name) { return macros.evaluateMacro(name); }
 
   /// What to open of the finished documentation: the first line of the template's help file.
   std::string helpFile();
 
+  ProgressLog log;
   MacroTable macros;
   WrapperCollections wrappers;
   WrapperComments comments;
@@ -53,17 +54,13 @@ class store {
   /// What the making of a page needs.
   PageContext pageContext();
 
-  /// Gives way to pending events. False, with everything dropped, if the compile is to end.
-  bool checkpoint();
+  /// Drops the wrappers and all macros.
+  void clearCollections();
 
  private:
-  void clearCollections();
-  bool analyseAndList();
-  bool analyse();
-  void publishPaths();
-  void publishGroup(VBE& ide);
+  bool findMembers(const std::function<bool()>& shouldContinue);
 
-  Session& session_;
+  const ProjectSettings& settings_;
   SourceCache sources_;
   CommentParser parser_;
 };

@@ -17,12 +17,13 @@ constexpr std::size_t kMaxText = std::size_t{1} << 20;
 }  // namespace
 
 std::string readTemplateDescription(Session& session, const std::string& path) {
-  session.currentStore = std::make_unique<store>(session);
-  store& described = *session.currentStore;
+  session.currentStore.reset();
+  CompileListener nobody;
+  store described(session.settings, nobody);
   described.macros.setBudget(ExpansionBudget(kMaxCalls, kMaxText));
   std::string text;
   try {
-    if (described.loadSrc(path, true) != 0) {
+    if (described.loadSrc(path, true, session.files) != 0) {
       return "Cannot read descriptionfrom " + path + "file.";
     }
     const std::string folder(withoutTrailingSeparator(session.settings.outputPath));

@@ -31,12 +31,16 @@ struct connect::WindowHook {
   std::shared_ptr<void> code;
 };
 
-connect::connect(Session& session, AddInHost& host, UserSettings& userSettings)
-    : session_(session), host_(host), userSettings_(userSettings) {
+connect::connect(Toolkit& toolkit, Session& session, AddInHost& host, UserSettings& userSettings)
+    : progressDlg(toolkit, session),
+      toolkit_(toolkit),
+      session_(session),
+      host_(host),
+      userSettings_(userSettings) {
   session_.codePageOf = [&host](const VBProject& project) -> const CodePage& {
     return host.codePageOf(project);
   };
-  session_.warn = [&host](const std::string& line) { host.warn(line); };
+  progressDlg.onWarning = [&host](const std::string& line) { host.warn(line); };
 }
 
 connect::~connect() {
@@ -66,7 +70,7 @@ void connect::AddinInstance_OnConnection(VBE& application, ConnectMode mode) {
     if (mode != ConnectMode::afterStartup) return;
     if (userSettings_.get(kSettingsSection, kDisplayOnConnect, "0") == "1") Show();
   } catch (const std::exception& failure) {
-    session_.toolkit.messageBox(
+    toolkit_.messageBox(
         {"Tamrikon", failureText.empty() ? failure.what() : std::move(failureText)});
   }
 }
@@ -81,10 +85,10 @@ void connect::AddinInstance_OnDisconnection(RemoveMode) {
   VBInstance = nullptr;
   if (options_) options_->close();
   options_.reset();
-  if (session_.progressDlg.isShown()) {
+  if (progressDlg.isShown()) {
     // The compile, which ends at its next checkpoint, works on the project still.
-    session_.cancelRequested = true;
-    session_.progressDlg.close();
+    progressDlg.run.cancelRequested = true;
+    progressDlg.close();
   } else {
     forgetProject();
   }
@@ -180,7 +184,7 @@ void connect::CodeMenuHandlerEditor_Click() {
   const std::shared_ptr<void> held = owner.lock();
   keepUpSettings();
   attempt([this] {
-    openCommentEditor(session_, *VBInstance,
+    openCommentEditor(toolkit_, session_, *VBInstance,
                       [this](CodeModule& module, const std::function<void()>& edit) {
                         host_.asOneEdit(module, edit);
                       });
@@ -189,7 +193,7 @@ void connect::CodeMenuHandlerEditor_Click() {
 
 void connect::CodeMenuHandlerCopy_Click() {
   if (VBInstance == nullptr) return;
-  attempt([this] { copySelectionAsCode(*VBInstance, session_.toolkit); });
+  attempt([this] { copySelectionAsCode(*VBInstance, toolkit_); });
 }
 
 void connect::ProjectHandler_ItemAdded(VBProject&) {

@@ -11,6 +11,7 @@
 #include "compiler/session.h"
 #include "dialogs/frm_add_in.h"
 #include "dialogs/options_owner.h"
+#include "dialogs/progress_dlg.h"
 #include "ide/add_in_host.h"
 #include "ide/ide.h"
 #include "platform/user_settings.h"
@@ -23,11 +24,14 @@ enum class RemoveMode { hostShutdown = 0, userClosed = 1 };
 class connect final : public OptionsOwner {
  public:
   /// All of them must outlive this object.
-  connect(Session& session, AddInHost& host, UserSettings& userSettings);
+  connect(Toolkit& toolkit, Session& session, AddInHost& host, UserSettings& userSettings);
   ~connect() override;
 
   VBE* VBInstance = nullptr;   // null while disconnected
   bool FormDisplayed = false;  // the Options dialog is up
+
+  /// There is one, shown again and again.
+  ProgressDlg progressDlg;
 
   // The clicks on the five items, and the projects that come and go.
   std::unique_ptr<CommandBarEvents> MenuHandler;
@@ -113,6 +117,7 @@ class connect final : public OptionsOwner {
 
   void compileProjects();
 
+  Toolkit& toolkit_;
   Session& session_;
   AddInHost& host_;
   UserSettings& userSettings_;

@@ -28,9 +28,9 @@ CodeModule* firstModule(const VBProject& project) {
 
 void connect::Show() {
   const std::shared_ptr<void> held = owner.lock();
-  if (FormDisplayed || session_.progressDlg.isShown()) return;
+  if (FormDisplayed || progressDlg.isShown()) return;
   keepUpSettings();
-  if (!options_) options_ = std::make_shared<frmAddIn>(session_);
+  if (!options_) options_ = std::make_shared<frmAddIn>(toolkit_, session_);
   const std::shared_ptr<frmAddIn> options = options_;  // which a disconnection lets go
   options->VBInstance = VBInstance;
   options->connect = this;
@@ -40,10 +40,9 @@ void connect::Show() {
   attempt([&] { options->showModal(); });
   FormDisplayed = false;
   if (!startCompile || VBInstance == nullptr) return;
-  session_.groupLogText.clear();
-  attempt([this] {
-    session_.compileWholeGroup ? compileProjects() : session_.progressDlg.showModal();
-  });
+  progressDlg.VBInstance = VBInstance;
+  progressDlg.run.compileWholeGroup = compileWholeGroup;
+  attempt([this] { compileWholeGroup ? compileProjects() : progressDlg.showModal(); });
   if (VBInstance == nullptr) forgetProject();
 }
 
@@ -69,15 +68,18 @@ void connect::compileProjects() {
              keepUpSettings();
            });
   };
-  steps.compiled = [&](VBProject&) {
+  steps.compile = [&](VBProject&, bool isLast) {
+    progressDlg.lastGroupProject = isLast;
+    progressDlg.showModal();
     if (!before) return;  // rather one window too many than one that the user misses
     attempt([&] {
       Window& window = pane->Window();
       if (std::find(before->begin(), before->end(), &window) == before->end()) window.Close();
     });
   };
-  attempt([&] { compileGroup(session_, ide, steps); });
-  session_.groupLogText.clear();
+  progressDlg.groupLogText.clear();
+  attempt([&] { compileGroup(ide, progressDlg.run, steps); });
+  progressDlg.groupLogText.clear();
   if (active != nullptr) attempt([&] { active->SetFocus(); });
 }
 

@@ -6,6 +6,7 @@
 
 #include "dialogs/text_input.h"
 #include "settings/user_tag_import.h"
+#include "toolkit/toolkit.h"
 
 namespace tamrikon {
 
@@ -40,15 +41,15 @@ void CommentPage::takeUserTags(ProjectSettings& settings) const {
 }
 
 void CommentPage::editDefault(std::size_t tag) {
-  TextInput input(session_.toolkit);
+  TextInput input(dialog_.toolkit());
   input.text = copy_.userDefault[tag];
   input.showModal();
   copy_.userDefault[tag] = input.text;
 }
 
 void CommentPage::import() {
-  const auto path =
-      session_.toolkit.chooseFileToOpen({"Import", "Tamrikon project (*.tamrik)|*.tamrik", "", ""});
+  const auto path = dialog_.toolkit().chooseFileToOpen(
+      {"Import", "Tamrikon project (*.tamrik)|*.tamrik", "", ""});
   if (!path) return;
   ProjectSettings tags;  // of which the user tags alone count
   takeUserTags(tags);

@@ -17,11 +17,11 @@ bool isLetterOrDigit(char c) {
 
 }  // namespace
 
-frmAddIn::frmAddIn(Session& session)
-    : Dialog(session.toolkit, "frmAddIn", "Options"),
+frmAddIn::frmAddIn(Toolkit& toolkit, Session& session)
+    : Dialog(toolkit, "frmAddIn", "Options"),
       commentPage(*this, session, copy_),
       outputPage(*this, session, copy_),
-      miscPage(*this, session.toolkit),
+      miscPage(*this, toolkit),
       session_(session) {
   cmdOK.setRole(ButtonRole::default_);
   cmdCancel.setRole(ButtonRole::cancel);
@@ -45,7 +45,7 @@ void frmAddIn::addHandlers() {
     if (!folder.empty()) outputPage.setTemplateFolder(folder);
     outputPage.readTemplateFolder();
   };
-  Command4.onClick = [this] { openManual(session_.toolkit, session_.addInFolder); };
+  Command4.onClick = [this] { openManual(toolkit(), session_.addInFolder); };
   Command1.onClick = [this] { requestCompile(false); };
   Command14.onClick = [this] { requestCompile(true); };
   cmdApply.onClick = [this] { apply(); };
@@ -148,8 +148,7 @@ void frmAddIn::createOutputFolder() {
 
 void frmAddIn::requestCompile(bool wholeGroup) {
   apply();
-  session_.compileWholeGroup = wholeGroup;
-  session_.progressDlg.VBInstance = VBInstance;
+  connect->compileWholeGroup = wholeGroup;
   connect->startCompile = true;
   connect->Hide();
 }
@@ -157,7 +156,7 @@ void frmAddIn::requestCompile(bool wholeGroup) {
 void frmAddIn::onKeyDown(KeyEvent& key) {
   if (key.key != Key::f1) return;
   key.handled = true;
-  openManual(session_.toolkit, session_.addInFolder);
+  openManual(toolkit(), session_.addInFolder);
 }
 
 bool frmAddIn::onQueryClose() {

@@ -21,8 +21,8 @@ namespace tamrikon {
 /// buttons alone; those also write the settings file. One dialog can be shown again and again.
 class frmAddIn final : public Dialog {
  public:
-  /// `session` must outlive the dialog.
-  explicit frmAddIn(Session& session);
+  /// Both must outlive the dialog.
+  frmAddIn(Toolkit& toolkit, Session& session);
 
   // Both are set before fillValues().
   VBE* VBInstance = nullptr;

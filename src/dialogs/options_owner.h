@@ -12,6 +12,9 @@ class OptionsOwner {
 
   /// Set by the dialog before it hides: a compile is to start when the dialog has gone.
   bool startCompile = false;
+
+  /// With it: of all projects of the group.
+  bool compileWholeGroup = false;
 };
 
 }  // namespace tamrikon

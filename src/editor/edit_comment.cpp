@@ -8,6 +8,7 @@
 #include "editor/edit_comment_options.h"
 #include "editor/lost_lines_dlg.h"
 #include "editor/selection.h"
+#include "toolkit/toolkit.h"
 
 namespace tamrikon {
 namespace {
@@ -18,8 +19,8 @@ bool hasParameters(WrapperKind kind) {
 
 }  // namespace
 
-EditComment::EditComment(Session& session)
-    : Dialog(session.toolkit, "EditComment", "Tamrikon Comment Editor"),
+EditComment::EditComment(Toolkit& toolkit, Session& session)
+    : Dialog(toolkit, "EditComment", "Tamrikon Comment Editor"),
       parametersPage(*this, fields_, boxes_, session.settings),
       referencesPage(*this, fields_, boxes_, session),
       session_(session) {
@@ -52,7 +53,7 @@ void EditComment::load() {
   auto edited =
       std::make_unique<EditedComment>(module, pane->GetSelection().startLine, session_.settings);
   // The macros of the last compile don't outlive it.
-  session_.currentStore = std::make_unique<store>(session_);
+  session_.currentStore.reset();
   const Wrapper& member = edited->member();
   setCaption(member.name() + " - Tamrikon Comment Editor");
   parametersPage.enable(hasParameters(member.kind()));

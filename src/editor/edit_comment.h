@@ -26,7 +26,7 @@ class EditComment final : public Dialog {
 
  public:
   /// `session` must outlive the dialog.
-  explicit EditComment(Session& session);
+  explicit EditComment(Toolkit& toolkit, Session& session);
 
   // Both are set before the dialog is shown.
   VBE* VBInstance = nullptr;

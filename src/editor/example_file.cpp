@@ -22,12 +22,12 @@ std::string exampleLink(std::string_view path, const ProjectSettings& settings) 
   return std::string("\"").append(isInOutput ? lastName(path) : path);
 }
 
-void openExample(std::string_view link, Session& session) {
+void openExample(std::string_view link, Toolkit& toolkit, Session& session) {
   if (link.size() < 2) return;
   std::string path(link.substr(1));
   if (lastName(path) == path) path = joinPath(session.settings.outputPath, path);
-  session.toolkit.openDocument(
-      path, {"Error while opening example.", "Cannot show the \"" + path + "\" file"});
+  toolkit.openDocument(path,
+                       {"Error while opening example.", "Cannot show the \"" + path + "\" file"});
 }
 
 }  // namespace tamrikon

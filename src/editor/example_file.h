@@ -19,6 +19,6 @@ FileChoice exampleFileChoice(std::string title, const Wrapper& member, std::stri
 std::string exampleLink(std::string_view path, const ProjectSettings& settings);
 
 /// Opens the file that a link names; a name alone is one in the output folder. A failure is shown.
-void openExample(std::string_view link, Session& session);
+void openExample(std::string_view link, Toolkit& toolkit, Session& session);
 
 }  // namespace tamrikon

@@ -5,20 +5,21 @@
 
 namespace tamrikon {
 
-void openCommentEditor(Session& session, VBE& VBInstance, const EditGrouping& group) {
+void openCommentEditor(Toolkit& toolkit, Session& session, VBE& VBInstance,
+                       const EditGrouping& group) {
   bool hasSelection = false;
   tryStep([&] {
     CodePane* pane = VBInstance.ActiveCodePane();
     hasSelection = pane != nullptr && !isEmpty(pane->GetSelection());
   });
   if (hasSelection) {
-    session.toolkit.messageBox({"Comment editor",
-                                "Cannot run comment editor when source code selection is made. "
-                                "Please cancel your text selection.",
-                                MessageButtons::ok, MessageIcon::exclamation});
+    toolkit.messageBox({"Comment editor",
+                        "Cannot run comment editor when source code selection is made. "
+                        "Please cancel your text selection.",
+                        MessageButtons::ok, MessageIcon::exclamation});
     return;
   }
-  EditComment editor(session);
+  EditComment editor(toolkit, session);
   editor.VBInstance = &VBInstance;
   editor.group = group;
   editor.showModal();

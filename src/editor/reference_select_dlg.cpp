@@ -12,9 +12,9 @@
 
 namespace tamrikon {
 
-ReferenceSelectDlg::ReferenceSelectDlg(Session& session, const Wrapper& member,
+ReferenceSelectDlg::ReferenceSelectDlg(Toolkit& toolkit, Session& session, const Wrapper& member,
                                        std::string presentLink)
-    : Dialog(session.toolkit, "ReferenceSelectDlg", "Select reference"),
+    : Dialog(toolkit, "ReferenceSelectDlg", "Select reference"),
       link(std::move(presentLink)),
       session_(session),
       member_(member) {

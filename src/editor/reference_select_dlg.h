@@ -17,7 +17,8 @@ namespace tamrikon {
 class ReferenceSelectDlg final : public Dialog {
  public:
   /// Links count from `member`. Both must outlive the dialog.
-  ReferenceSelectDlg(Session& session, const Wrapper& member, std::string presentLink);
+  ReferenceSelectDlg(Toolkit& toolkit, Session& session, const Wrapper& member,
+                     std::string presentLink);
 
   void initBoth();    // beginning with members
   void initFile();    // files alone

@@ -23,7 +23,7 @@ ReferencesPage::ReferencesPage(Dialog& dialog, CommentFields& fields, FieldBoxes
   seeAlso.select.onClick = [this] { selectSeeAlso(); };
   findInterestBtn.onClick = [this] { findInterest(); };
   examples.select.onClick = [this] { selectExample(); };
-  Command2.onClick = [this] { openExample(examples.link.text(), session_); };
+  Command2.onClick = [this] { openExample(examples.link.text(), dialog_.toolkit(), session_); };
   Command3.onClick = [this] { createExample(); };
   SelectSameBtn.onClick = [this] { selectSame(); };
 }
@@ -39,7 +39,7 @@ void ReferencesPage::fillBoxes() {
 }
 
 void ReferencesPage::selectSeeAlso() {
-  ReferenceSelectDlg picker(session_, edited->member(), seeAlso.link.text());
+  ReferenceSelectDlg picker(dialog_.toolkit(), session_, edited->member(), seeAlso.link.text());
   picker.initBoth();
   picker.showModal();
   if (picker.link.empty()) return;
@@ -49,7 +49,7 @@ void ReferencesPage::selectSeeAlso() {
 }
 
 void ReferencesPage::selectExample() {
-  ReferenceSelectDlg picker(session_, edited->member(), examples.link.text());
+  ReferenceSelectDlg picker(dialog_.toolkit(), session_, edited->member(), examples.link.text());
   picker.initFile();
   picker.showModal();
   if (picker.link.empty()) return;
@@ -58,7 +58,7 @@ void ReferencesPage::selectExample() {
 }
 
 void ReferencesPage::selectSame() {
-  ReferenceSelectDlg picker(session_, edited->member(), SameText.text());
+  ReferenceSelectDlg picker(dialog_.toolkit(), session_, edited->member(), SameText.text());
   picker.initMember();
   picker.showModal();
   if (picker.link.empty()) return;
@@ -67,7 +67,7 @@ void ReferencesPage::selectSame() {
 }
 
 void ReferencesPage::findInterest() {
-  InterestLinks proposals(session_.toolkit, edited->member(), *VBInstance);
+  InterestLinks proposals(dialog_.toolkit(), edited->member(), *VBInstance);
   proposals.showModal();
   for (const std::string& line : proposals.chosen) {
     const std::string name = line.substr(0, line.find(' '));
@@ -83,7 +83,7 @@ void ReferencesPage::findInterest() {
 
 void ReferencesPage::createExample() {
   const Wrapper& member = edited->member();
-  const auto path = session_.toolkit.chooseFileToSave(
+  const auto path = dialog_.toolkit().chooseFileToSave(
       exampleFileChoice("Create New Example File", member, "", session_.settings));
   if (!path) return;
   if (session_.files.writeTextFile(*path, "Example for " + member.name() + ".", false) > 0) return;

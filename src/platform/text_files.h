@@ -19,8 +19,7 @@ class FileErrorReporter {
  public:
   virtual ~FileErrorReporter() = default;
 
-  /// `verb` is "reading" or "saving". An answer that gives up has also set the flag that stops a
-  /// running compile.
+  /// `verb` is "reading" or "saving".
   virtual FileErrorAnswer reportFileError(const std::string& path, std::string_view verb,
                                           FileError error) = 0;
 

@@ -63,6 +63,9 @@ class Dialog {
   void close();
   bool isShown() const { return shown_; }
 
+  /// What shows this dialog, and those that it opens.
+  Toolkit& toolkit() const { return toolkit_; }
+
   // For renderers.
 
   virtual Layout layout() = 0;
@@ -80,9 +83,6 @@ class Dialog {
 
   /// Null takes the peer away.
   void attach(DialogPeer* peer) { peer_ = peer; }
-
- protected:
-  Toolkit& toolkit() const { return toolkit_; }
 
  private:
   friend class Control;

@@ -1,10 +1,10 @@
-// What shows dialogs and asks the user, whoever that is: windows, a terminal or a test.
+// What shows dialogs and asks the user, whoever that is: windows or a test.
 #pragma once
 
 #include <optional>
 #include <string>
 
-#include "toolkit/message_box.h"
+#include "toolkit/prompter.h"
 
 namespace tamrikon {
 
@@ -21,15 +21,11 @@ struct FileChoice {
   std::string fileName;  // proposed
 };
 
-class Toolkit {
+class Toolkit : public Prompter {
  public:
-  virtual ~Toolkit() = default;
-
   /// Shows a dialog that has been loaded, activates it, and returns when it has been closed.
   /// Dialog::showModal() is the way in.
   virtual void runModal(Dialog& dialog) = 0;
-
-  virtual MessageAnswer messageBox(const MessageBox& box) = 0;
 
   /// Full path of the file that was chosen, or nothing if the user cancelled. A file to open is
   /// there; before one is replaced, the user has been asked.
@@ -42,10 +38,6 @@ class Toolkit {
   /// UTF-8, with line ends as they are.
   virtual std::string clipboardText() = 0;
   virtual void setClipboardText(const std::string& text) = 0;
-
-  /// Opens a document in the program that belongs to it, and doesn't wait for that program. If that
-  /// can't be done, `failure` is shown, at once or later. False if it has failed already.
-  virtual bool openDocument(const std::string& path, const MessageBox& failure) = 0;
 
   virtual void beep() = 0;
 };

@@ -2,63 +2,56 @@
 
 #include <gtest/gtest.h>
 
-#include "base/text.h"
 #include "compiler/store.h"
+#include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
+#include "support/test_session.h"
 
 namespace tamrikon {
 namespace {
 
-/// The progress log with LF between its lines.
-std::string logOf(const Session& session) {
-  return replaceAll(session.progressDlg.Text1.text(), "\r\n", "\n");
-}
-
-class ExternalProgramsTest : public testing::Test {
+class ExternalProgramsTest : public testing::Test, protected CompileListener {
  protected:
-  ExternalProgramsTest() { session_.settings.outputPath = folder_ / "a 'b' $c"; }
-
-  std::string run(const std::string& text) {
-    session_.progressDlg.Text1.setText("");
-    std::filesystem::create_directories(session_.settings.outputPath);
-    ExternalPrograms(session_).runExternalPrograms(text);
-    return logOf(session_);
+  ExternalProgramsTest() {
+    folder_.put("P.vbp", "Type=Exe\n");
+    ide_ = test::openProject(folder_ / "P.vbp");
+    session_.settings.outputPath = folder_ / "a 'b' $c";
   }
+
+  /// The log of that run.
+  std::string run(const std::string& text) { return run(session_, text); }
+
+  std::string run(Session& session, const std::string& text) {
+    log_.clear();
+    store compiled(session.settings, *this);
+    CompileContext context(session, *ide_, run_, *this, compiled);
+    ExternalPrograms(context).runExternalPrograms(text);
+    return log_;
+  }
+
+  void addMessage(const std::string& text, const std::string&) override { log_ += text + "\n"; }
 
   test::TempFolder folder_;
   test::ScriptedToolkit toolkit_;
-  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data"};
+  test::TestSession session_{toolkit_};
+  CompileRun run_;
+  std::unique_ptr<HostIde> ide_;
+  std::string log_;
 };
 
-TEST_F(ExternalProgramsTest, ShowsInADialogWhichOneRunsAndItsErrors) {
-  session_.showsPrograms = true;
-  CommandButton& cancel = session_.progressDlg.CancelButton;
-  std::string status;
-  int questions = 0;
-  toolkit_.answers = {MessageAnswer::no, MessageAnswer::yes};
-  toolkit_.onCheckpoint = [&] {
-    status = session_.progressDlg.StatusBar1.panel(1);
-    if (!status.ends_with(": sleep 20")) return;
-    cancel.userClicked();
-    questions = static_cast<int>(toolkit_.boxes.size());
-  };
-  EXPECT_EQ(run("echo err >&2\rsleep 20\recho end"), "echo err >&2\nerr\nsleep 20\n\n");
-  EXPECT_EQ(questions, 2) << "the first request waits, each later one asks";
-  EXPECT_TRUE(status.starts_with("Waiting for the end")) << status;
-}
-
 TEST_F(ExternalProgramsTest, KeepsThemApartFromCtrlCOnTheTerminal) {
+  std::filesystem::create_directories(session_.settings.outputPath);
   EXPECT_EQ(run("kill -s INT 0"), "kill -s INT 0\n\n") << "their group isn't that of this test";
 }
 
 TEST_F(ExternalProgramsTest, ReportsWhatItCannotRun) {
   constexpr const char* kCannot = "ERROR: Cannot create and execute batch file.\n";
+  std::filesystem::create_directories(session_.settings.outputPath);
   EXPECT_EQ(run("  "), kCannot);  // no command leaves no log
   EXPECT_TRUE(folder_.has("a 'b' $c/execAfter.sh"));
   session_.settings.outputPath = folder_ / "gone";
-  ExternalPrograms(session_).runExternalPrograms("echo");
-  EXPECT_EQ(logOf(session_), std::string(kCannot) + kCannot);
+  EXPECT_EQ(run("echo"), kCannot);
 }
 
 class NoProcesses final : public ProcessServices {
@@ -80,20 +73,16 @@ class NoProcesses final : public ProcessServices {
 
 TEST_F(ExternalProgramsTest, TellsWhyAProcessDidNotStartAndRepeatsAFailingDelete) {
   NoProcesses processes;
-  Session session(toolkit_, nativeFileSystem(), processes, "/data");
+  test::TestSession session(toolkit_, processes);
   session.settings.outputPath = folder_.path();
-  ExternalPrograms programs(session);
-  EXPECT_EQ(programs.threadCodePage(), 1250);
-  programs.runExternalPrograms("echo");
   const std::string script = folder_ / "execAfter.sh";
   const std::string log = folder_ / "execAfter.log";
-  EXPECT_EQ(logOf(session), "ERROR: Cannot execute /bin/sh " + script +
-                                ".\nCreateProcess failed. Error: 2\n"
-                                "ERROR: Cannot create and execute batch file.\n");
+  EXPECT_EQ(run(session, "echo"), "ERROR: Cannot execute /bin/sh " + script +
+                                      ".\nCreateProcess failed. Error: 2\n"
+                                      "ERROR: Cannot create and execute batch file.\n");
   // What looks like the log of an earlier run is taken for this one's.
   folder_.put("execAfter.log", "old");
-  programs.runExternalPrograms("echo");
-  EXPECT_TRUE(logOf(session).ends_with("\nold\n"));
+  EXPECT_TRUE(run(session, "echo").ends_with("\nold\n"));
   EXPECT_EQ(processes.pauses, 0);
 }
 

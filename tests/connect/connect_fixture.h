@@ -11,6 +11,7 @@
 #include "support/scripted_ide.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
+#include "support/test_session.h"
 
 namespace tamrikon::test {
 
@@ -18,11 +19,10 @@ class ConnectTest : public testing::Test {
  protected:
   struct AddIn {
     AddIn(ScriptedToolkit& toolkit, ScriptedIde& ide)
-        : session(toolkit, nativeFileSystem(), nativeProcessServices(), "/data"),
-          self(session, ide, ide) {
-      session.runsPrograms = false;
+        : session(toolkit), self(toolkit, session, ide, ide) {
+      self.progressDlg.run.runsPrograms = false;
     }
-    Session session;
+    TestSession session;
     connect self;
   };
 

@@ -30,7 +30,7 @@ TEST_F(CommandTest, CompileFollowsWithTheSettingsOfTheDialog) {
     user.click(dialog.Command1);
   });
   toolkit_.onDialog("ProgressDlg",
-                    [this](User& user) { user.click(addIn_->session.progressDlg.OKButton); });
+                    [this](User& user) { user.click(addIn_->self.progressDlg.OKButton); });
   ide_->click("Add-Ins", "Tamrikon");
   EXPECT_TRUE(folder_.has("outOne/One.p"));
   EXPECT_FALSE(folder_.has("outOne/COne-Fill.m")) << "members without a comment are left out";
@@ -49,15 +49,15 @@ TEST_F(CommandTest, GroupCompileUsesEachProjectsSettingsAndLeavesTheWindowsAsThe
     onOptions([](User& user, frmAddIn& dialog) { user.click(dialog.Command14); });
     toolkit_.onDialog("ProgressDlg", [&](User& user) {
       EXPECT_EQ(ide_->project->Windows().Count(), 2) << "that of the second project is open";
-      EXPECT_EQ(addIn_->session.progressDlg.Text1.text(), "Project: One\r\nProject: Two\r\n");
-      user.click(addIn_->session.progressDlg.OKButton);
+      EXPECT_EQ(addIn_->self.progressDlg.Text1.text(), "Project: One\r\nProject: Two\r\n");
+      user.click(addIn_->self.progressDlg.OKButton);
     });
     ide_->click("Add-Ins", "Tamrikon");
     EXPECT_TRUE(folder_.has("outOne/One.p") && folder_.has("outTwo/Two.p")) << trouble;
     std::filesystem::remove_all(folder_ / "outTwo");
     EXPECT_EQ(ide_->project->Windows().Count(), trouble == "no windows" ? 2 : 1);
     EXPECT_EQ(ide_->project->ActiveWindow(), &first.Window());
-    EXPECT_EQ(addIn_->session.groupLogText, "");
+    EXPECT_EQ(addIn_->self.progressDlg.groupLogText, "");
   }
 }
 
@@ -69,7 +69,7 @@ TEST_F(CommandTest, GroupCompileTellsTheHostOfPagesThatWereWrittenOver) {
   for (int run = 0; run < 2; ++run) {
     onOptions([](User& user, frmAddIn& dialog) { user.click(dialog.Command14); });
     toolkit_.onDialog("ProgressDlg",
-                      [&](User& user) { user.click(addIn_->session.progressDlg.OKButton); });
+                      [&](User& user) { user.click(addIn_->self.progressDlg.OKButton); });
     ide_->click("Add-Ins", "Tamrikon");
   }
   ASSERT_EQ(ide_->warnings.size(), 2U) << "each run by itself";

@@ -13,6 +13,7 @@
 #include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
+#include "support/test_session.h"
 
 namespace tamrikon::test {
 
@@ -63,8 +64,8 @@ class OptionsFixture : public testing::Test {
 
   TempFolder folder_;
   ScriptedToolkit toolkit_;
-  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), folder_ / "data"};
-  frmAddIn dialog_{session_};
+  TestSession session_{toolkit_, nativeProcessServices(), folder_ / "data"};
+  frmAddIn dialog_{toolkit_, session_};
   Owner owner_{dialog_};
   std::unique_ptr<HostIde> ide_;
 };

@@ -18,6 +18,7 @@
 #include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
+#include "support/test_session.h"
 
 namespace tamrikon::test {
 
@@ -65,7 +66,7 @@ class DemoProject : public testing::Test {
             const EditGrouping& group = {}) {
     goTo(text);
     onDialog<EditComment>(script);
-    openCommentEditor(session_, *ide_, group);
+    openCommentEditor(toolkit_, session_, *ide_, group);
   }
 
   /// Plays the user in the next dialog, a `T`.
@@ -77,7 +78,7 @@ class DemoProject : public testing::Test {
 
   TempFolder folder_;
   ScriptedToolkit toolkit_;
-  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data"};
+  TestSession session_{toolkit_};
   std::unique_ptr<HostIde> ide_;
 };
 

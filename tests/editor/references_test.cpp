@@ -120,7 +120,7 @@ TEST_F(ReferencesTest, ThePickerShowsThePresentLinkAndGivesItBack) {
            Case{"\"/a/x.txt", "", "", "\"/a/x.txt"},
        }) {
     SCOPED_TRACE(c.link);
-    ReferenceSelectDlg picker(session_, *member, c.link);
+    ReferenceSelectDlg picker(toolkit_, session_, *member, c.link);
     picker.initBoth();
     onDialog<ReferenceSelectDlg>([&](User& user, ReferenceSelectDlg& dialog) {
       const bool isFile = c.link[0] == '"';

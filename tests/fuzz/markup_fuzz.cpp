@@ -9,7 +9,7 @@
 
 #include "base/text.h"
 #include "cli/terminal.h"
-#include "compiler/session.h"
+#include "compiler/compile.h"
 #include "fuzz/fuzz_target.h"
 #include "fuzz/memory_files.h"
 #include "host/host_ide.h"
@@ -59,8 +59,9 @@ std::map<std::string, std::string> pagesOf(const std::string& text, const std::s
   std::ostringstream out;
   const Streams streams(out, out);
   Terminal terminal(streams, true);
-  Session session(terminal, disk, nativeProcessServices(), "/data");
-  session.runsPrograms = false;
+  Session session(terminal.fileErrors, disk, nativeProcessServices(), "/data");
+  CompileRun run;
+  run.runsPrograms = false;
   session.codePageOf = [&](const VBProject&) -> const CodePage& { return page; };
   session.loadProjectSettings(*ide);
   ProjectSettings& settings = session.settings;
@@ -70,8 +71,7 @@ std::map<std::string, std::string> pagesOf(const std::string& text, const std::s
   settings.titlePageText = page.decode(replaceAll(text, "\n", "\r"));
   settings.outputPath = "/out/";
   settings.templatePath = "/t.tmkt";
-  session.progressDlg.VBInstance = ide.get();
-  session.progressDlg.showModal();
+  compileProject(session, *ide, run, terminal);
   std::erase_if(disk.files, [](const auto& file) { return !file.first.starts_with("/out/"); });
   test::demand(!disk.files.empty(), "no page");
   return disk.files;

@@ -4,7 +4,7 @@
 
 #include "base/text.h"
 #include "cli/terminal.h"
-#include "compiler/session.h"
+#include "compiler/compile.h"
 #include "compiler/store.h"
 #include "fuzz/fuzz_target.h"
 #include "fuzz/memory_files.h"
@@ -26,16 +26,16 @@ void fuzz(const std::string& data) {
   std::ostringstream out;
   const Streams streams(out, out);
   Terminal terminal(streams, true);
-  Session session(terminal, disk, nativeProcessServices(), "/data");
-  session.runsPrograms = false;
+  Session session(terminal.fileErrors, disk, nativeProcessServices(), "/data");
+  CompileRun run;
+  run.runsPrograms = false;
   session.codePageOf = [&](const VBProject& project) -> const CodePage& {
     return ide->codePageOf(project);
   };
   session.loadProjectSettings(*ide);
   session.settings.outputPath = "/out/";
   session.settings.templatePath = "/p/t.tmkt";
-  session.progressDlg.VBInstance = ide.get();
-  session.progressDlg.showModal();
+  compileProject(session, *ide, run, terminal);
   session.settingsFile.writeSettingsFile(*ide);
   for (const auto& [path, bytes] : disk.files) {
     const bool isOurs = path.starts_with("/p/") || path.starts_with("/out/");

@@ -1,4 +1,4 @@
-#include "compiler/file_error_dialog.h"
+#include "dialogs/file_error_dialog.h"
 
 namespace tamrikon {
 namespace {
@@ -35,7 +35,7 @@ FileErrorAnswer FileErrorDialog::reportFault(const std::string& path, std::strin
       error == FileError::diskFull ? MessageButtons::yesNoCancel : MessageButtons::retryCancel;
   const std::string title = "Error " + std::string(verb) + " " + path + " file";
   const std::string message = messageFor(error) + (what.empty() ? "" : " " + what);
-  switch (toolkit_.messageBox({title, message, buttons})) {
+  switch (prompter_.messageBox({title, message, buttons})) {
     case MessageAnswer::ok:
     case MessageAnswer::retry:
     case MessageAnswer::yes: return FileErrorAnswer::repeat;
@@ -44,7 +44,6 @@ FileErrorAnswer FileErrorDialog::reportFault(const std::string& path, std::strin
     case MessageAnswer::abort:
     case MessageAnswer::no: break;
   }
-  cancelRequested_ = true;
   return FileErrorAnswer::giveUp;
 }
 

@@ -1,4 +1,4 @@
-#include "compiler/progress_dlg.h"
+#include "dialogs/progress_dlg.h"
 
 #include <gtest/gtest.h>
 
@@ -6,6 +6,7 @@
 #include "support/open_project.h"
 #include "support/scripted_toolkit.h"
 #include "support/temp_folder.h"
+#include "support/test_session.h"
 
 namespace tamrikon {
 namespace {
@@ -21,7 +22,7 @@ class ProgressDlgTest : public testing::Test {
                             "$MEMBER-EXT$ .m\n$tamrik-help-file$\n$OUTPUT-PATH$/all.chm\n"
                             "$end-tamrik-help-file$\n");
     std::filesystem::create_directories(folder_ / "out");
-    session_.runsPrograms = false;
+    dialog_.run.runsPrograms = false;
   }
 
   void open() {
@@ -34,63 +35,11 @@ class ProgressDlgTest : public testing::Test {
 
   test::TempFolder folder_;
   test::ScriptedToolkit toolkit_;
-  Session session_{toolkit_, nativeFileSystem(), nativeProcessServices(), "/data"};
-  ProgressDlg& dialog_ = session_.progressDlg;
+  test::TestSession session_{toolkit_};
+  ProgressDlg dialog_{toolkit_, session_};
   std::unique_ptr<HostIde> ide_;
   std::string template_;
 };
-
-TEST_F(ProgressDlgTest, CompileStopsAtTheCheckpointBehindACancel) {
-  folder_.put("COne.cls",
-              "'**\n'Fills.\nPublic Sub Fill()\nEnd Sub\nPublic Sub Empty_()\nEnd Sub\n");
-  folder_.put("t.tmkt",
-              "$MEMBER-EXT$ .m\n$PROJECT-EXT$ .p\n$CONTENTS-EXT$ .c\n$INDEX-EXT$ .i\n$X$ x\n");
-  open();
-  // Events get through before each of two members, behind four steps of preparation and four pages,
-  // before each of three topics and behind the external programs.
-  for (const auto& [pump, files] :
-       {std::pair{1, 0}, {6, 0}, {7, 1}, {11, 4}, {13, 6}, {14, 7}, {15, 7}}) {
-    SCOPED_TRACE(pump);
-    int count = 0;
-    toolkit_.onCheckpoint = [&, last = pump] { session_.cancelRequested = ++count >= last; };
-    std::filesystem::remove_all(folder_ / "out");
-    std::filesystem::create_directory(folder_ / "out");
-    dialog_.startCompile();
-    const bool isStopped = pump < 15;
-    EXPECT_EQ(dialog_.outcome(), isStopped ? CompileOutcome::aborted : CompileOutcome::finished);
-    EXPECT_EQ(nativeFileSystem().list(folder_ / "out").size(), std::size_t(files));
-    EXPECT_EQ(session_.currentStore->evaluateMacro("X"), isStopped ? "$X$" : "x");
-  }
-}
-
-TEST_F(ProgressDlgTest, FinishedTopicsOfASingleFileAreWrittenWhateverEndsTheCompile) {
-  folder_.put("CTwo.cls", "'**\n'$tamrik-loop$\nPublic Sub Spill()\nEnd Sub\n");
-  folder_.put("One.vbp", "Type=Exe\nName=\"One\"\nClass=COne; COne.cls\nClass=CTwo; CTwo.cls\n");
-  // What is left out counts, but takes no time.
-  std::string sections = "$SPLIT$ 0\n$MEMBER-EXT$ .m\n$tamrik-loop$\n$IFNOTEMPTY$ $NO$\n" +
-                         std::string(1 << 20, 'x') +
-                         "$END-IFNOTEMPTY$$tamrik-loop$$tamrik-loop$\n$end-tamrik-loop$\n";
-  for (const std::string name : {"project", "title", "contents"}) {
-    sections += "$tamrik-" + name + "-body$\n$end-tamrik-" + name + "-body$\n";
-  }
-  folder_.put("t.tmkt", sections +
-                            "$tamrik-object-body$\n$MEMBER-NAME$;\n$end-tamrik-object-body$\n"
-                            "$tamrik-method-body$\n$MEMBER-DESCRIPTION$;\n"
-                            "$end-tamrik-method-body$\n");
-  open();
-  toolkit_.onCheckpoint = [&] { session_.cancelRequested = dialog_.Animation1.done() == 2; };
-  dialog_.startCompile();
-  EXPECT_EQ(dialog_.outcome(), CompileOutcome::aborted);
-  EXPECT_EQ(folder_.get("out/One.m"), "COne;Fills.\r\n;");
-
-  toolkit_.onCheckpoint = [] {};
-  dialog_.startCompile();
-  EXPECT_EQ(dialog_.outcome(), CompileOutcome::failed);
-  EXPECT_EQ(folder_.get("out/One.m"), "COne;Fills.\r\n;CTwo;");
-  EXPECT_EQ(dialog_.Text1.text(),
-            "Project: One\r\nERROR: The expansion of tamrik-method-body has no end: its bounds of "
-            "calls and text are used up at $tamrik-loop$, in the topic of CTwo.Spill\r\n");
-}
 
 TEST_F(ProgressDlgTest, ShowingItCompilesAndLeavesItOpenWithItsLog) {
   open();
@@ -138,6 +87,27 @@ TEST_F(ProgressDlgTest, CancelStopsTheCompileAndLeavesNothingToShow) {
   EXPECT_EQ(dialog_.outcome(), CompileOutcome::aborted);
   ASSERT_EQ(toolkit_.boxes.size(), 1U);
   EXPECT_EQ(toolkit_.boxes[0].text, "Cannot show the \"$tamrik-help-file$\" file");
+}
+
+TEST_F(ProgressDlgTest, ShowsWhichProgramRunsAndASecondCancelAsksToEndIt) {
+  folder_.put("t.tmkt",
+              "$PROJECT-EXT$ .p\n$tamrik-exec-after$\necho err >&2\nsleep 20\necho end\n"
+              "$end-tamrik-exec-after$\n");
+  open();
+  dialog_.run.runsPrograms = dialog_.run.showsPrograms = true;
+  std::string status;
+  toolkit_.answers = {MessageAnswer::no, MessageAnswer::yes};
+  toolkit_.onCheckpoint = [&] {
+    if (!dialog_.StatusBar1.panel(1).ends_with(": sleep 20")) return;
+    status = dialog_.StatusBar1.panel(1);
+    dialog_.CancelButton.userClicked();
+  };
+  toolkit_.onDialog("ProgressDlg", [&](User& user) { user.click(dialog_.OKButton); });
+  dialog_.showModal();
+  EXPECT_EQ(dialog_.outcome(), CompileOutcome::aborted);
+  EXPECT_EQ(dialog_.Text1.text(), "Project: One\r\necho err >&2\r\nerr\r\nsleep 20\r\n\r\n");
+  EXPECT_EQ(toolkit_.boxes.size(), 2U) << "the first request waits, each later one asks";
+  EXPECT_TRUE(status.starts_with("Waiting for the end")) << status;
 }
 
 TEST_F(ProgressDlgTest, FailureThatNothingCatchesBeepsAndClosesIt) {

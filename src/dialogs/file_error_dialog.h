@@ -1,16 +1,15 @@
-// The dialog that a failed file operation shows. An answer that gives up stops the compile.
+// The question that a failed file operation asks.
 #pragma once
 
 #include "platform/text_files.h"
-#include "toolkit/toolkit.h"
+#include "toolkit/prompter.h"
 
 namespace tamrikon {
 
 class FileErrorDialog final : public FileErrorReporter {
  public:
-  /// Both must outlive this object; `cancelRequested` is set by an answer that gives up.
-  FileErrorDialog(Toolkit& toolkit, bool& cancelRequested)
-      : toolkit_(toolkit), cancelRequested_(cancelRequested) {}
+  /// `prompter` must outlive this object.
+  explicit FileErrorDialog(Prompter& prompter) : prompter_(prompter) {}
 
   FileErrorAnswer reportFileError(const std::string& path, std::string_view verb,
                                   FileError error) override;
@@ -18,8 +17,7 @@ class FileErrorDialog final : public FileErrorReporter {
                               const std::string& what) override;
 
  private:
-  Toolkit& toolkit_;
-  bool& cancelRequested_;
+  Prompter& prompter_;
 };
 
 }  // namespace tamrikon
