@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "comments/comment_parser.h"
+#include "comments/parsed_comment.h"
 #include "host/module_analysis.h"
 #include "platform/data_folder.h"
 #include "source/source_file.h"
@@ -98,14 +98,14 @@ void Parse_a_comment(benchmark::State& state) {
       "' @param Name Required. String.", "' @param Kind Optional. What it is.", "' @return Order.",
       "' @see .Add", "' @see Orders.Remove The opposite", "' @rem Nothing happens twice.",
       "'      A second call comes back at once."});
-  CommentParser parser(settings);
+  const TagWords words(settings.userName);
   for (auto _ : state) {
-    parser.setComment(comment);
-    benchmark::DoNotOptimize(parser.getDescription());
-    benchmark::DoNotOptimize(parser.getParamList());
-    benchmark::DoNotOptimize(parser.getSeeList());
-    benchmark::DoNotOptimize(parser.getRemarks());
-    benchmark::DoNotOptimize(parser.getReturn());
+    const ParsedComment parsed = parseComment(comment, words, indentsFor(settings));
+    benchmark::DoNotOptimize(parsed.getDescription());
+    benchmark::DoNotOptimize(parsed.getParamList());
+    benchmark::DoNotOptimize(parsed.getSeeList());
+    benchmark::DoNotOptimize(parsed.getRemarks());
+    benchmark::DoNotOptimize(parsed.getReturn());
   }
 }
 BENCHMARK(Parse_a_comment);

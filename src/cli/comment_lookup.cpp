@@ -8,9 +8,7 @@
 
 #include "base/case_folding.h"
 #include "comments/comment_finder.h"
-#include "compiler/same_comments.h"
-#include "model/project_analysis.h"
-#include "model/property_merging.h"
+#include "model/project_model.h"
 #include "model/wrappers.h"
 
 namespace tamrikon {
@@ -123,24 +121,15 @@ std::vector<Skeleton> missingSkeletons(SourceCache& sources, const ProjectSettin
   wanted.comContextID = false;  // help ids are the business of compiles
 
   NoLog log;
-  WrapperCollections wrappers;
-  WrapperComments comments(wanted);
-  CommentParser parser(wanted);
-  LinkLists lists(wrappers);
-  Links links(wrappers, lists, log);
-  ProjectAnalysis(wanted, sources, comments, wrappers).analyseProject(goOn);
-  PropertyMerging merging(wrappers, parser, wanted);
-  merging.makeSamePropsFirst();
-  SameComments(wrappers, links, parser).resolveSameComments();
-  merging.makeSameProps();
-
+  const auto model = analyseProject(wanted, sources, log, goOn);
+  if (model == nullptr) return {};
   std::unordered_map<const ModuleSource*, std::size_t> places;
   for (CodeModule* module : wanted.comModules) {
     tryStep([&] { places.emplace(&sources.of(*module), places.size()); });
   }
   std::vector<Skeleton> found;
   std::set<std::pair<const ModuleSource*, int>> lines;
-  for (const WrapperRef& wrapper : wrappers.all) {
+  for (const WrapperRef& wrapper : model->wrappers.all) {
     if (wrapper->hadComment || wrapper->topic != wrapper.get()) continue;
     tryStep([&] {
       Skeleton skeleton = missingSkeleton(*wrapper, wanted);

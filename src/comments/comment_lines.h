@@ -40,6 +40,9 @@ class Comment {
   /// Whether nobody wrote it: it was made of a declaration and the IDE's description.
   bool isGenerated = false;
 
+  /// Whether it may be that of several members.
+  bool isShared = false;
+
  private:
   std::shared_ptr<const void> memory_;
   std::vector<std::string_view> lines_;

@@ -12,7 +12,7 @@ namespace tamrikon {
 namespace {
 
 void publishPaths(CompileContext& context) {
-  MacroTable& macros = context.compiled.macros;
+  MacroTable& macros = context.compiled.macros();
   ProjectSettings& settings = context.session.settings;
   const auto publish = [&](std::string_view macro, std::string_view folder) {
     macros.setMacroValue(macro, doubleDollars(withoutTrailingSeparator(folder)));
@@ -42,7 +42,7 @@ std::vector<std::string> groupProjects(const VBProjects& all, const GroupFolders
 }
 
 void publishGroup(CompileContext& context) {
-  MacroTable& macros = context.compiled.macros;
+  MacroTable& macros = context.compiled.macros();
   auto projects = std::make_shared<MacroList>();
   if (context.run.compileWholeGroup) {
     const VBProjects& all = context.ide.VBProjects();
@@ -66,9 +66,9 @@ void compile(CompileContext& context) {
   store& compiled = context.compiled;
   // A template that can't be loaded has requested the end, if the user gave up at the file error.
   compiled.loadSrc(context.session.settings.templatePath, false, context.files);
-  compiled.log.logMessage("Project: " + context.ide.ActiveVBProject().Name());
-  compiled.log.ShowProgress("Analysing the project...", "");
-  compiled.macros.resetRunState();
+  compiled.log().logMessage("Project: " + context.ide.ActiveVBProject().Name());
+  compiled.log().ShowProgress("Analysing the project...", "");
+  compiled.macros().resetRunState();
   if (!analyse(context)) return;
   publishPaths(context);
   publishGroup(context);
@@ -95,7 +95,7 @@ CompileResult compileProject(Session& session, VBE& ide, CompileRun& run,
     compile(context);
     result.outcome = run.cancelRequested ? CompileOutcome::aborted : CompileOutcome::finished;
   } catch (const std::length_error& tooMuch) {
-    result.compiled->log.logMessage(std::string("ERROR: ") + tooMuch.what());
+    result.compiled->log().logMessage(std::string("ERROR: ") + tooMuch.what());
   } catch (const std::exception&) {
     result.explainsFailure = false;
   }

@@ -16,7 +16,7 @@ class ExternalPrograms {
  public:
   /// `context` must outlive this object.
   explicit ExternalPrograms(CompileContext& context)
-      : context_(context), processes_(context.session.processes), log_(context.compiled.log) {}
+      : context_(context), processes_(context.session.processes), log_(context.compiled.log()) {}
 
   /// `text` holds a command on each line, lines being divided by CR. Waits until all have run; all
   /// reporting goes to the log.

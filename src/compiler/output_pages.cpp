@@ -76,7 +76,7 @@ void OutputPages::putPage(std::string_view progress, std::string_view extensionM
 }
 
 void OutputPages::setProjectName() {
-  store_.macros.setProjectText("PROJECT-NAME", projectName_);
+  store_.macros().setProjectText("PROJECT-NAME", projectName_);
 }
 
 bool OutputPages::groupPages() {
@@ -121,25 +121,25 @@ std::string OutputPages::topicOf(Wrapper& wrapper) {
     return wrapper.compile(context_);
   } catch (const BudgetUsedUp& usedUp) {
     throw BudgetUsedUp(std::string(usedUp.what()) + ", in the topic of " +
-                       store_.links.pageInWork());
+                       store_.model().links.pageInWork());
   }
 }
 
 bool OutputPages::putTopics() {
   const std::string extension = store_.evaluateMacro("MEMBER-EXT");
-  for (const WrapperRef& wrapper : store_.compiledList) {
+  for (const WrapperRef& wrapper : store_.compiledList()) {
     if (!compile_.checkpoint()) return false;
-    store_.links.compiledWrapper = wrapper.get();
+    store_.model().links.compiledWrapper = wrapper.get();
     const std::string& module = wrapper->source().name();
     const bool isModule = wrapper->kind() == WrapperKind::module;
-    store_.log.ShowProgress(module, isModule ? std::string() : wrapper->name());
+    store_.log().ShowProgress(module, isModule ? std::string() : wrapper->name());
     if (wantsTopic(*wrapper)) {
       const std::string name = isModule ? module : module + "-" + wrapper->name();
       std::string page = topicOf(*wrapper);
       put(Write::replace, name, extension, page);
-      store_.macros.reuse(std::move(page));
+      store_.macros().reuse(std::move(page));
     }
-    compile_.listener.setProgress(++topicsDone_, store_.compiledList.size());
+    compile_.listener.setProgress(++topicsDone_, store_.compiledList().size());
   }
   return true;
 }
@@ -181,12 +181,12 @@ void OutputPages::compileSingleFile() {
   put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-title-body"));
   if (!compile_.checkpoint()) return;
   show("contents...");
-  makeContents(store_.compiledList, store_.macros);
+  makeContents(store_.compiledList(), store_.macros());
   put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-contents-body"));
   if (!compile_.checkpoint()) return;
   if (!appendTopics(extension)) return;
   show("index...");
-  store_.macros.setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(store_.compiledList));
+  store_.macros().setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(store_.compiledList()));
   put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-index-body"));
   if (!compile_.checkpoint()) return;
   closingSteps();
@@ -198,7 +198,7 @@ bool OutputPages::appendTopics(const std::string& extension) {
     if (!text.empty()) put(Write::append, projectName_, extension, std::exchange(text, {}));
   };
   try {
-    for (const std::vector<WrapperRef>& stretch : topicOrder(store_.compiledList)) {
+    for (const std::vector<WrapperRef>& stretch : topicOrder(store_.compiledList())) {
       if (!compile_.checkpoint()) {
         putFinished();
         return false;
@@ -217,15 +217,15 @@ bool OutputPages::appendTopics(const std::string& extension) {
 }
 
 void OutputPages::addTopic(Wrapper& wrapper, std::string& text) {
-  store_.links.compiledWrapper = &wrapper;
+  store_.model().links.compiledWrapper = &wrapper;
   const bool isModule = wrapper.kind() == WrapperKind::module;
-  store_.log.ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
+  store_.log().ShowProgress(wrapper.source().name(), isModule ? std::string() : wrapper.name());
   if (wantsTopic(wrapper)) {
     std::string topic = topicOf(wrapper);
     text += topic;
-    store_.macros.reuse(std::move(topic));
+    store_.macros().reuse(std::move(topic));
   }
-  compile_.listener.setProgress(++topicsDone_, store_.compiledList.size());
+  compile_.listener.setProgress(++topicsDone_, store_.compiledList().size());
 }
 
 }  // namespace tamrikon

@@ -25,7 +25,7 @@ class OutputPages {
  private:
   enum class Write { replace, append };
 
-  void show(std::string_view name) { store_.log.ShowProgress(name, ""); }
+  void show(std::string_view name) { store_.log().ShowProgress(name, ""); }
   /// In the folder of the project's pages.
   void put(Write write, std::string_view name, std::string_view extension, std::string_view text);
   void putGroupPage(Write write, std::string_view extension, std::string_view section);

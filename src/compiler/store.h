@@ -1,6 +1,4 @@
-// The state of a compile: the macro table of a template, the wrappers of a project and what turns
-// them into pages. Each of its groups of operations is a class of the folder that it belongs to;
-// this one makes them work on one state.
+// What a compile works on: the macro table of a template and the model of a project.
 #pragma once
 
 #include <functional>
@@ -8,14 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "comments/comment_parser.h"
 #include "compiler/progress_log.h"
-#include "model/link_lists.h"
-#include "model/links.h"
 #include "model/module_source.h"
 #include "model/page_context.h"
-#include "model/wrapper_collections.h"
-#include "model/wrapper_comments.h"
+#include "model/project_model.h"
 #include "template/macro_table.h"
 
 namespace tamrikon {
@@ -29,40 +23,40 @@ class store {
   /// other failure. Throws as MacroTable::loadSrc() does.
   int loadSrc(const std::string& file, bool silent, TextFiles& files);
 
-  /// Finds the documented members of the active project, whose topics serve them, and the lists of
-  /// the whole project. Where `shouldContinue` says no, it ends with false and an empty store.
+  /// Analyses the active project, and sets the macros of its index and contents. False, with an
+  /// empty store, where `shouldContinue` says no.
   bool analyse(const std::function<bool()>& shouldContinue);
 
-  std::string evaluateMacro(std::string_view name) { return macros.evaluateMacro(name); }
+  std::string evaluateMacro(std::string_view name) { return macros_.evaluateMacro(name); }
 
   /// What to open of the finished documentation: the first line of the template's help file.
   std::string helpFile();
 
-  ProgressLog log;
-  MacroTable macros;
-  WrapperCollections wrappers;
-  WrapperComments comments;
-  LinkLists lists;
-  Links links;
+  ProgressLog& log() { return log_; }
+  MacroTable& macros() { return macros_; }
+
+  /// Only after the analysis.
+  ProjectModel& model() { return *model_; }
 
   /// The wrappers that get a topic, in the order of all wrappers.
-  std::vector<WrapperRef> compiledList;
+  const std::vector<WrapperRef>& compiledList() const { return compiledList_; }
 
   /// The bytes of the sources that were analysed.
   std::size_t sourceSize() const { return sources_.textSize(); }
 
-  /// What the making of a page needs.
+  /// What the making of a page needs; only after the analysis.
   PageContext pageContext();
 
-  /// Drops the wrappers and all macros.
+  /// Drops the model and all macros.
   void clearCollections();
 
  private:
-  bool findMembers(const std::function<bool()>& shouldContinue);
-
   const ProjectSettings& settings_;
+  ProgressLog log_;
   SourceCache sources_;
-  CommentParser parser_;
+  std::unique_ptr<ProjectModel> model_;
+  MacroTable macros_;
+  std::vector<WrapperRef> compiledList_;
 };
 
 }  // namespace tamrikon

@@ -20,15 +20,15 @@ std::string readTemplateDescription(Session& session, const std::string& path) {
   session.currentStore.reset();
   CompileListener nobody;
   store described(session.settings, nobody);
-  described.macros.setBudget(ExpansionBudget(kMaxCalls, kMaxText));
+  described.macros().setBudget(ExpansionBudget(kMaxCalls, kMaxText));
   std::string text;
   try {
     if (described.loadSrc(path, true, session.files) != 0) {
       return "Cannot read descriptionfrom " + path + "file.";
     }
     const std::string folder(withoutTrailingSeparator(session.settings.outputPath));
-    described.macros.setMacroValue("TAMRIK-PATH", session.addInFolder);
-    described.macros.setMacroValue("OUTPUT-PATH", folder);
+    described.macros().setMacroValue("TAMRIK-PATH", session.addInFolder);
+    described.macros().setMacroValue("OUTPUT-PATH", folder);
     if (!folder.empty()) session.settings.outputPath = joinPath(folder, "");
     text = described.evaluateMacro("tamrik-description");
   } catch (const BudgetUsedUp& usedUp) {

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "comments/parsed_comment.h"
 #include "model/wrapper.h"
 
 namespace tamrikon {
@@ -27,7 +28,7 @@ class MemberWrapper : public Wrapper {
 
  private:
   /// The value of MEMBER-RETURN.
-  virtual std::string pageReturn(PageContext& context) const = 0;
+  virtual std::string pageReturn(const ParsedComment& parsed) const = 0;
 
   /// The text of MEMBER-SOURCECODE where the source is wanted, its lines divided by CR.
   virtual std::string pageSource(PageContext& context) const = 0;
@@ -35,7 +36,7 @@ class MemberWrapper : public Wrapper {
   /// Whether the page has arguments to list.
   virtual bool hasParameters() const { return true; }
 
-  std::string wantedSource(PageContext& context) const;
+  std::string wantedSource(PageContext& context, const ParsedComment& parsed) const;
 
   Member& member_;
 };

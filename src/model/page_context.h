@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "comments/comment_parser.h"
+#include "comments/parsed_comment.h"
 #include "model/link_lists.h"
 #include "model/wrapper_collections.h"
 #include "settings/project_settings.h"
@@ -15,7 +15,7 @@ namespace tamrikon {
 
 struct PageContext {
   MacroTable& macros;
-  CommentParser& parser;  // one for all pages: nobody may expect it to keep a comment
+  const TagWords& tagWords;
   const ProjectSettings& settings;
   const WrapperCollections& wrappers;
   LinkLists& lists;

@@ -6,23 +6,20 @@
 
 namespace tamrikon {
 
-namespace {
-
-bool isGenerated(const PageContext& context) {
-  const CommentList& comment = context.parser.comment();
-  return comment && comment->isGenerated;
+ParsedComment parse(const PageContext& context, CommentList comment) {
+  return parseComment(std::move(comment), context.tagWords, indentsFor(context.settings));
 }
 
-}  // namespace
-
-LinkListRef macroList(const PageContext& context, CommentParser::Entries entries) {
+LinkListRef macroList(const ParsedComment& comment, ParsedComment::Entries entries) {
   static const LinkListRef empty = std::make_shared<const MacroList>();
   if (entries.empty()) return empty;
-  return std::make_shared<const MacroList>(MacroList{std::move(entries), {}, isGenerated(context)});
+  return std::make_shared<const MacroList>(
+      MacroList{std::move(entries), {}, comment.isGenerated()});
 }
 
-void setCommentText(PageContext& context, std::string_view macro, std::string_view text) {
-  if (isGenerated(context)) {
+void setCommentText(PageContext& context, const ParsedComment& comment, std::string_view macro,
+                    std::string_view text) {
+  if (comment.isGenerated()) {
     context.macros.setProjectText(macro, text);
   } else {
     context.macros.setCommentText(macro, text);
@@ -36,15 +33,15 @@ void setNameMacros(PageContext& context, const Wrapper& wrapper) {
   context.macros.setProjectText("MEMBER-FILE", module + "-" + wrapper.name());
 }
 
-void setTagMacros(PageContext& context) {
+void setTagMacros(PageContext& context, const ParsedComment& comment) {
   MacroTable& macros = context.macros;
-  setCommentText(context, "MEMBER-AUTHOR", context.parser.getAuthor());
-  setCommentText(context, "MEMBER-REVISION", context.parser.getRevision());
-  setCommentText(context, "MEMBER-VERSION", context.parser.getVersion());
+  setCommentText(context, comment, "MEMBER-AUTHOR", comment.getAuthor());
+  setCommentText(context, comment, "MEMBER-REVISION", comment.getRevision());
+  setCommentText(context, comment, "MEMBER-VERSION", comment.getVersion());
   constexpr std::string_view kNumbered[] = {"MEMBER-USER1", "MEMBER-USER2", "MEMBER-USER3",
                                             "MEMBER-USER4", "MEMBER-USER5"};
   for (std::size_t tag = 0; tag < ProjectSettings::kUserTags; ++tag) {
-    const std::string text = context.parser.getUser(tag + 1);
+    const std::string text = comment.getUser(tag + 1);
     // Of a generated comment these are what the settings say, so they call what comments may.
     for (const std::string& name : context.userTagMacros[tag]) macros.setCommentText(name, text);
     macros.setCommentText(kNumbered[tag], text);

@@ -8,11 +8,15 @@
 
 namespace tamrikon {
 
-/// A list macro's value from the entries of the comment that the parser has.
-LinkListRef macroList(const PageContext& context, CommentParser::Entries entries);
+/// The comment of a page.
+ParsedComment parse(const PageContext& context, CommentList comment);
 
-/// Sets what that comment says.
-void setCommentText(PageContext& context, std::string_view macro, std::string_view text);
+/// A list macro's value from entries of `comment`.
+LinkListRef macroList(const ParsedComment& comment, ParsedComment::Entries entries);
+
+/// Sets what `comment` says.
+void setCommentText(PageContext& context, const ParsedComment& comment, std::string_view macro,
+                    std::string_view text);
 
 /// MEMBER-NAME, MEMBER-MODULE and MEMBER-FILE.
 void setNameMacros(PageContext& context, const Wrapper& wrapper);
@@ -20,7 +24,7 @@ void setNameMacros(PageContext& context, const Wrapper& wrapper);
 /// MEMBER-AUTHOR, MEMBER-REVISION, MEMBER-VERSION and the user tags, each of these by its name and
 /// by its number, so that a tag's name can take the place of a macro that was set before. A tag
 /// without a name in `userTagMacros` has its number alone.
-void setTagMacros(PageContext& context);
+void setTagMacros(PageContext& context, const ParsedComment& comment);
 
 /// MEMBER-PUBLIC, MEMBER-PRIVATE and MEMBER-FRIEND: the word in one of them, the others empty.
 void setScopeMacros(PageContext& context, Scope scope);

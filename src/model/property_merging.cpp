@@ -10,9 +10,9 @@ void shareFirst(Wrapper& wrapper, Wrapper& companion) {
     static_cast<SpropGet&>(companion).hasNoLetSet = false;
   }
   if (companion.hadComment) {
-    wrapper.comment = companion.comment;
+    wrapper.shareCommentOf(companion);
   } else {
-    companion.comment = wrapper.comment;
+    companion.shareCommentOf(wrapper);
   }
 }
 
@@ -35,11 +35,12 @@ void PropertyMerging::makeSamePropsFirst() {
 }
 
 void PropertyMerging::addValueArgument(const Wrapper& writing, const Wrapper& reading) {
-  parser_.setComment(reading.comment);
   const auto& property = static_cast<const PropertyWrapper&>(writing);
   LastArgument last;
   tryStep([&] { last = property.generateCommentForLastArgument(settings_); });
-  if (parser_.getParamList().size() < last.count && last.line) {
+  if (!last.line) return;
+  const ParsedComment parsed = parseComment(reading.comment, tagWords_, indentsFor(settings_));
+  if (parsed.getParamList().size() < last.count) {
     reading.comment->push_back(*last.line);
   }
 }
@@ -48,10 +49,10 @@ void PropertyMerging::makeSameProps() {
   const auto share = [&](Wrapper& wrapper, Wrapper& companion) {
     if (companion.hadComment) {
       if (companion.kind() == WrapperKind::propGet) addValueArgument(wrapper, companion);
-      wrapper.comment = companion.comment;
+      wrapper.shareCommentOf(companion);
       wrapper.topic = companion.topic;
     } else {
-      companion.comment = wrapper.comment;
+      companion.shareCommentOf(wrapper);
       companion.topic = wrapper.topic;
     }
   };

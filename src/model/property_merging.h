@@ -2,7 +2,7 @@
 // the resolution of @same.
 #pragma once
 
-#include "comments/comment_parser.h"
+#include "comments/parsed_comment.h"
 #include "model/wrapper_collections.h"
 #include "settings/project_settings.h"
 
@@ -11,9 +11,9 @@ namespace tamrikon {
 class PropertyMerging {
  public:
   /// All of them must outlive this object.
-  PropertyMerging(const WrapperCollections& wrappers, CommentParser& parser,
+  PropertyMerging(const WrapperCollections& wrappers, const TagWords& tagWords,
                   const ProjectSettings& settings)
-      : wrappers_(wrappers), parser_(parser), settings_(settings) {}
+      : wrappers_(wrappers), tagWords_(tagWords), settings_(settings) {}
 
   /// Shares the comments, so that a @same in one procedure's comment holds for the others.
   void makeSamePropsFirst();
@@ -27,7 +27,7 @@ class PropertyMerging {
   void addValueArgument(const Wrapper& writing, const Wrapper& reading);
 
   const WrapperCollections& wrappers_;
-  CommentParser& parser_;
+  const TagWords& tagWords_;
   const ProjectSettings& settings_;
 };
 

@@ -34,6 +34,11 @@ class Wrapper {
   /// comments are resolved.
   Wrapper* topic = nullptr;
 
+  void shareCommentOf(const Wrapper& other) {
+    comment = other.comment;
+    comment->isShared = true;
+  }
+
   CodeModule& cmo() const { return source_.module(); }
   ModuleSource& source() const { return source_; }
 

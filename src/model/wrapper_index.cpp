@@ -121,7 +121,7 @@ void WrapperIndex::collectMembers(const WrapperCollections& wrappers) {
 
 void WrapperIndex::collectModules(const WrapperList& all) {
   for (const WrapperRef& wrapper : all) {
-    if (wrapper->comment.use_count() == 1) continue;  // nobody shares it
+    if (!wrapper->comment->isShared) continue;
     const std::string_view module = wrapper->source().name();
     modules_[wrapper->comment.get()].add(module, module);
   }
@@ -134,7 +134,7 @@ const WrapperIndex::ModuleMembers& WrapperIndex::membersOf(const CodeModule& mod
 }
 
 const KeyedList<std::string_view>* WrapperIndex::sharingModules(const Wrapper& wrapper) const {
-  if (wrapper.comment.use_count() == 1) return nullptr;  // saves the search for most of them
+  if (!wrapper.comment->isShared) return nullptr;
   const auto shared = modules_.find(wrapper.comment.get());
   if (shared == modules_.end() || shared->second.size() < 2) return nullptr;
   return &shared->second;

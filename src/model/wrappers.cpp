@@ -54,8 +54,8 @@ std::string Smethod::getSourceCode() const {
   return text;
 }
 
-std::string Smethod::pageReturn(PageContext& context) const {
-  return context.parser.getReturn();
+std::string Smethod::pageReturn(const ParsedComment& parsed) const {
+  return parsed.getReturn();
 }
 
 std::string Smethod::pageSource(PageContext&) const {
@@ -72,7 +72,7 @@ std::string Sevent::getSourceCode() const {
   return text.empty() ? declaration() : text;
 }
 
-std::string Sevent::pageReturn(PageContext&) const {
+std::string Sevent::pageReturn(const ParsedComment&) const {
   return {};
 }
 
@@ -119,7 +119,7 @@ std::string PropertyWrapper::getSourceCode(const WrapperCollections& wrappers) c
   return text.empty() ? declaration() : text;
 }
 
-std::string PropertyWrapper::pageReturn(PageContext&) const {
+std::string PropertyWrapper::pageReturn(const ParsedComment&) const {
   return {};
 }
 
@@ -137,14 +137,14 @@ std::string SpropGet::getReturns() const {
   return definition.returns;
 }
 
-std::string SpropGet::pageReturn(PageContext& context) const {
-  return hasNoLetSet ? context.parser.getReturn() : std::string();
+std::string SpropGet::pageReturn(const ParsedComment& parsed) const {
+  return hasNoLetSet ? parsed.getReturn() : std::string();
 }
 
 std::string SpropSet::getExistingCommentForLastArgument(const ProjectSettings& settings) const {
-  CommentParser parser(settings);
-  parser.setComment(comment);
-  const CommentParser::Entries entries = parser.getParamList();
+  const TagWords words(settings.userName);
+  const ParsedComment parsed = parseComment(comment, words, indentsFor(settings));
+  const ParsedComment::Entries entries = parsed.getParamList();
   return entries.empty() ? std::string() : tagLine("@param", entries.back());
 }
 

@@ -20,7 +20,7 @@ class Smethod final : public MemberWrapper {
   std::string getSourceCode() const;
 
  private:
-  std::string pageReturn(PageContext& context) const override;
+  std::string pageReturn(const ParsedComment& parsed) const override;
   std::string pageSource(PageContext& context) const override;
 };
 
@@ -33,7 +33,7 @@ class Sevent final : public MemberWrapper {
   std::string getSourceCode() const;
 
  private:
-  std::string pageReturn(PageContext& context) const override;
+  std::string pageReturn(const ParsedComment& parsed) const override;
   std::string pageSource(PageContext& context) const override;
 };
 
@@ -54,7 +54,7 @@ class PropertyWrapper : public MemberWrapper {
   using MemberWrapper::MemberWrapper;
 
  private:
-  std::string pageReturn(PageContext& context) const override;
+  std::string pageReturn(const ParsedComment& parsed) const override;
   std::string pageSource(PageContext& context) const final;
 };
 
@@ -69,7 +69,7 @@ class SpropGet final : public PropertyWrapper {
   std::string getReturns() const;
 
  private:
-  std::string pageReturn(PageContext& context) const override;
+  std::string pageReturn(const ParsedComment& parsed) const override;
 };
 
 /// A Property Let.
@@ -101,7 +101,7 @@ class DataWrapper : public MemberWrapper {
   using MemberWrapper::MemberWrapper;
 
  private:
-  std::string pageReturn(PageContext&) const final { return getReturns(); }
+  std::string pageReturn(const ParsedComment&) const final { return getReturns(); }
   std::string pageSource(PageContext&) const final { return declaration(); }
   bool hasParameters() const final { return false; }
 };

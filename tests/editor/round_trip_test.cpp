@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "base/text.h"
-#include "comments/comment_parser.h"
+#include "comments/parsed_comment.h"
 #include "editor/compose_comment.h"
 #include "editor/edited_comment.h"
 #include "editor/field_origins.h"
@@ -37,21 +37,21 @@ Lines applied(const Lines& written, const ProjectSettings& settings) {
 }
 
 Lines valuesOf(const Lines& written, const ProjectSettings& settings) {
-  CommentParser parser(settings);
-  parser.setComment(bodyOf(written));
-  Lines values{parser.getDescription()};
+  const TagWords words(settings.userName);
+  const ParsedComment parsed = parseComment(bodyOf(written), words, indentsFor(settings));
+  Lines values{parsed.getDescription()};
   if (!values[0].empty()) values[0].pop_back();
-  using Reader = std::string (CommentParser::*)() const;
+  using Reader = std::string (ParsedComment::*)() const;
   for (const Reader read :
-       {&CommentParser::getRemarks, &CommentParser::getReturn, &CommentParser::getAuthor,
-        &CommentParser::getVersion, &CommentParser::getRevision, &CommentParser::getSame}) {
-    values.push_back((parser.*read)());
+       {&ParsedComment::getRemarks, &ParsedComment::getReturn, &ParsedComment::getAuthor,
+        &ParsedComment::getVersion, &ParsedComment::getRevision, &ParsedComment::getSame}) {
+    values.push_back((parsed.*read)());
   }
-  for (std::size_t i = 1; i <= 5; ++i) values.push_back(parser.getUser(i));
-  values.push_back(parser.getIncludeSource().empty() ? "no source" : "source");
-  const auto [one, two, three] = parser.getSettingsList();
+  for (std::size_t i = 1; i <= 5; ++i) values.push_back(parsed.getUser(i));
+  values.push_back(parsed.getIncludeSource().empty() ? "no source" : "source");
+  const auto [one, two, three] = parsed.getSettingsList();
   for (const Lines& list :
-       {parser.getSeeList(), parser.getExampleList(), parser.getParamList(), one, two, three}) {
+       {parsed.getSeeList(), parsed.getExampleList(), parsed.getParamList(), one, two, three}) {
     values.push_back("of these " + std::to_string(list.size()));
     values.insert(values.end(), list.begin(), list.end());
   }

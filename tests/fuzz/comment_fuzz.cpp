@@ -1,6 +1,6 @@
 // A comment, taken apart, laid out anew and taken apart again.
 #include "base/text.h"
-#include "comments/comment_parser.h"
+#include "comments/parsed_comment.h"
 #include "editor/comment_fields.h"
 #include "editor/compose_comment.h"
 #include "fuzz/fuzz_target.h"
@@ -30,10 +30,10 @@ void fuzz(const std::string& data) {
     raw.emplace_back(line);
   }
   const CommentList comment = stripCommentQuotes(raw);
-  CommentParser parser(settings);
-  parser.setComment(comment);
-  parser.getSettingsList();
-  parser.getParamList();
+  const TagWords words(settings.userName);
+  const ParsedComment parsed = parseComment(comment, words, indentsFor(settings));
+  parsed.getSettingsList();
+  parsed.getParamList();
   const CommentLines once = composeComment(parseIntoFields(*comment, settings), settings);
   CommentLines written = rewritten(once, settings);
   // Without wrapping and joining it settles, as it never grows; a run of tabs loses one each time.

@@ -5,7 +5,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "comments/comment_parser.h"
+#include "comments/parsed_comment.h"
 #include "model/links.h"
 #include "model/wrapper_collections.h"
 
@@ -14,8 +14,8 @@ namespace tamrikon {
 class SameComments {
  public:
   /// All of them must outlive this object.
-  SameComments(const WrapperCollections& wrappers, Links& links, CommentParser& parser)
-      : wrappers_(wrappers), links_(links), parser_(parser) {}
+  SameComments(const WrapperCollections& wrappers, Links& links, const TagWords& tagWords)
+      : wrappers_(wrappers), links_(links), tagWords_(tagWords) {}
 
   /// Follows chains to their end. A reference that leads nowhere, or in a circle, leaves the member
   /// with its own comment. Afterwards every wrapper knows whose topic serves it.
@@ -31,7 +31,7 @@ class SameComments {
 
   const WrapperCollections& wrappers_;
   Links& links_;
-  CommentParser& parser_;
+  const TagWords& tagWords_;
   std::unordered_map<const Wrapper*, State> states_;  // of those that point to another
 };
 

@@ -1,4 +1,4 @@
-#include "comments/comment_parser.h"
+#include "comments/parsed_comment.h"
 
 #include <algorithm>
 #include <utility>
@@ -28,30 +28,51 @@ void appendLine(std::string& entry, std::string_view line) {
 
 }  // namespace
 
-void CommentParser::setComment(CommentList comment) {
-  comment_ = std::move(comment);
-  loadUserTags();
-  lineCount_ = comment_ ? comment_->size() : 0;
-  tagLines_.clear();
+TagWords::TagWords(const std::array<std::string, ProjectSettings::kUserTags>& userNames) {
+  for (std::size_t n = 0; n < userNames.size(); ++n) words_[user1 + n] = "@" + userNames[n];
+}
+
+unsigned TagWords::tagsOf(std::string_view line) const {
+  line = trimLeading(line);
+  if (!line.starts_with('@')) return 0;
+  line = trimTrailing(line);
+  unsigned tags = 0;
+  for (std::size_t tag = 0; tag < tagCount; ++tag) {
+    const std::string_view word = words_[tag];
+    const bool canStart = word.size() < 2 || (line.size() > 1 && line[1] == word[1]);
+    if (canStart && line.starts_with(word)) tags |= 1u << tag;
+  }
+  return tags;
+}
+
+ParsedComment::ParsedComment(CommentList comment, const TagWords& words, Indents indents)
+    : comment_(std::move(comment)),
+      words_(&words),
+      indents_(indents),
+      lineCount_(comment_ ? comment_->size() : 0) {
   for (std::size_t line = 0; line < lineCount_; ++line) {
-    const unsigned tags = tagsOf((*comment_)[line]);
+    const unsigned tags = words.tagsOf((*comment_)[line]);
     if (tags == 0) continue;
     if (!tagLines_.empty()) tagLines_.back().end = line;
     tagLines_.push_back({line, lineCount_, tags});
   }
 }
 
-std::vector<std::size_t> CommentParser::tagLines() const {
+ParsedComment parseComment(CommentList comment, const TagWords& words, Indents indents) {
+  return ParsedComment(std::move(comment), words, indents);
+}
+
+std::vector<std::size_t> ParsedComment::tagLines() const {
   std::vector<std::size_t> lines;
   for (const TagLine& tagLine : tagLines_) lines.push_back(tagLine.line);
   return lines;
 }
 
-CommentParser::Entries CommentParser::getParamList() const {
-  Entries entries = entriesFor(param);
+ParsedComment::Entries ParsedComment::getParamList() const {
+  Entries entries = entriesFor(Tag::param);
   for (const TagLine& tagLine : tagLines_) {
-    if (!tagLine.is(param)) continue;
-    std::string_view text = tagText(tagLine, param);
+    if (!tagLine.is(Tag::param)) continue;
+    std::string_view text = tagText(tagLine, Tag::param);
     const bool hasText = firstWhitespace(text) != 0;
     std::string& entry = entries.emplace_back();
     entry.reserve(roomFor(tagLine.line, tagLine.end));
@@ -62,12 +83,12 @@ CommentParser::Entries CommentParser::getParamList() const {
   return entries;
 }
 
-std::array<CommentParser::Entries, 3> CommentParser::getSettingsList() const {
+std::array<ParsedComment::Entries, 3> ParsedComment::getSettingsList() const {
   std::array<Entries, 3> tables;
   std::array<std::string_view, 3> names;
   for (const TagLine& tagLine : tagLines_) {
-    if (!tagLine.is(set)) continue;
-    std::string_view text = tagText(tagLine, set);
+    if (!tagLine.is(Tag::set)) continue;
+    std::string_view text = tagText(tagLine, Tag::set);
     const std::string_view parameter = cutWord(text);
     const std::string_view constant = cutWord(text);
     const std::string_view value = cutAt(text, firstWhitespaceOutsideStrings(text));
@@ -89,7 +110,7 @@ std::array<CommentParser::Entries, 3> CommentParser::getSettingsList() const {
   return tables;
 }
 
-std::string CommentParser::getDescription() const {
+std::string ParsedComment::getDescription() const {
   std::string text;
   const std::size_t end = tagLines_.empty() ? lineCount_ : tagLines_.front().line;
   text.reserve(roomFor(0, end));
@@ -104,36 +125,13 @@ std::string CommentParser::getDescription() const {
   return text;
 }
 
-std::string CommentParser::getUser(std::size_t number) const {
+std::string ParsedComment::getUser(std::size_t number) const {
   if (number < 1 || number > ProjectSettings::kUserTags) return {};
-  return firstText(static_cast<Tag>(user1 + number - 1));
-}
-
-void CommentParser::loadUserTags() {
-  for (std::size_t i = 0; i < ProjectSettings::kUserTags; ++i) {
-    const std::string& name = settings_.userName[i];
-    std::string& word = words_[user1 + i];
-    if (word.size() == name.size() + 1 && word.ends_with(name)) continue;  // as in each comment
-    word = '@';
-    word += name;
-  }
-}
-
-unsigned CommentParser::tagsOf(std::string_view line) const {
-  line = trimLeading(line);
-  if (!line.starts_with('@')) return 0;
-  line = trimTrailing(line);
-  unsigned tags = 0;
-  for (std::size_t tag = 0; tag < tagCount; ++tag) {
-    const std::string_view word = words_[tag];
-    const bool canStart = word.size() < 2 || (line.size() > 1 && line[1] == word[1]);
-    if (canStart && line.starts_with(word)) tags |= 1u << tag;
-  }
-  return tags;
+  return firstText(static_cast<Tag>(Tag::user1 + number - 1));
 }
 
 /// No entries yet, with memory for all lines of the tag.
-CommentParser::Entries CommentParser::entriesFor(Tag tag) const {
+ParsedComment::Entries ParsedComment::entriesFor(Tag tag) const {
   Entries entries;
   const auto count = std::count_if(tagLines_.begin(), tagLines_.end(),
                                    [&](const TagLine& tagLine) { return tagLine.is(tag); });
@@ -142,18 +140,18 @@ CommentParser::Entries CommentParser::entriesFor(Tag tag) const {
 }
 
 /// The bytes that the lines up to `end` take at most, with what is put before and behind each.
-std::size_t CommentParser::roomFor(std::size_t line, std::size_t end) const {
+std::size_t ParsedComment::roomFor(std::size_t line, std::size_t end) const {
   std::size_t size = 0;
   for (; line < end; ++line) size += (*comment_)[line].size() + 2;
   return size;
 }
 
-std::string_view CommentParser::tagText(const TagLine& tagLine, Tag tag) const {
-  return trim(trim((*comment_)[tagLine.line]).substr(words_[tag].size()));
+std::string_view ParsedComment::tagText(const TagLine& tagLine, Tag tag) const {
+  return trim(trim((*comment_)[tagLine.line]).substr(words_->of(tag).size()));
 }
 
-void CommentParser::appendFirstLineText(std::string& text, std::string_view line) const {
-  if (settings_.indentMode == 1) {
+void ParsedComment::appendFirstLineText(std::string& text, std::string_view line) const {
+  if (indents_ == Indents::ignored) {
     if (line.starts_with('\'')) {
       line.remove_prefix(1);
     } else {
@@ -163,8 +161,8 @@ void CommentParser::appendFirstLineText(std::string& text, std::string_view line
   text += line;
 }
 
-void CommentParser::appendContinuationText(std::string& text, std::string_view line) const {
-  if (settings_.indentMode == 1) {
+void ParsedComment::appendContinuationText(std::string& text, std::string_view line) const {
+  if (indents_ == Indents::ignored) {
     // A second quote keeps the blanks behind it.
     if (line.starts_with('\'')) {
       line.remove_prefix(1);
@@ -176,14 +174,14 @@ void CommentParser::appendContinuationText(std::string& text, std::string_view l
   text += line;
 }
 
-void CommentParser::appendContinuationLines(std::string& entry, const TagLine& tagLine) const {
+void ParsedComment::appendContinuationLines(std::string& entry, const TagLine& tagLine) const {
   for (std::size_t line = tagLine.line + 1; line < tagLine.end; ++line) {
     appendContinuationText(entry, (*comment_)[line]);
     entry += '\r';
   }
 }
 
-CommentParser::Entries CommentParser::linkEntries(Tag tag) const {
+ParsedComment::Entries ParsedComment::linkEntries(Tag tag) const {
   Entries entries = entriesFor(tag);
   for (const TagLine& tagLine : tagLines_) {
     if (!tagLine.is(tag)) continue;
@@ -197,7 +195,7 @@ CommentParser::Entries CommentParser::linkEntries(Tag tag) const {
   return entries;
 }
 
-std::string CommentParser::firstText(Tag tag) const {
+std::string ParsedComment::firstText(Tag tag) const {
   for (const TagLine& tagLine : tagLines_) {
     if (!tagLine.is(tag)) continue;
     std::string text;
@@ -212,7 +210,7 @@ std::string CommentParser::firstText(Tag tag) const {
   return {};
 }
 
-std::string CommentParser::lastText(Tag tag) const {
+std::string ParsedComment::lastText(Tag tag) const {
   for (auto tagLine = tagLines_.rbegin(); tagLine != tagLines_.rend(); ++tagLine) {
     if (tagLine->is(tag)) return std::string(tagText(*tagLine, tag));
   }

@@ -1,4 +1,4 @@
-#include "compiler/same_comments.h"
+#include "model/same_comments.h"
 
 #include <vector>
 
@@ -16,8 +16,7 @@ Wrapper* SameComments::targetOf(const Wrapper& wrapper, bool& points) {
   // Hardly any comment holds the tag, and those that don't needn't be taken apart.
   points = wrapper.comment->contains("@same");
   if (!points) return nullptr;
-  parser_.setComment(wrapper.comment);
-  const std::string same = parser_.getSame();
+  const std::string same = parseComment(wrapper.comment, tagWords_, Indents::kept).getSame();
   points = !same.empty();
   if (!points) return nullptr;
   // Through the text of the link, as kinds in it are looked up without regard to case here.
@@ -45,7 +44,7 @@ void SameComments::resolveSameOf(Wrapper& first) {
   for (; !chain.empty(); chain.pop_back()) {
     Wrapper& pointing = *chain.back();
     if (resolved) {
-      pointing.comment = wrapper->comment;
+      pointing.shareCommentOf(*wrapper);
       pointing.topic = wrapper->topic;
     }
     states_[&pointing] = resolved ? State::done : State::unresolved;
