@@ -15,10 +15,6 @@
 namespace tamrikon {
 namespace {
 
-struct Silence final : MessageLog {
-  void logMessage(const std::string&) override {}
-};
-
 struct NoErrors final : FileErrorReporter {
   FileErrorAnswer reportFileError(const std::string&, std::string_view, FileError) override {
     return FileErrorAnswer::fail;
@@ -46,7 +42,7 @@ struct Table {
     macros.loadSrc(templatePath(), true, files);
   }
 
-  Silence log;
+  NoLog log;
   NoErrors errors;
   TextFiles files{nativeFileSystem(), errors};
   EchoLinks links;

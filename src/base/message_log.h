@@ -3,22 +3,26 @@
 
 #include <string>
 
+#include "base/diagnostic.h"
+
 namespace tamrikon {
 
 class MessageLog {
  public:
   virtual ~MessageLog() = default;
 
-  /// Adds `text` (one message, perhaps of several lines) to the progress log. A text that begins
-  /// with "Warning: " and equals the message before it isn't shown again.
+  /// Adds `text` (one message, perhaps of several lines), which reports no fault.
   virtual void logMessage(const std::string& text) = 0;
 
-  /// The same for a message that has a better wording where people read messages one by one, as on
-  /// a terminal; an empty one has nothing to say there. The log holds `text`.
-  virtual void logMessageAs(const std::string& text, const std::string& wording) {
-    static_cast<void>(wording);
-    logMessage(text);
-  }
+  /// A warning of a comment that equals the message before it isn't shown again.
+  virtual void report(const Diagnostic& diagnostic) = 0;
+};
+
+/// For those who don't care.
+class NoLog final : public MessageLog {
+ public:
+  void logMessage(const std::string&) override {}
+  void report(const Diagnostic&) override {}
 };
 
 }  // namespace tamrikon

@@ -19,7 +19,7 @@ namespace {
 class CommentRun {
  public:
   CommentRun(const CommentOptions& options, const Streams& streams)
-      : options_(options), streams_(streams), terminal_(streams, false) {}
+      : options_(options), streams_(streams), terminal_(streams) {}
 
   int run() {
     ide_ = openProject(options_, terminal_, files());
@@ -84,8 +84,8 @@ class CommentRun {
     } else if (!modules_.contains(target.module)) {
       throw IdeError("there is no module of that name");
     } else if (!settings.comModules.contains(target.module)) {
-      terminal_.complain("warning: the settings don't select module " + target.module +
-                         " to be documented");
+      terminal_.report({Diagnostic::About::project, Severity::warning, "unselected-module",
+                        "the settings don't select module " + target.module + " to be documented"});
     }
   }
 

@@ -14,12 +14,6 @@
 namespace tamrikon {
 namespace {
 
-/// Nothing is compiled, so nobody wants to hear of dead links.
-class NoLog final : public MessageLog {
- public:
-  void logMessage(const std::string&) override {}
-};
-
 WrapperRef procedureOf(ModuleSource& source, Member& member, ProcKind kind) {
   switch (kind) {
     case ProcKind::get: return std::make_shared<SpropGet>(source, member);
@@ -120,7 +114,7 @@ std::vector<Skeleton> missingSkeletons(SourceCache& sources, const ProjectSettin
   wanted.comNonCommented = true;
   wanted.comContextID = false;  // help ids are the business of compiles
 
-  NoLog log;
+  NoLog log;  // nothing is compiled, so nobody cares about dead links
   const auto model = analyseProject(wanted, sources, log, goOn);
   if (model == nullptr) return {};
   std::unordered_map<const ModuleSource*, std::size_t> places;

@@ -65,9 +65,7 @@ GroupFolders chooseFolders(Session& session, HostIde& ide, const CompileOptions&
 /// Warns of modules that the settings file doesn't list, if there is such a file.
 void tellUnlistedModules(Session& session, HostIde& ide, Terminal& terminal) {
   if (session.settingsFile.unlistedModules(ide).empty()) return;
-  for (const std::string& note : session.settingsFile.notes(ide)) {
-    terminal.complain("warning: " + note);
-  }
+  for (const Diagnostic& fault : session.settingsFile.notes(ide)) terminal.report(fault);
   terminal.complain(
       "tamrikon: the command `settings` adds them with --add-modules, or notes with "
       "--leave-out-modules that they are left out on purpose");
@@ -152,8 +150,8 @@ bool ProjectCompiles::compileAll() {
   for (int number = 1; number <= ide_.VBProjects().Count(); ++number) {
     projects.push_back(&ide_.VBProjects().Item(number));
   }
-  for (const std::string& warning : warningsOfMissingModules(options_.settings, projects)) {
-    terminal_.complain(warning);
+  for (const Diagnostic& fault : missingModules(options_.settings, projects)) {
+    terminal_.report(fault);
   }
   if (ide_.isGroup()) return compileProjectsOfGroup();
   VBProject& project = ide_.ActiveVBProject();
@@ -177,7 +175,7 @@ bool ProjectCompiles::compileProjectsOfGroup() {
 bool saveAll(HostIde& ide, Terminal& terminal) {
   const std::vector<SaveFailure> failures = ide.saveAll();
   for (const SaveFailure& failure : failures) terminal.complain("tamrikon: " + failure.text);
-  for (const std::string& warning : ide.takeSaveWarnings()) terminal.complain(warning);
+  for (const Diagnostic& warning : ide.takeSaveWarnings()) terminal.report(warning);
   return failures.empty();
 }
 
@@ -219,7 +217,10 @@ void keepToTheEnd(std::unique_ptr<T> object) {
 
 int compileCommand(const CompileOptions& options, const Streams& streams) {
   std::ofstream log;
-  Terminal terminal(streams, options.quiet);
+  const auto detail = options.quiet     ? Terminal::Detail::faults
+                      : options.verbose ? Terminal::Detail::commands
+                                        : Terminal::Detail::messages;
+  Terminal terminal(streams, detail);
   if (!options.logFile.empty()) {
     log.open(nativePath(options.logFile), std::ios::binary | std::ios::trunc);
     if (!log) {
@@ -237,7 +238,6 @@ int compileCommand(const CompileOptions& options, const Streams& streams) {
   Session session(terminal.fileErrors, nativeFileSystem(), nativeProcessServices(), dataFolder());
   CompileRun run;
   run.runsPrograms = options.runsPrograms;
-  run.showsCommands = options.verbose;
   if (options.printsTimes) run.times = &times;
   ProjectCompiles compiles(session, *ide, options, terminal, run);
   bool worked = compiles.compileAll();

@@ -108,7 +108,7 @@ class Completions {
     std::string ignored;
     FileSystem& files = nativeFileSystem();
     const auto ide = HostIde::open(
-        files, files.absolute(project), nullptr, [](const std::string&) {}, ignored);
+        files, files.absolute(project), nullptr, [](const Diagnostic&) {}, ignored);
     if (!ide) return;
     for (CodeModule* module : SettingsFile::codeModules(*ide)) {
       put(module->Name() + behind, "module");

@@ -9,7 +9,7 @@
 namespace tamrikon {
 
 int exampleCommand(const ExampleOptions& options, const Streams& streams) {
-  Terminal terminal(streams, false);
+  Terminal terminal(streams);
   const std::unique_ptr<HostIde> ide = openProject(options, terminal);
   if (!ide) return kFailed;
   const SourceRange range = *readSourceRange(options.range);

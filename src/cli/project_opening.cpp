@@ -8,7 +8,7 @@ std::unique_ptr<HostIde> openProject(const ProjectOptions& options, Terminal& te
   std::string why;
   std::unique_ptr<HostIde> ide = HostIde::open(
       files, files.absolute(options.project), page,
-      [&](const std::string& warning) { terminal.complain(warning); }, why);
+      [&](const Diagnostic& fault) { terminal.report(fault); }, why);
   if (!ide) terminal.complain("tamrikon: " + why);
   return ide;
 }
@@ -25,8 +25,7 @@ void activateProject(Session& session, HostIde& ide, VBProject& project, Termina
   ide.activate(project);
   session.files.setCodePage(ide.codePageOf(project));
   session.settingsFile.readProjectSettings(ide);
-  const std::string& fault = session.settingsFile.fault();
-  if (!fault.empty()) terminal.complain("warning: " + fault + "; the defaults hold");
+  if (const auto fault = session.settingsFile.faultOfFile()) terminal.report(*fault);
 }
 
 }  // namespace tamrikon

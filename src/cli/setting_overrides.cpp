@@ -140,8 +140,8 @@ std::string applySettings(Session& session, VBE& ide, const std::vector<std::str
   return chooseTemplate(session, *templateArgument, divided(*templateArgument).value);
 }
 
-std::vector<std::string> warningsOfMissingModules(const std::vector<std::string>& arguments,
-                                                  const std::vector<const VBProject*>& projects) {
+std::vector<Diagnostic> missingModules(const std::vector<std::string>& arguments,
+                                       const std::vector<const VBProject*>& projects) {
   KeyedList<std::string> known;
   for (const VBProject* project : projects) {
     for (int number = 1; number <= project->VBComponents().Count(); ++number) {
@@ -149,13 +149,14 @@ std::vector<std::string> warningsOfMissingModules(const std::vector<std::string>
       if (module != nullptr) known.add(module->Name(), module->Name());
     }
   }
-  std::vector<std::string> warnings;
+  std::vector<Diagnostic> warnings;
   for (const std::string& argument : arguments) {
     const auto [key, value] = divided(argument);
     if (key != kModulesKey) continue;
     for (const std::string_view name : split(value, ',')) {
       if (trim(name).empty() || known.contains(trim(name))) continue;
-      warnings.push_back("warning: comModules: there is no module " + std::string(trim(name)));
+      warnings.push_back({Diagnostic::About::project, Severity::warning, "missing-module",
+                          "comModules: there is no module " + std::string(trim(name))});
     }
   }
   return warnings;

@@ -26,9 +26,9 @@ std::string faultOfMissingTemplate(FileSystem& files, const std::string& path);
 /// Whether one of the arguments sets `key`.
 bool setsKey(const std::vector<std::string>& arguments, std::string_view key);
 
-/// A line for each module that comModules among the arguments names and that none of the projects
-/// has.
-std::vector<std::string> warningsOfMissingModules(const std::vector<std::string>& arguments,
-                                                  const std::vector<const VBProject*>& projects);
+/// A warning for each module that comModules among the arguments names and that none of the
+/// projects has.
+std::vector<Diagnostic> missingModules(const std::vector<std::string>& arguments,
+                                       const std::vector<const VBProject*>& projects);
 
 }  // namespace tamrikon

@@ -32,16 +32,18 @@ bool changeSettings(Session& session, HostIde& ide, const SettingsOptions& optio
     terminal.complain("tamrikon: " + fault);
     return false;
   }
-  for (const std::string& warning :
-       warningsOfMissingModules(options.settings, {&ide.ActiveVBProject()})) {
-    terminal.complain(warning);
+  for (const Diagnostic& fault : missingModules(options.settings, {&ide.ActiveVBProject()})) {
+    terminal.report(fault);
   }
   SettingsFile& file = session.settingsFile;
   if (options.addsModules) file.addOtherModules(ide);
   if (options.leavesOutModules) file.leaveOutOtherModules(ide);
   const int result = file.writeSettingsFile(ide);
   const std::string& backup = file.keptAs();
-  if (!backup.empty()) terminal.complain("warning: its text is kept as " + backup);
+  if (!backup.empty()) {
+    terminal.report({Diagnostic::About::project, Severity::warning, "kept-settings",
+                     "its text is kept as " + backup});
+  }
   return result == 0;
 }
 
@@ -57,7 +59,7 @@ bool keepPage(const VBProject& project, int page, Terminal& terminal) {
 }  // namespace
 
 int settingsCommand(SettingsOptions options, const Streams& streams) {
-  Terminal terminal(streams, false);
+  Terminal terminal(streams);
   const int kept = options.keptCodePage;
   if (kept != 0 && options.codePage == 0) options.codePage = kept;
   const std::unique_ptr<HostIde> ide = openProject(options, terminal);

@@ -11,7 +11,8 @@
 namespace tamrikon {
 int templatesCommand(int codePage, const Streams& streams) {
   constexpr std::size_t kNameWidth = 16;
-  Terminal terminal(streams, true);  // faults of a template show when it is compiled with
+  Terminal terminal(
+      streams, Terminal::Detail::faults);  // faults of a template show when it is compiled with
   Session session(terminal.fileErrors, nativeFileSystem(), nativeProcessServices(), dataFolder());
   if (codePage != 0) session.files.setCodePage(*CodePage::find(codePage));
   session.settings.outputPath = session.addInFolder;  // as for a project without a file

@@ -12,6 +12,7 @@
 namespace tamrikon {
 namespace {
 
+/// As programs, and our own log, begin them.
 bool isWarning(std::string_view line) {
   return startsWithIgnoringCase(line, "warning: ") ||
          startsWithIgnoringCase(line, "warning (config file): ") ||
@@ -19,15 +20,19 @@ bool isWarning(std::string_view line) {
          startsWithIgnoringCase(line, "error (config file): ");
 }
 
-/// A message that begins as a warning or an error, and otherwise those of its lines that do: what a
-/// template's programs print comes as one message. Empty if there is none.
-std::string warningsOf(const std::string& message) {
-  if (isWarning(message)) return message;
+/// What programs have printed, if it begins as a warning or an error, and otherwise those of its
+/// lines that do. Empty if there is none.
+std::string warningsOf(const std::string& output) {
+  if (isWarning(output)) return output;
   std::string warnings;
-  for (const std::string_view line : split(message, '\n')) {
+  for (const std::string_view line : split(output, '\n')) {
     if (isWarning(line)) warnings.append(warnings.empty() ? "" : "\n").append(line);
   }
   return warnings;
+}
+
+std::string withoutLastLineEnd(const std::string& text) {
+  return text.ends_with('\n') ? text.substr(0, text.size() - 1) : text;
 }
 
 std::string withLineFeeds(const std::string& text) {
@@ -45,7 +50,7 @@ std::string_view shortened(std::string_view text, std::size_t width) {
 
 }  // namespace
 
-Terminal::Terminal(const Streams& streams, bool quiet) : streams_(streams), quiet_(quiet) {}
+Terminal::Terminal(const Streams& streams, Detail detail) : streams_(streams), detail_(detail) {}
 
 Terminal::~Terminal() {
   clearStatus();
@@ -83,14 +88,37 @@ bool Terminal::openDocument(const std::string& path, const MessageBox& failure) 
   return false;
 }
 
-void Terminal::addMessage(const std::string& text, const std::string& wording) {
-  if (!compiles_) return;
+void Terminal::addToLog(const std::string& text) {
   if (log_ != nullptr) *log_ << withLineFeeds(text) << '\n';
-  if (wording.empty() && !text.empty()) return;
-  const std::string lines = withLineFeeds(wording);
+}
+
+void Terminal::addMessage(const std::string& text) {
+  if (!compiles_) return;
+  addToLog(text);
+  if (detail_ != Detail::faults) print(withLineFeeds(text));
+}
+
+void Terminal::report(const Diagnostic& diagnostic) {
+  if (diagnostic.about == Diagnostic::About::project) {
+    hadWarnings_ = hadWarnings_ || diagnostic.severity != Severity::note;
+    return complain(lineOf(diagnostic));
+  }
+  if (!compiles_) return;
+  hadWarnings_ = true;
+  addToLog(logLineOf(diagnostic));
+  print(withLineFeeds(lineOf(diagnostic)));
+}
+
+void Terminal::addProgramOutput(const ProgramOutput& output) {
+  if (!compiles_) return;
+  addToLog(output.log);
+  const bool showsCommands = detail_ == Detail::commands;
+  const std::string text = showsCommands ? output.log : withoutLastLineEnd(output.printed);
+  if (text.empty()) return;
+  const std::string lines = withLineFeeds(text);
   const std::string warnings = warningsOf(lines);
   hadWarnings_ = hadWarnings_ || !warnings.empty();
-  if (!quiet_) {
+  if (detail_ != Detail::faults) {
     print(lines);
   } else if (!warnings.empty()) {
     print(warnings);
@@ -104,7 +132,6 @@ void Terminal::print(const std::string& text) {
 
 void Terminal::complain(const std::string& text) {
   clearStatus();
-  hadWarnings_ = hadWarnings_ || !warningsOf(text).empty();
   streams_.err << text << '\n' << std::flush;
 }
 

@@ -15,9 +15,11 @@ namespace tamrikon {
 
 class Terminal final : public Prompter, public CompileListener {
  public:
-  /// The streams must outlive this object. With `quiet`, only warnings and errors of the log are
-  /// printed.
-  Terminal(const Streams& streams, bool quiet);
+  /// How much of the log is printed.
+  enum class Detail { faults, messages, commands };
+
+  /// The streams must outlive this object. `commands` are those of the template's programs.
+  explicit Terminal(const Streams& streams, Detail detail = Detail::messages);
   ~Terminal() override;
   Terminal(const Terminal&) = delete;
   Terminal& operator=(const Terminal&) = delete;
@@ -28,7 +30,8 @@ class Terminal final : public Prompter, public CompileListener {
   /// Adds a stream, which must outlive this object, that gets all messages of the log.
   void setLog(std::ostream& log) { log_ = &log; }
 
-  /// Whether there was a warning or an error, in the log or beside it.
+  /// Whether there was a warning or an error, in the log or beside it. Lines of a program's output
+  /// that begin as one count.
   bool hadWarnings() const { return hadWarnings_; }
 
   /// Whether Ctrl+C has ended a template's programs: then the whole run is to end.
@@ -47,9 +50,12 @@ class Terminal final : public Prompter, public CompileListener {
   void compileBegins() override;
   void compileEnded(CompileOutcome outcome) override;
 
-  /// While a compile runs, the log gets `text` and the output `wording`.
-  void addMessage(const std::string& text, const std::string& wording) override;
-  void warn(const std::string& line) override { complain(line); }
+  // While a compile runs, all of these go to the log as well, but for faults of the project.
+  void addMessage(const std::string& text) override;
+  void addProgramOutput(const ProgramOutput& output) override;
+
+  /// Faults of the project go to the error stream, those that the log has to the output.
+  void report(const Diagnostic& diagnostic) override;
   void setStatusLine(const std::string& text) override;
 
   /// The next status line shows it.
@@ -61,11 +67,12 @@ class Terminal final : public Prompter, public CompileListener {
 
  private:
   MessageAnswer ask(const MessageBox& box);
+  void addToLog(const std::string& text);
   void showStatus(const std::string& text);
   void clearStatus();
 
   Streams streams_;
-  bool quiet_;
+  Detail detail_;
   std::ostream* log_ = nullptr;
   bool hadWarnings_ = false;
   bool compiles_ = false;

@@ -35,9 +35,9 @@ struct IAddInApplication : IUnknown {
   ~IAddInApplication() = default;
 };
 
-/// {26A5D360-BC2D-47F9-8A54-A24670A1D772}
+/// {6FDE041F-E956-4E36-8CC7-6D22EB8A8A49}
 constexpr IID IID_IAddInApplication = {
-    0x26A5D360, 0xBC2D, 0x47F9, {0x8A, 0x54, 0xA2, 0x46, 0x70, 0xA1, 0xD7, 0x72}};
+    0x6FDE041F, 0xE956, 0x4E36, {0x8C, 0xC7, 0x6D, 0x22, 0xEB, 0x8A, 0x8A, 0x49}};
 
 struct IAddIn : IUnknown {
   /// `application` answers to IAddInApplication. `addInInst` stands for the add-in with its host

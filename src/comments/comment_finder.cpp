@@ -47,7 +47,9 @@ Comment commentBody(const ModuleLines& module, const LineRange& range) {
   std::vector<std::string_view> body;
   body.reserve(static_cast<std::size_t>(std::max(0, range.last - range.first)));
   for (int line = range.first + 1; line <= range.last; ++line) body.push_back(module.line(line));
-  return {module.memory(), std::move(body)};
+  Comment comment(module.memory(), std::move(body));
+  comment.firstLine = range.first + 1;
+  return comment;
 }
 
 }  // namespace tamrikon

@@ -28,6 +28,14 @@ bool Comment::contains(std::string_view part) const {
   });
 }
 
+int Comment::lineWith(std::string_view part) const {
+  const auto found = std::find_if(lines_.begin(), lines_.end(), [&](std::string_view line) {
+    return line.find(part) != std::string_view::npos;
+  });
+  if (firstLine == 0 || found == lines_.end()) return 0;
+  return firstLine + static_cast<int>(found - lines_.begin());
+}
+
 CommentList stripCommentQuotes(const Comment& rawLines) {
   std::vector<std::string_view> body;
   body.reserve(rawLines.size());
@@ -36,7 +44,9 @@ CommentList stripCommentQuotes(const Comment& rawLines) {
     if (line.starts_with('\'')) line.remove_prefix(1);
     body.push_back(line);
   }
-  return std::make_shared<Comment>(rawLines.memory(), std::move(body));
+  auto comment = std::make_shared<Comment>(rawLines.memory(), std::move(body));
+  comment->firstLine = rawLines.firstLine;
+  return comment;
 }
 
 }  // namespace tamrikon

@@ -37,6 +37,13 @@ class Comment {
   CommentLines lines() const { return {lines_.begin(), lines_.end()}; }
   const std::shared_ptr<const void>& memory() const { return memory_; }
 
+  /// The line of the module, from 1, of the first one that contains `part`; 0 if there is none or
+  /// it isn't known where the comment stands.
+  int lineWith(std::string_view part) const;
+
+  /// On which line of its module, from 1, its first one stands; 0 if nobody wrote it.
+  int firstLine = 0;
+
   /// Whether nobody wrote it: it was made of a declaration and the IDE's description.
   bool isGenerated = false;
 

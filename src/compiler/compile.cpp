@@ -95,11 +95,12 @@ CompileResult compileProject(Session& session, VBE& ide, CompileRun& run,
     compile(context);
     result.outcome = run.cancelRequested ? CompileOutcome::aborted : CompileOutcome::finished;
   } catch (const std::length_error& tooMuch) {
-    result.compiled->log().logMessage(std::string("ERROR: ") + tooMuch.what());
+    result.compiled->log().report(
+        {Diagnostic::About::compile, Severity::error, "too-large", tooMuch.what()});
   } catch (const std::exception&) {
     result.explainsFailure = false;
   }
-  for (const std::string& line : run.writtenFiles.endProject()) listener.warn(line);
+  for (const Diagnostic& fault : run.writtenFiles.endProject()) listener.report(fault);
   listener.compileEnded(result.outcome);
   return result;
 }

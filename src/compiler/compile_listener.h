@@ -4,6 +4,9 @@
 #include <cstddef>
 #include <string>
 
+#include "base/diagnostic.h"
+#include "compiler/program_output.h"
+
 namespace tamrikon {
 
 struct CompileRun;
@@ -20,15 +23,14 @@ class CompileListener {
   /// Nothing more comes from that compile.
   virtual void compileEnded(CompileOutcome) {}
 
-  /// A message of the log. `wording` says the same where people read messages one by one, as on a
-  /// terminal; it is empty if there is nothing to say there.
-  virtual void addMessage(const std::string& text, const std::string& wording) {
-    static_cast<void>(text);
-    static_cast<void>(wording);
-  }
+  /// A message of the log that reports no fault.
+  virtual void addMessage(const std::string&) {}
 
-  /// A warning beside the log, as one line without its end.
-  virtual void warn(const std::string&) {}
+  /// A fault, which the log shows as well unless it is about the project.
+  virtual void report(const Diagnostic&) {}
+
+  /// What the template's programs have printed, for the log as well.
+  virtual void addProgramOutput(const ProgramOutput&) {}
 
   /// What is being done.
   virtual void setStatusLine(const std::string&) {}

@@ -12,7 +12,6 @@ struct CompileRun {
   bool compileWholeGroup = false;
   GroupFolders groupFolders;      // of a group compile
   bool runsPrograms = true;       // whether a template's external programs run
-  bool showsCommands = false;     // their commands are shown where messages are read one by one
   bool showsPrograms = false;     // the status line names the one that runs
   CompileTimes* times = nullptr;  // takes the times of the phases, unless null
 

@@ -34,10 +34,6 @@ class RunningProgram {
   ProcessHandle& handle_;
 };
 
-std::string withoutLastLineEnd(const std::string& text) {
-  return text.ends_with('\n') ? text.substr(0, text.size() - 1) : text;
-}
-
 }  // namespace
 
 void ExternalPrograms::runExternalPrograms(const std::string& text) {
@@ -47,7 +43,7 @@ void ExternalPrograms::runExternalPrograms(const std::string& text) {
   if (runScript(text, script, log)) {
     removeFiles(script, log);
   } else {
-    log_.logMessage("ERROR: Cannot create and execute batch file.");
+    reportError("Cannot create and execute batch file.");
   }
 }
 
@@ -73,12 +69,7 @@ bool ExternalPrograms::runScript(const std::string& text, const std::string& scr
   std::string output;
   // A process that didn't start shows here: there is no log then.
   if (files.readTextFile(log, true, output) != 0) return false;
-  const ProgramOutput shown = readProgramOutput(output, commands, CommandScript::mark());
-  if (context_.run.showsCommands) {
-    log_.logMessage(shown.log);
-  } else {
-    log_.logMessageAs(shown.log, withoutLastLineEnd(shown.printed));
-  }
+  log_.addProgramOutput(readProgramOutput(output, commands, CommandScript::mark()));
   return true;
 }
 
@@ -89,8 +80,8 @@ void ExternalPrograms::removeFiles(const std::string& script, const std::string&
   for (const std::string& path : {script, log}) {
     while (context_.files.files().remove(path) != FileError::none) {
       if (repeats++ == kRepeats) {
-        log_.logMessage("WARNING: Cannot delete temporary batch (" + script + ") or log (" + log +
-                        ") files.");
+        log_.report({Diagnostic::About::compile, Severity::warning, "temporary-files",
+                     "Cannot delete temporary batch (" + script + ") or log (" + log + ") files."});
         return;
       }
       processes_.Sleep(kPause);
@@ -104,7 +95,7 @@ bool ExternalPrograms::runProcessAndWait(const std::string& application,
   int error = 0;
   if (!processes_.CreateProcess(application, commandLine, handle, error) &&
       !processes_.CreateProcess("", commandLine, handle, error)) {
-    log_.logMessage("ERROR: Cannot execute " + join(commandLine, " ") + ".");
+    reportError("Cannot execute " + join(commandLine, " ") + ".");
     log_.logMessage("CreateProcess failed. Error: " + std::to_string(error));
     return false;
   }
@@ -115,6 +106,10 @@ bool ExternalPrograms::runProcessAndWait(const std::string& application,
     if (std::exchange(context_.run.endsPrograms, false)) processes_.TerminateProcess(handle);
   }
   return true;
+}
+
+void ExternalPrograms::reportError(std::string text) {
+  log_.report({Diagnostic::About::compile, Severity::error, "programs", std::move(text)});
 }
 
 void ExternalPrograms::showStatus() {

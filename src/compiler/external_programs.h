@@ -41,6 +41,7 @@ class ExternalPrograms {
   void removeFiles(const std::string& script, const std::string& log);
 
   void showStatus();
+  void reportError(std::string text);
 
   CompileContext& context_;
   ProcessServices& processes_;

@@ -14,15 +14,16 @@ class ProgressLog final : public MessageLog {
   /// `listener` must outlive this object.
   explicit ProgressLog(CompileListener& listener) : listener_(listener) {}
 
-  void logMessage(const std::string& text) override { logMessageAs(text, text); }
-  void logMessageAs(const std::string& text, const std::string& wording) override;
+  void logMessage(const std::string& text) override;
+  void report(const Diagnostic& diagnostic) override;
+  void addProgramOutput(const ProgramOutput& output);
 
   /// Shows "Compiling: " with `name` and, if it isn't empty, a dot and `detail`.
   void ShowProgress(std::string_view name, std::string_view detail);
 
  private:
   CompileListener& listener_;
-  std::string lastLogMessage_;  // the last text given to logMessage, shown or not
+  std::string lastLogMessage_;  // the last one, shown or not
   std::string status_;          // keeps its memory: each topic is shown
 };
 

@@ -57,12 +57,15 @@ void WrittenFiles::count(Written& file, bool isNew, bool changed) {
   file.changed = file.changed || changed;
 }
 
-std::vector<std::string> WrittenFiles::endProject() {
-  std::vector<std::string> lines;
+std::vector<Diagnostic> WrittenFiles::endProject() {
+  std::vector<Diagnostic> faults;
   for (const auto& [key, names] : std::exchange(lost_, {})) {
-    lines.push_back("warning: " + sentence(key.first, key.second, names));
+    const std::string_view code = key.second ? "page-names-differ-in-case" : "overwritten-pages";
+    faults.push_back({Diagnostic::About::project, Severity::warning, code,
+                      sentence(key.first, key.second, names)});
+    faults.back().place.project = projects_.back().name;
   }
-  return lines;
+  return faults;
 }
 
 std::string WrittenFiles::describe(std::size_t project, std::size_t other) const {

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/diagnostic.h"
+
 namespace tamrikon {
 
 class WrittenFiles {
@@ -38,10 +40,10 @@ class WrittenFiles {
   std::size_t changed() const { return changed_; }
   bool changedIsKnown() const { return changedIsKnown_; }
 
-  /// A line for each project, this one included, over whose files the project has written, and for
-  /// each whose files have names that differ from its own in case alone. The first line of the run
-  /// that tells of two projects names the way out.
-  std::vector<std::string> endProject();
+  /// One for each project, this one included, over whose files the project has written, and for
+  /// each whose files have names that differ from its own in case alone. The first one of the run
+  /// that is about two projects names the way out.
+  std::vector<Diagnostic> endProject();
 
  private:
   struct Project {

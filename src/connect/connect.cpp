@@ -40,7 +40,7 @@ connect::connect(Toolkit& toolkit, Session& session, AddInHost& host, UserSettin
   session_.codePageOf = [&host](const VBProject& project) -> const CodePage& {
     return host.codePageOf(project);
   };
-  progressDlg.onWarning = [&host](const std::string& line) { host.warn(line); };
+  progressDlg.onFault = [&host](const Diagnostic& fault) { host.report(fault); };
 }
 
 connect::~connect() {
@@ -148,9 +148,7 @@ void connect::loadSettings() {
   session_.settings = ProjectSettings();  // a load that fails leaves no modules of another project
   session_.loadProjectSettings(*VBInstance);
   hasSettings_ = true;
-  for (const std::string& note : session_.settingsFile.notes(*VBInstance)) {
-    host_.warn("warning: " + note);
-  }
+  for (const Diagnostic& fault : session_.settingsFile.notes(*VBInstance)) host_.report(fault);
 }
 
 void connect::keepUpSettings() {

@@ -69,12 +69,13 @@ void ProgressDlg::compileEnded(CompileOutcome outcome) {
   if (outcome == CompileOutcome::failed) toolkit().beep();
 }
 
-void ProgressDlg::addMessage(const std::string& text, const std::string&) {
+void ProgressDlg::addMessage(const std::string& text) {
   Text1.appendText(text + "\r\n");
 }
 
-void ProgressDlg::warn(const std::string& line) {
-  if (onWarning) onWarning(line);
+void ProgressDlg::report(const Diagnostic& diagnostic) {
+  if (diagnostic.about != Diagnostic::About::project) return addMessage(logLineOf(diagnostic));
+  if (onFault) onFault(diagnostic);
 }
 
 void ProgressDlg::cancel() {

@@ -30,8 +30,8 @@ class ProgressDlg final : public Dialog, private CompileListener {
   bool lastGroupProject = false;
   std::string groupLogText;  // the log of the projects so far
 
-  /// Takes the warnings that aren't part of the log, each as one line; empty: nobody does.
-  std::function<void(const std::string&)> onWarning;
+  /// Takes the faults of the project, which aren't part of the log; empty: nobody does.
+  DiagnosticSink onFault;
 
   TextBox Text1{*this, "Text1"};  // the progress log
   ProgressIndicator Animation1{*this, "Animation1"};
@@ -55,8 +55,9 @@ class ProgressDlg final : public Dialog, private CompileListener {
 
   void compileBegins() override;
   void compileEnded(CompileOutcome outcome) override;
-  void addMessage(const std::string& text, const std::string& wording) override;
-  void warn(const std::string& line) override;
+  void addMessage(const std::string& text) override;
+  void addProgramOutput(const ProgramOutput& output) override { addMessage(output.log); }
+  void report(const Diagnostic& diagnostic) override;
   void setStatusLine(const std::string& text) override { StatusBar1.setPanel(1, text); }
   void setProgress(std::size_t done, std::size_t all) override {
     Animation1.setProgress(done, all);

@@ -89,7 +89,7 @@ HostProject& HostProjects::Item(int number) const {
 /// Finds all projects first, since in a group one project can tell the code page of another.
 class HostIde::Opening {
  public:
-  Opening(HostIde& ide, const CodePage* codePage, const WarningSink& warn)
+  Opening(HostIde& ide, const CodePage* codePage, const DiagnosticSink& warn)
       : ide_(ide), lookup_(ide.files_), codePage_(codePage), warn_(warn) {}
 
   HostProject* addProject(std::string fileName, std::string bytes) {
@@ -114,11 +114,11 @@ class HostIde::Opening {
       if (opened.count(found.path) != 0) continue;  // the IDE can't hold a project twice either
       std::string projectBytes;
       if (found.path.empty() || ide_.files_.read(found.path, projectBytes) != FileError::none) {
-        warn_(cannotReadWarning(PathLookup::tried(folder, page->decode(line.path))));
+        warn_(unreadableFile(PathLookup::tried(folder, page->decode(line.path))));
         continue;
       }
       if (!ProjectFile::isProject(projectBytes)) {
-        warn_(cannotReadWarning(found.path) + ": the file" + kNoProject);
+        warn_(unreadableFile(found.path, std::string(": the file") + kNoProject));
         continue;
       }
       opened.insert(found.path);
@@ -133,19 +133,19 @@ class HostIde::Opening {
     for (const std::size_t i : pages_.surestFirst()) projects[i]->decodeSources(pages_.of(i));
     for (std::size_t i = 0; i < projects.size(); ++i) projects[i]->open(pages_.of(i), warn_);
     const auto nameOf = [&](std::size_t i) { return projects[i]->Name(); };
-    for (const std::string& note : pages_.notes(nameOf)) warn_(note);
+    for (const Diagnostic& note : pages_.notes(nameOf)) warn_(note);
   }
 
  private:
   HostIde& ide_;
   PathLookup lookup_;
   const CodePage* codePage_;
-  const WarningSink& warn_;
+  const DiagnosticSink& warn_;
   ProjectPages pages_;
 };
 
 std::unique_ptr<HostIde> HostIde::open(FileSystem& files, const std::string& path,
-                                       const CodePage* codePage, const WarningSink& warn,
+                                       const CodePage* codePage, const DiagnosticSink& warn,
                                        std::string& why) {
   std::string bytes;
   const FileError error = files.read(path, bytes);
@@ -161,8 +161,8 @@ std::unique_ptr<HostIde> HostIde::open(FileSystem& files, const std::string& pat
     return nullptr;
   }
   std::set<std::string> told;
-  const WarningSink warnOnce = [&](const std::string& warning) {
-    if (told.insert(warning).second) warn(warning);
+  const DiagnosticSink warnOnce = [&](const Diagnostic& fault) {
+    if (told.insert(lineOf(fault)).second) warn(fault);
   };
   Opening opening(*ide, codePage, warnOnce);
   if (ide->isGroup_) {
@@ -253,18 +253,21 @@ std::vector<SaveFailure> HostIde::saveAll(OnConflict onConflict) {
   return failures;
 }
 
-std::vector<std::string> HostIde::takeSaveWarnings() {
-  std::vector<std::string> warnings;
+std::vector<Diagnostic> HostIde::takeSaveWarnings() {
+  std::vector<Diagnostic> warnings;
   for (const auto& source : sources_.sources()) {
     if (source->file().isChanged()) continue;
     for (const CutDescription& cut : source->attributes().takeCutDescriptions()) {
       std::string place = source->path();
       if (cut.line != 0) place += ", line " + std::to_string(cut.line);
-      warnings.push_back("warning: " + place + ": the description of " +
-                         (cut.name.empty() ? "the module" : cut.name) + " was cut after " +
-                         std::to_string(cut.kept) + " of its " + std::to_string(cut.length) +
-                         " characters, as Visual Basic reads no line of more than " +
-                         std::to_string(kMaxLineLength));
+      warnings.push_back({Diagnostic::About::project, Severity::warning, "cut-description",
+                          place + ": the description of " +
+                              (cut.name.empty() ? "the module" : cut.name) + " was cut after " +
+                              std::to_string(cut.kept) + " of its " + std::to_string(cut.length) +
+                              " characters, as Visual Basic reads no line of more than " +
+                              std::to_string(kMaxLineLength)});
+      warnings.back().place.file = source->path();
+      warnings.back().place.line = cut.line;
     }
   }
   return warnings;

@@ -39,7 +39,7 @@ class HostIde final : public VBE {
   /// is nothing to open: `why` is then one line that names the file and what is wrong. `files` must
   /// outlive the result.
   static std::unique_ptr<HostIde> open(FileSystem& files, const std::string& path,
-                                       const CodePage* codePage, const WarningSink& warn,
+                                       const CodePage* codePage, const DiagnosticSink& warn,
                                        std::string& why);
 
   /// Tells the screen of each project that it goes.
@@ -93,7 +93,7 @@ class HostIde final : public VBE {
                                          OnConflict onConflict = OnConflict::fail);
 
   /// Of what was saved since this was asked last, a warning for each description whose end is lost.
-  std::vector<std::string> takeSaveWarnings();
+  std::vector<Diagnostic> takeSaveWarnings();
 
   /// Whether the file, which is read for that, isn't what was read or saved last; also if it is
   /// gone.

@@ -16,8 +16,11 @@ bool hasControls(ComponentType type) {
 
 }  // namespace
 
-std::string cannotReadWarning(const std::string& path) {
-  return "warning: cannot read " + path;
+Diagnostic unreadableFile(const std::string& path, std::string_view why) {
+  Diagnostic fault{Diagnostic::About::project, Severity::warning, "unreadable-file",
+                   "cannot read " + path + std::string(why)};
+  fault.place.file = path;
+  return fault;
 }
 
 HostComponent& HostComponents::Item(int number) const {
@@ -56,7 +59,7 @@ void HostProject::decodeSources(const CodePage& page) {
   }
 }
 
-void HostProject::open(const CodePage& page, const WarningSink& warn) {
+void HostProject::open(const CodePage& page, const DiagnosticSink& warn) {
   page_ = &page;
   file_.setCodePage(page);
   const std::string ownName = file_.name();
@@ -70,7 +73,7 @@ void HostProject::open(const CodePage& page, const WarningSink& warn) {
     file.isMissing = hasCode(line.type) ? file.source == nullptr : file.path.empty();
     if (file.isMissing) {
       const std::string tried = PathLookup::tried(folderOf(disk_.path()), file_.text(line.path));
-      if (hasCode(line.type)) warn(cannotReadWarning(tried));
+      if (hasCode(line.type)) warn(unreadableFile(tried));
       if (file.path.empty()) file.path = tried;
     }
     std::string name = file_.text(line.name);

@@ -1,12 +1,12 @@
 // A project on disk, as the IDE surface shows it.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "base/diagnostic.h"
 #include "host/host_component.h"
 #include "host/host_screen.h"
 #include "host/project_file.h"
@@ -20,11 +20,8 @@
 
 namespace tamrikon {
 
-/// Takes one warning, without a line end.
-using WarningSink = std::function<void(const std::string&)>;
-
-/// The warning that a file can't be read.
-std::string cannotReadWarning(const std::string& path);
+/// That a file can't be read; `why` follows its path.
+Diagnostic unreadableFile(const std::string& path, std::string_view why = {});
 
 class HostComponents final : public VBComponents {
  public:
@@ -41,7 +38,7 @@ struct ProjectContext {
   PathLookup& lookup;
   SourceStore& sources;
   const CodePage* codePage;  // the one that was asked for or kept, or null
-  const WarningSink& warn;
+  const DiagnosticSink& warn;
   HostScreen* const& screen;  // follows a change of the screen
 };
 
@@ -59,7 +56,7 @@ class HostProject final : public VBProject {
   void decodeSources(const CodePage& page);
 
   /// Opens all components, whose sources have been decoded; to be called once, before what follows.
-  void open(const CodePage& page, const WarningSink& warn);
+  void open(const CodePage& page, const DiagnosticSink& warn);
 
   std::string Name() const override { return name_; }
   std::string FileName() const override { return disk_.path(); }

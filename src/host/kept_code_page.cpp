@@ -27,12 +27,12 @@ std::string keptCodePagePath(const std::string& projectPath) {
 }
 
 const CodePage* readKeptCodePage(FileSystem& files, const std::string& projectPath,
-                                 const WarningSink& warn) {
+                                 const DiagnosticSink& warn) {
   const std::string path = keptCodePagePath(projectPath);
   if (!files.isFile(path)) return nullptr;
   std::string bytes;
   if (files.read(path, bytes) != FileError::none) {
-    warn(cannotReadWarning(path));
+    warn(unreadableFile(path));
     return nullptr;
   }
   const std::string_view text = withoutWhiteSpace(bytes);
@@ -41,7 +41,10 @@ const CodePage* readKeptCodePage(FileSystem& files, const std::string& projectPa
   const bool isNumber = result.ec == std::errc() && result.ptr == text.data() + text.size();
   const CodePage* page = isNumber ? CodePage::find(number) : nullptr;
   if (page == nullptr) {
-    warn("warning: " + path + " doesn't hold the number of a code page, such as 1251");
+    Diagnostic fault{Diagnostic::About::project, Severity::warning, "code-page-file",
+                     path + " doesn't hold the number of a code page, such as 1251"};
+    fault.place.file = path;
+    warn(fault);
   }
   return page;
 }

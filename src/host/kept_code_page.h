@@ -14,7 +14,7 @@ std::string keptCodePagePath(const std::string& projectPath);
 
 /// Null if there is no such file, or if it can't be used; `warn` is told then.
 const CodePage* readKeptCodePage(FileSystem& files, const std::string& projectPath,
-                                 const WarningSink& warn);
+                                 const DiagnosticSink& warn);
 
 FileError keepCodePage(FileSystem& files, const std::string& projectPath, const CodePage& page);
 

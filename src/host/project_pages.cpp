@@ -70,7 +70,7 @@ std::vector<std::size_t> ProjectPages::surestFirst() const {
   return order;
 }
 
-std::vector<std::string> ProjectPages::notes(
+std::vector<Diagnostic> ProjectPages::notes(
     const std::function<std::string(std::size_t project)>& nameOf) const {
   std::map<int, std::vector<std::string>> guessed;
   std::vector<std::string> unknown;
@@ -85,14 +85,17 @@ std::vector<std::string> ProjectPages::notes(
   }
   constexpr const char* kWayOut =
       "; change it with --codepage, or for good with 'settings --keep-codepage'";
-  std::vector<std::string> notes;
+  std::vector<Diagnostic> notes;
+  const auto add = [&](std::string_view code, std::string text) {
+    notes.push_back({Diagnostic::About::project, Severity::note, code, text + kWayOut});
+  };
   for (const auto& [page, names] : guessed) {
-    notes.push_back("note: the code page of " + listed(names) + " is guessed to be " +
-                    std::to_string(page) + kWayOut);
+    add("guessed-code-page",
+        "the code page of " + listed(names) + " is guessed to be " + std::to_string(page));
   }
   if (!unknown.empty()) {
-    notes.push_back("note: nothing tells the code page of " + listed(unknown) +
-                    ", and bytes above 127 are read as 1252" + kWayOut);
+    add("unknown-code-page", "nothing tells the code page of " + listed(unknown) +
+                                 ", and bytes above 127 are read as 1252");
   }
   return notes;
 }

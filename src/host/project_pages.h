@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "base/diagnostic.h"
 #include "platform/code_page.h"
 #include "source/code_page_guess.h"
 #include "source/page_of_bytes.h"
@@ -27,9 +28,9 @@ class ProjectPages {
   /// guessed from its bytes, taken from others.
   std::vector<std::size_t> surestFirst() const;
 
-  /// What somebody should know who sees wrong letters: a line for each page that was guessed from
+  /// What somebody should know who sees wrong letters: a note for each page that was guessed from
   /// bytes, and one for bytes that were read as 1252 because nothing tells another page.
-  std::vector<std::string> notes(
+  std::vector<Diagnostic> notes(
       const std::function<std::string(std::size_t project)>& nameOf) const;
 
  private:

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "base/diagnostic.h"
+
 namespace tamrikon {
 
 class CodeModule;
@@ -34,8 +36,8 @@ class AddInHost {
   /// Runs `edit`, which changes `module`, as one step to undo.
   virtual void asOneEdit(CodeModule& module, const std::function<void()>& edit) = 0;
 
-  /// Shows one line, without its end, of what is wrong with an add-in's work.
-  virtual void warn(const std::string& line) = 0;
+  /// Shows what is wrong with an add-in's work.
+  virtual void report(const Diagnostic& fault) = 0;
 
   /// 0xRRGGBB
   virtual std::uint32_t buttonFaceColour() = 0;

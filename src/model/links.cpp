@@ -6,11 +6,16 @@ namespace tamrikon {
 
 void Links::warn(const Wrapper* context, const LinkFault& fault, std::string_view link) {
   if (context == nullptr) return;
-  std::string text = "Warning: The ";
-  text.append(fault.what).append(" '").append(link).append("'").append(fault.found);
-  text.append(" in '").append(context->name()).append("' member of '");
-  text.append(context->source().name()).append("' module").append(fault.ending);
-  log_.logMessage(text);
+  const std::string& module = context->source().name();
+  Diagnostic diagnostic{Diagnostic::About::comment, Severity::warning, fault.code, "The "};
+  diagnostic.text.append(fault.what).append(" '").append(link).append("'").append(fault.found);
+  diagnostic.text.append(" in '").append(context->name()).append("' member of '");
+  diagnostic.text.append(module).append("' module").append(fault.ending);
+  diagnostic.place.module = module;
+  diagnostic.place.member = context->name();
+  const bool hasOwnComment = context->topic == context && context->comment != nullptr;
+  if (hasOwnComment) diagnostic.place.line = context->comment->lineWith(link);
+  log_.report(diagnostic);
 }
 
 Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link) {
@@ -21,7 +26,7 @@ Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link
   const std::size_t dot = link.find('.');
   const std::size_t apostrophe = link.find('\'');
   if (dot == std::string_view::npos && apostrophe != std::string_view::npos) {
-    warn(context, {"link", "", " has wrong syntax."}, link);
+    warn(context, {"link-syntax", "link", "", " has wrong syntax."}, link);
     return nullptr;
   }
   std::string& key = key_;
@@ -35,7 +40,8 @@ Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link
     if (member.empty() && context != nullptr) member = context->name();
     if (!kind.empty() && kind != "'set" && kind != "'let" && kind != "'get") {
       const std::string specifier = "\"" + std::string(kind) + "\".";
-      warn(context, {"link", "", " contains wrong property type specifier " + specifier}, link);
+      warn(context,
+           {"link-kind", "link", "", " contains wrong property type specifier " + specifier}, link);
       return nullptr;
     }
     key.append(".").append(member).append(kind);
@@ -46,7 +52,7 @@ Wrapper* Links::getWrapperFromLink(const Wrapper* context, std::string_view link
       if (found == nullptr) found = findWrapper(wrappers_.all, key + std::string(mark));
     }
   }
-  if (found == nullptr) warn(context, {"dead link", " was found", "."}, link);
+  if (found == nullptr) warn(context, {"dead-link", "dead link", " was found", "."}, link);
   return found;
 }
 

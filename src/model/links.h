@@ -43,6 +43,7 @@ class Links final : public LinkResolver {
   static LinkTarget targetOf(const Wrapper* wrapper);
 
   struct LinkFault {
+    std::string_view code;
     std::string_view what;
     std::string_view found;
     std::string ending;

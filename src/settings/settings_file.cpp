@@ -232,12 +232,20 @@ void SettingsFile::leaveOutOtherModules(VBE& ide) {
   for (const CodeModule* module : otherModules(ide)) leftOut_.push_back(module->Name());
 }
 
-std::vector<std::string> SettingsFile::notes(VBE& ide) const {
-  if (!fault_.empty()) return {fault_ + "; the defaults hold"};
-  std::vector<std::string> notes;
+std::optional<Diagnostic> SettingsFile::faultOfFile() const {
+  if (fault_.empty()) return std::nullopt;
+  return Diagnostic{Diagnostic::About::project, Severity::warning, "settings-file",
+                    fault_ + "; the defaults hold"};
+}
+
+std::vector<Diagnostic> SettingsFile::notes(VBE& ide) const {
+  if (const auto fault = faultOfFile()) return {*fault};
+  std::vector<Diagnostic> notes;
   for (const CodeModule* module : unlistedModules(ide)) {
-    notes.push_back("module " + module->Name() + " isn't documented, as " + settingsFilePath(ide) +
-                    " doesn't list it");
+    notes.push_back({Diagnostic::About::project, Severity::warning, "unlisted-module",
+                     "module " + module->Name() + " isn't documented, as " + settingsFilePath(ide) +
+                         " doesn't list it"});
+    notes.back().place.module = module->Name();
   }
   return notes;
 }

@@ -8,10 +8,12 @@
 // module isn't among the selected ones on purpose, so that nobody is told of it.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/diagnostic.h"
 #include "platform/text_files.h"
 #include "settings/project_settings.h"
 
@@ -49,9 +51,9 @@ class SettingsFile {
   /// The file that the last write kept such a text in; empty if it kept none.
   const std::string& keptAs() const { return keptAs_; }
 
-  /// Why the settings are the defaults though there is a file: its path, the line and what is wrong
-  /// with it. Empty if the file was taken or there is none.
-  const std::string& fault() const { return fault_; }
+  /// Why the settings are the defaults though there is a file, with its path and the line; nothing
+  /// if the file was taken or there is none.
+  std::optional<Diagnostic> faultOfFile() const;
 
   /// The modules of the project that the file doesn't select, in the order of the components,
   /// without those that it says are left out on purpose; none if there is no file.
@@ -62,8 +64,8 @@ class SettingsFile {
   void addOtherModules(VBE& ide);
   void leaveOutOtherModules(VBE& ide);
 
-  /// What to tell of the settings that were read: the fault, or each unlisted module.
-  std::vector<std::string> notes(VBE& ide) const;
+  /// What is wrong with the settings that were read: the fault, or each unlisted module.
+  std::vector<Diagnostic> notes(VBE& ide) const;
 
   /// Sets one field from the text of a settings line. `modules` are the modules that a comModules
   /// line may name; other names are passed over.

@@ -1,5 +1,6 @@
 #include "template/expansion.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "template/macro_scanner.h"
@@ -135,19 +136,26 @@ void Expansion::appendUnknown(std::string_view name) {
   result_.append("$").append(name).append("$");
 }
 
-void Expansion::logAs(const std::string& message, const std::string& wording) {
-  if (!budget_.takeText(message.size())) endAt(outermost_);
-  state_.log.logMessageAs(message, wording);
+void Expansion::log(const Diagnostic& diagnostic) {
+  if (!budget_.takeText(logLineOf(diagnostic).size())) endAt(outermost_);
+  state_.log.report(diagnostic);
 }
 
 /// The log blames the template for each wrong name, also for one that a comment brought.
 void Expansion::logWrongName(const MacroText& source, const MacroToken& token) {
-  const std::string message = wrongNameWarning(source.written(token));
-  std::string place;
-  if (!source.isOfTemplate && state_.resolver != nullptr) place = state_.resolver->pageInWork();
-  if (place.empty()) return log(message);
-  logAs(message, "Warning: Wrong macro name " + std::string(source.written(token)) +
-                     " in the text of " + place + "; a dollar sign is written $$.");
+  Diagnostic diagnostic = wrongNameWarning(source.written(token));
+  std::string page;
+  if (!source.isOfTemplate && state_.resolver != nullptr) page = state_.resolver->pageInWork();
+  if (!page.empty()) {
+    diagnostic.inLog = logLineOf(diagnostic);
+    diagnostic.about = Diagnostic::About::comment;
+    diagnostic.text = "Wrong macro name " + std::string(source.written(token)) +
+                      " in the text of " + page + "; a dollar sign is written $$.";
+    diagnostic.place.module = page.substr(0, page.find('.'));
+    diagnostic.place.member =
+        page.substr(std::min(page.size(), diagnostic.place.module.size() + 1));
+  }
+  log(diagnostic);
 }
 
 void Expansion::endAt(std::string_view call) const {

@@ -96,8 +96,7 @@ class Expansion {
   void leave();
   void appendLiteral(std::string_view text, bool translate);
   void appendUnknown(std::string_view name);
-  void log(const std::string& message) { logAs(message, message); }
-  void logAs(const std::string& message, const std::string& wording);
+  void log(const Diagnostic& diagnostic);
   void logWrongName(const MacroText& source, const MacroToken& token);
   [[noreturn]] void endAt(std::string_view call) const;
 

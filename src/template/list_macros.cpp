@@ -11,8 +11,9 @@ namespace {
 
 constexpr TextIndex kElseTagLength = 8;  // of "$ELSEIF$"; a tag without its "$" takes what follows
 
-std::string wrongSyntax(const MacroName& tag, std::string_view problem) {
-  return "WARNING (config file): Wrong syntax of " + tag.text + " macro. " + std::string(problem);
+Diagnostic wrongSyntax(const MacroName& tag, std::string_view problem) {
+  return {Diagnostic::About::template_, Severity::warning, "macro-syntax",
+          "Wrong syntax of " + tag.text + " macro. " + std::string(problem)};
 }
 
 bool isEmpty(const MacroSlot& slot) {
@@ -70,8 +71,9 @@ const MacroName* Expansion::findArgument(const Construct& construct, const Macro
     argument = token.name;
   }
   if (argument != nullptr && isArgument(*argument)) return argument;
-  log("WARNING (config file): Wrong argument \"" + (argument == nullptr ? "" : argument->text) +
-      "\" of " + tag.text + " macro.");
+  log({Diagnostic::About::template_, Severity::warning, "macro-argument",
+       "Wrong argument \"" + (argument == nullptr ? "" : argument->text) + "\" of " + tag.text +
+           " macro."});
   frame.offset = construct.lineEnd + 1;
   frame.token = construct.bodyToken;
   return nullptr;

@@ -112,8 +112,9 @@ ParsedName parseMacroName(std::string_view text) {
   return {text.substr(1, end - 1), end < text.size() && text[end] == '$'};
 }
 
-std::string wrongNameWarning(std::string_view written) {
-  return std::string("WARNING (config file): Wrong macro name ").append(written).append(".");
+Diagnostic wrongNameWarning(std::string_view written) {
+  return {Diagnostic::About::template_, Severity::warning, "macro-name",
+          std::string("Wrong macro name ").append(written).append(".")};
 }
 
 void scanMacros(MacroText& text, MacroSlots& slots) {

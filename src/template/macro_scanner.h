@@ -2,9 +2,9 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 #include <string_view>
 
+#include "base/diagnostic.h"
 #include "template/macro_slots.h"
 #include "template/macro_text.h"
 
@@ -25,8 +25,8 @@ ParsedName parseMacroName(std::string_view text);
 /// Whether a DOLIST or IFNOTEMPTY takes this macro.
 bool isArgument(const MacroName& name);
 
-/// The message about a wrong name; `written` is the name with its opening "$".
-std::string wrongNameWarning(std::string_view written);
+/// What is wrong with a name; `written` is the name with its opening "$".
+Diagnostic wrongNameWarning(std::string_view written);
 
 /// Finds the calls of `text.text` ("$$" is none) and the parts of its DOLISTs and IFNOTEMPTYs.
 /// Its length must be below 4 GiB.

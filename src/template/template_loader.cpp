@@ -8,13 +8,6 @@
 #include "template/macro_scanner.h"
 
 namespace tamrikon {
-namespace {
-
-struct NoLog final : MessageLog {
-  void logMessage(const std::string&) override {}
-};
-
-}  // namespace
 
 TemplateReader::TemplateReader(std::string_view text, std::string file, MessageLog& log)
     : lines_(splitLines(text)), file_(std::move(file)), log_(log) {}
@@ -25,7 +18,7 @@ bool TemplateReader::next(TemplateDefinition& definition) {
     if (!line.starts_with('$')) continue;
     const ParsedName parsed = parseMacroName(line);
     const std::string_view tag = line.substr(0, parsed.length());
-    if (!parsed.isClosed) log_.logMessage(wrongNameWarning(tag));
+    if (!parsed.isClosed) report(wrongNameWarning(tag), nextLine_);
     definition.name = parsed.name;
     definition.line = nextLine_;
     if (parsed.name.starts_with("tamrik-")) return readBody(tag.substr(1), definition.value);
@@ -49,9 +42,17 @@ bool TemplateReader::readBody(std::string_view tag, std::string& body) {
     }
     body.append(line).push_back('\r');
   }
-  log_.logMessage("ERROR (config file): Error in configuration file " + file_ + " on line " +
-                  std::to_string(openingLine) + ". Terminating tag " + terminator + " missing.");
+  report({Diagnostic::About::template_, Severity::error, "section-end",
+          "Error in configuration file " + file_ + " on line " + std::to_string(openingLine) +
+              ". Terminating tag " + terminator + " missing."},
+         openingLine);
   return false;
+}
+
+void TemplateReader::report(Diagnostic diagnostic, std::size_t line) {
+  diagnostic.place.file = file_;
+  diagnostic.place.line = static_cast<int>(line);
+  log_.report(diagnostic);
 }
 
 std::size_t firstDefinition(std::string_view text, std::string_view name) {

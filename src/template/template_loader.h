@@ -28,6 +28,7 @@ class TemplateReader {
 
  private:
   bool readBody(std::string_view tag, std::string& body);
+  void report(Diagnostic diagnostic, std::size_t line);
 
   std::vector<std::string_view> lines_;
   std::size_t nextLine_ = 0;  // index of the line to read next

@@ -28,10 +28,10 @@ bool ProjectKeeper::open(const QString& path) {
     return false;
   }
   if (ide_ && !letGo()) return false;
-  QStringList warnings;
+  std::vector<Diagnostic> faults;
   std::string why;
   std::unique_ptr<HostIde> ide = HostIde::open(
-      files_, absolute, nullptr, [&](const std::string& line) { warnings += toQt(line); }, why);
+      files_, absolute, nullptr, [&](const Diagnostic& fault) { faults.push_back(fault); }, why);
   if (!ide) {
     prompts_.ask({"The project can't be opened.", toQt(why), {"OK"}});
     return false;
@@ -39,7 +39,7 @@ bool ProjectKeeper::open(const QString& path) {
   if (ide_) emit closing(*ide_);
   ide_ = std::move(ide);
   path_ = toQt(absolute);
-  emit opened(*ide_, warnings);
+  emit opened(*ide_, faults);
   return true;
 }
 

@@ -44,7 +44,7 @@ class ProjectKeeper final : public QObject {
   bool isUnsaved(const HostModule& module) const;
 
  signals:
-  void opened(HostIde& ide, const QStringList& warnings);
+  void opened(HostIde& ide, const std::vector<Diagnostic>& faults);
 
   /// It goes at once: whoever shows a part of it must let go now.
   void closing(HostIde& ide);

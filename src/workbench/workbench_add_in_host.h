@@ -15,16 +15,15 @@ namespace tamrikon {
 
 class WorkbenchAddInHost final : public AddInHost {
  public:
-  /// Both must outlive this object. `warn` shows a line of what is wrong.
-  WorkbenchAddInHost(QWidget& window, WorkbenchIde& ide,
-                     std::function<void(const std::string& line)> warn)
-      : window_(window), ide_(ide), warn_(std::move(warn)), toolkit_(&window) {}
+  /// Both must outlive this object. `report` shows what is wrong.
+  WorkbenchAddInHost(QWidget& window, WorkbenchIde& ide, DiagnosticSink report)
+      : window_(window), ide_(ide), report_(std::move(report)), toolkit_(&window) {}
 
   VBE& application() override { return ide_; }
   QtToolkit& toolkit() override { return toolkit_; }
   const CodePage& codePageOf(const VBProject& project) override;
   void asOneEdit(CodeModule& module, const std::function<void()>& edit) override;
-  void warn(const std::string& line) override { warn_(line); }
+  void report(const Diagnostic& fault) override { report_(fault); }
   std::uint32_t buttonFaceColour() override;
 
   /// The main window alone has a procedure. Its own one does nothing, as Qt sees to the messages.
@@ -36,7 +35,7 @@ class WorkbenchAddInHost final : public AddInHost {
  private:
   QWidget& window_;
   WorkbenchIde& ide_;
-  std::function<void(const std::string& line)> warn_;
+  DiagnosticSink report_;
   QtToolkit toolkit_;
   WindowProcedure procedure_ = [](std::uint32_t) {};
 };

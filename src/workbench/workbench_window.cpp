@@ -94,7 +94,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchOptions& options)
       messages_(*new MessageList(this)),
       screen_(*this, tabs_),
       vbe_(keeper_, screen_),
-      addInHost_(*this, vbe_, [this](const std::string& line) { showWarning(line); }),
+      addInHost_(*this, vbe_, [this](const Diagnostic& fault) { showFault(fault); }),
       addIns_(addInHost_, userRegistry()),
       recentMenu_(*actions_.recent, recent_, prompts_),
       codeCommands_(actions_, tabs_, findBar_, prompts_, settings_) {
@@ -152,16 +152,17 @@ bool WorkbenchWindow::openProject(const QString& path) {
   return true;
 }
 
-void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
+void WorkbenchWindow::projectOpened(HostIde& ide, const std::vector<Diagnostic>& faults) {
   ide.setScreen(&screen_);
   explorer_.show(&ide);
   explorer_.setFocus();
   QList<Message> messages;
-  for (const QString& warning : warnings) messages += Message{warning, nullptr, {}};
+  for (const Diagnostic& fault : faults) messages += Message{toQt(lineOf(fault)), nullptr, {}};
   messages_.show(messages);
   // Notes, such as that of a code page, can be read there; they needn't be seen.
-  const bool isWarned = std::any_of(warnings.begin(), warnings.end(),
-                                    [](const QString& text) { return !text.startsWith("note: "); });
+  const bool isWarned = std::any_of(faults.begin(), faults.end(), [](const Diagnostic& fault) {
+    return fault.severity != Severity::note;
+  });
   if (isWarned) messagesDock_->show();
   userTags_.follow(&ide);
   showState();
@@ -171,8 +172,8 @@ void WorkbenchWindow::projectOpened(HostIde& ide, const QStringList& warnings) {
   unsavedEdits_.offer();
 }
 
-void WorkbenchWindow::showWarning(const std::string& line) {
-  const QString text = toQt(line);
+void WorkbenchWindow::showFault(const Diagnostic& fault) {
+  const QString text = toQt(lineOf(fault));
   if (messages_.findItems(text, Qt::MatchExactly).isEmpty()) messages_.add({text, nullptr, {}});
   messagesDock_->show();
 }

@@ -78,8 +78,8 @@ class WorkbenchWindow final : public QMainWindow {
   void connectParts();
   void restoreLayout();
 
-  void projectOpened(HostIde& ide, const QStringList& warnings);
-  void showWarning(const std::string& line);
+  void projectOpened(HostIde& ide, const std::vector<Diagnostic>& faults);
+  void showFault(const Diagnostic& fault);
   void projectClosing(HostIde& ide);
   void reopenProject();
 

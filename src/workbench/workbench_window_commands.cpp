@@ -48,7 +48,7 @@ void WorkbenchWindow::connectParts() {
   connect(&keeper_, &ProjectKeeper::closed, this, &WorkbenchWindow::showState);
   connect(&keeper_, &ProjectKeeper::saved, this, [this] {
     showState();
-    for (const std::string& warning : ide()->takeSaveWarnings()) showWarning(warning);
+    for (const Diagnostic& warning : ide()->takeSaveWarnings()) showFault(warning);
   });
   connect(&keeper_, &ProjectKeeper::saveFailed, this, &WorkbenchWindow::showPlace);
   connect(&diskChanges_, &DiskChanges::reopenWanted, this, &WorkbenchWindow::reopenProject);

@@ -22,7 +22,8 @@ class Listener final : public CompileListener {
   std::string log;
   std::size_t done = 0;
 
-  void addMessage(const std::string& text, const std::string&) override { log += text + "\n"; }
+  void addMessage(const std::string& text) override { log += text + "\n"; }
+  void report(const Diagnostic& fault) override { addMessage(logLineOf(fault)); }
   void setProgress(std::size_t count, std::size_t) override { done = count; }
   void checkpoint(CompileRun& run) override { onCheckpoint(run); }
 };
@@ -30,11 +31,18 @@ class Listener final : public CompileListener {
 TEST(ProgressLog, LeavesOutAWarningThatRepeatsTheMessageBefore) {
   Listener listener;
   ProgressLog log(listener);
-  for (const char* text :
-       {"Warning: a", "Warning: a", "b", "b", "Warning: a", "WARNING: c", "WARNING: c"}) {
-    log.logMessage(text);
-  }
-  EXPECT_EQ(listener.log, "Warning: a\nb\nb\nWarning: a\nWARNING: c\nWARNING: c\n");
+  using About = Diagnostic::About;
+  const Diagnostic ofComment{About::comment, Severity::warning, "", "a"};
+  const Diagnostic ofTemplate{About::template_, Severity::warning, "", "c"};
+  log.report(ofComment);
+  log.report(ofComment);
+  log.logMessage("b");
+  log.logMessage("b");
+  log.report(ofComment);
+  log.report(ofTemplate);
+  log.report(ofTemplate);
+  EXPECT_EQ(listener.log,
+            "Warning: a\nb\nb\nWarning: a\nWARNING (config file): c\nWARNING (config file): c\n");
 }
 
 class CompileTest : public testing::Test {

@@ -30,7 +30,9 @@ class ExternalProgramsTest : public testing::Test, protected CompileListener {
     return log_;
   }
 
-  void addMessage(const std::string& text, const std::string&) override { log_ += text + "\n"; }
+  void addMessage(const std::string& text) override { log_ += text + "\n"; }
+  void addProgramOutput(const ProgramOutput& output) override { addMessage(output.log); }
+  void report(const Diagnostic& fault) override { addMessage(logLineOf(fault)); }
 
   test::TempFolder folder_;
   test::ScriptedToolkit toolkit_;

@@ -72,9 +72,9 @@ TEST_F(CommandTest, GroupCompileTellsTheHostOfPagesThatWereWrittenOver) {
                       [&](User& user) { user.click(addIn_->self.progressDlg.OKButton); });
     ide_->click("Add-Ins", "Tamrikon");
   }
-  ASSERT_EQ(ide_->warnings.size(), 2U) << "each run by itself";
-  EXPECT_NE(ide_->warnings[1].find("differ in case alone"), std::string::npos);
-  EXPECT_NE(ide_->warnings[1].find("--folders"), std::string::npos);
+  ASSERT_EQ(ide_->faults.size(), 2U) << "each run by itself";
+  EXPECT_NE(ide_->faults[1].find("differ in case alone"), std::string::npos);
+  EXPECT_NE(ide_->faults[1].find("--folders"), std::string::npos);
 }
 
 TEST_F(CommandTest, WithoutAProjectNoItemFails) {

@@ -171,8 +171,8 @@ TEST_F(ConnectionTest, ShowsWhyTheSettingsOfAProjectAreTheDefaults) {
   const std::string path = folder_.put("One.tamrik", "#Tamrikon Project Settings#\naddSe=1\n");
   openBoth();
   connectIn(ConnectMode::startup);
-  ASSERT_EQ(ide_->warnings.size(), 1U);
-  EXPECT_EQ(ide_->warnings.front(), "warning: " + path +
+  ASSERT_EQ(ide_->faults.size(), 1U);
+  EXPECT_EQ(ide_->faults.front(), "warning: " + path +
                                         ", line 2: there is no setting 'addSe' (did you mean "
                                         "'addSee'?); the defaults hold");
 }

@@ -230,7 +230,7 @@ TEST(RoundTrip, TheExamplesAreWrittenBackTwice) {
     std::string why;
     const auto ide = HostIde::open(  // nothing is saved
         nativeFileSystem(), TAMRIKON_EXAMPLES "/Inventory/Inventory.vbg", nullptr,
-        [](const std::string&) {}, why);
+        [](const Diagnostic&) {}, why);
     ASSERT_TRUE(ide) << why;
     ProjectSettings settings = layoutOf(wrap, eol);
     settings.userName[0] = "errors";

@@ -35,7 +35,7 @@ void fuzz(const std::string& data) {
   disk.files = {{"/p/P.vbp", "Type=Exe\nClass=C; C.cls\n"}, {"/p/C.cls", data.substr(1)}};
   std::string why;
   const auto ide = HostIde::open(
-      disk, "/p/P.vbp", nullptr, [](const std::string&) {}, why);
+      disk, "/p/P.vbp", nullptr, [](const Diagnostic&) {}, why);
   auto& module =
       static_cast<HostModule&>(*ide->ActiveVBProject().VBComponents().Item(1).CodeModule());
   const std::string source = module.Lines(1, module.CountOfLines());

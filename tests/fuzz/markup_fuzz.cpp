@@ -54,11 +54,11 @@ std::map<std::string, std::string> pagesOf(const std::string& text, const std::s
   std::string why;
   const CodePage& page = *CodePage::find(1252);
   const auto ide = HostIde::open(
-      disk, "/p/P.vbp", &page, [](const std::string&) {}, why);
+      disk, "/p/P.vbp", &page, [](const Diagnostic&) {}, why);
   test::demand(ide != nullptr, "the project isn't read");
   std::ostringstream out;
   const Streams streams(out, out);
-  Terminal terminal(streams, true);
+  Terminal terminal(streams, Terminal::Detail::faults);
   Session session(terminal.fileErrors, disk, nativeProcessServices(), "/data");
   CompileRun run;
   run.runsPrograms = false;

@@ -21,11 +21,11 @@ void fuzz(const std::string& data) {
   }
   std::string why;
   const auto ide = HostIde::open(
-      disk, "/p/P.vbp", nullptr, [](const std::string&) {}, why);
+      disk, "/p/P.vbp", nullptr, [](const Diagnostic&) {}, why);
   if (!ide) return;
   std::ostringstream out;
   const Streams streams(out, out);
-  Terminal terminal(streams, true);
+  Terminal terminal(streams, Terminal::Detail::faults);
   Session session(terminal.fileErrors, disk, nativeProcessServices(), "/data");
   CompileRun run;
   run.runsPrograms = false;

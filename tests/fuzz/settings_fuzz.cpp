@@ -33,7 +33,7 @@ void fuzz(const std::string& data) {
                 {kFile, data}};
   std::string why;
   const auto ide = HostIde::open(
-      disk, "/p/P.vbp", nullptr, [](const std::string&) {}, why);
+      disk, "/p/P.vbp", nullptr, [](const Diagnostic&) {}, why);
   NoQuestions reporter;
   TextFiles files(disk, reporter);
 

@@ -8,10 +8,6 @@
 
 namespace {
 
-struct NoLog final : tamrikon::MessageLog {
-  void logMessage(const std::string&) override {}
-};
-
 struct GiveUp final : tamrikon::FileErrorReporter {
   tamrikon::FileErrorAnswer reportFileError(const std::string&, std::string_view,
                                             tamrikon::FileError) override {

@@ -47,7 +47,8 @@ Opened openIn(const test::TempFolder& folder, const std::string& name, int codeP
   };
   opened.ide = HostIde::open(
       nativeFileSystem(), folder / name, CodePage::find(codePage),
-      [&](const std::string& warning) { opened.warnings += shorten(warning) + '|'; }, opened.why);
+      [&](const Diagnostic& fault) { opened.warnings += shorten(lineOf(fault)) + '|'; },
+      opened.why);
   opened.why = shorten(opened.why);
   return opened;
 }

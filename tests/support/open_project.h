@@ -14,7 +14,7 @@ namespace tamrikon::test {
 inline std::unique_ptr<HostIde> openProject(const std::string& path) {
   std::string why;
   auto ide = HostIde::open(
-      nativeFileSystem(), path, nullptr, [](const std::string&) {}, why);
+      nativeFileSystem(), path, nullptr, [](const Diagnostic&) {}, why);
   EXPECT_TRUE(ide) << why;
   return ide;
 }

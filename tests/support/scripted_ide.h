@@ -165,7 +165,7 @@ class ScriptedIde final : public VBE, public AddInHost, public UserSettings {
     const EditGroup group(static_cast<HostModule&>(module));
     edit();
   }
-  void warn(const std::string& line) override { warnings.push_back(line); }
+  void report(const Diagnostic& fault) override { faults.push_back(lineOf(fault)); }
   std::uint32_t buttonFaceColour() override { return calls("buttonFaceColour"), buttonFace; }
   WindowProcedure setWindowProcedure(std::uintptr_t window, WindowProcedure next) override {
     calls("setWindowProcedure");
@@ -192,7 +192,7 @@ class ScriptedIde final : public VBE, public AddInHost, public UserSettings {
   std::vector<std::uint32_t> messages;  // that came through to the main window
   WindowProcedure procedure = [this](std::uint32_t message) { messages.push_back(message); };
   std::map<std::string, std::string> kept;  // by section/key
-  std::vector<std::string> warnings;
+  std::vector<std::string> faults;
 
  private:
   struct NoProjects final : tamrikon::VBProjects {

@@ -16,6 +16,7 @@ namespace tamrikon {
 
 struct RecordingLog : MessageLog {
   void logMessage(const std::string& text) override { messages.push_back(text); }
+  void report(const Diagnostic& diagnostic) override { messages.push_back(logLineOf(diagnostic)); }
   std::vector<std::string> messages;
 };
 
