@@ -25,11 +25,11 @@ struct NoErrors final : FileErrorReporter {
 struct EchoLinks final : LinkResolver {
   LinkTarget parseLink(std::string_view link) override {
     const std::size_t dot = std::min(link.find('.'), link.size());
-    return {this, link.substr(std::min(dot + 1, link.size())), link.substr(0, dot), false, 1};
+    return {TopicId{1}, link.substr(std::min(dot + 1, link.size())), link.substr(0, dot), false, 1};
   }
   LinkTarget topicOf(std::string_view link) override { return parseLink(link); }
-  NamedLink linkOf(const void*) override { return {}; }
-  void setModuleLists(const LinkTarget&, MacroTable&) override {}
+  NamedLink linkOf(TopicId) override { return {}; }
+  ModuleLists moduleLists(TopicId) override { return {}; }
 };
 
 std::string templatePath() {

@@ -45,7 +45,7 @@ void makeContents(const std::vector<WrapperRef>& compiledList, MacroTable& macro
     const KindTraits& traits = wrapper->traits();
     const auto* name = std::find(kContentsLists.begin(), kContentsLists.end(), traits.contentsList);
     lists[static_cast<std::size_t>(name - kContentsLists.begin())]->topics.push_back(
-        {wrapper.get(), true, traits.title});
+        {wrapper->id, true, traits.title});
   }
   for (std::size_t n = 0; n < lists.size(); ++n) macros.setMacroValue(kContentsLists[n], lists[n]);
 }

@@ -6,7 +6,7 @@ namespace {
 LinkListRef linksOf(const std::vector<Wrapper*>& members) {
   auto list = std::make_shared<MacroList>();
   list->topics.reserve(members.size());
-  for (const Wrapper* member : members) list->topics.push_back({member});
+  for (const Wrapper* member : members) list->topics.push_back({member->id});
   return list;
 }
 
@@ -26,7 +26,8 @@ LinkListRef LinkLists::getAppliesList(const Wrapper& wrapper) {
 }
 
 TopicItem LinkLists::moduleItem(std::string_view name) const {
-  return {findWrapper(wrappers_.all, name)};
+  const Wrapper* module = findWrapper(wrappers_.all, name);
+  return {module == nullptr ? TopicId::none : module->id};
 }
 
 /// One for all members of a module, whose pages mostly come one after the other.
@@ -65,7 +66,7 @@ LinkListRef LinkLists::makeLinkList(const std::vector<WrapperRef>& wrappers) {
   auto list = std::make_shared<MacroList>();
   list->topics.reserve(wrappers.size());
   for (const WrapperRef& wrapper : wrappers) {
-    list->topics.push_back({wrapper.get(), true, wrapper->traits().word});
+    list->topics.push_back({wrapper->id, true, wrapper->traits().word});
   }
   return list;
 }

@@ -1,7 +1,5 @@
 #include "model/links.h"
 
-#include "template/macro_table.h"
-
 namespace tamrikon {
 
 void Links::warn(const Wrapper* context, const LinkFault& fault, std::string_view link) {
@@ -64,7 +62,7 @@ std::string Links::canonizeLink(const Wrapper* context, std::string_view link) {
 LinkTarget Links::targetOf(const Wrapper* wrapper) {
   LinkTarget target;
   if (wrapper == nullptr) return target;
-  target.wrapper = wrapper;
+  target.id = wrapper->id;
   target.module = wrapper->source().name();
   if (wrapper->kind() != WrapperKind::module) target.member = wrapper->name();
   target.needsModule = wrapper->needsModule;
@@ -85,8 +83,8 @@ LinkTarget Links::topicOf(std::string_view link) {
   return targetOf(named->topic != nullptr ? named->topic : named);
 }
 
-NamedLink Links::linkOf(const void* wrapper) {
-  const auto& named = *static_cast<const Wrapper*>(wrapper);
+NamedLink Links::linkOf(TopicId id) {
+  const Wrapper& named = wrapperOf(wrappers_, id);
   return {named.link(), named.name(), named.source().name(), named.needsModule,
           targetOf(named.topic != nullptr ? named.topic : &named)};
 }
@@ -98,11 +96,10 @@ std::string Links::pageInWork() {
   return isModule ? module : module + "." + compiledWrapper->name();
 }
 
-void Links::setModuleLists(const LinkTarget& target, MacroTable& macros) {
-  const auto& wrapper = *static_cast<const Wrapper*>(target.wrapper);
-  macros.setMacroValue("PROPS-LINK-LIST", lists_.getPropsList(wrapper));
-  macros.setMacroValue("METHODS-LINK-LIST", lists_.getMethodsList(wrapper));
-  macros.setMacroValue("EVENTS-LINK-LIST", lists_.getEventsList(wrapper));
+ModuleLists Links::moduleLists(TopicId module) {
+  const Wrapper& wrapper = wrapperOf(wrappers_, module);
+  return {lists_.getPropsList(wrapper), lists_.getMethodsList(wrapper),
+          lists_.getEventsList(wrapper)};
 }
 
 }  // namespace tamrikon

@@ -35,9 +35,9 @@ class Links final : public LinkResolver {
   // What the list macros ask; the context is compiledWrapper.
   LinkTarget parseLink(std::string_view link) override;
   LinkTarget topicOf(std::string_view link) override;
-  NamedLink linkOf(const void* wrapper) override;
+  NamedLink linkOf(TopicId id) override;
   std::string pageInWork() override;
-  void setModuleLists(const LinkTarget& target, MacroTable& macros) override;
+  ModuleLists moduleLists(TopicId module) override;
 
  private:
   static LinkTarget targetOf(const Wrapper* wrapper);

@@ -10,6 +10,7 @@
 #include "model/module_source.h"
 #include "model/wrapper_kind.h"
 #include "settings/project_settings.h"
+#include "template/topic_id.h"
 
 namespace tamrikon {
 
@@ -25,10 +26,11 @@ class Wrapper {
   const KindTraits& traits() const { return traitsOf(kind_, source_.type()); }
   std::string_view className() const { return traits().className; }
 
-  int helpID = 0;            // number of the topic; 0 until set
-  bool hadComment = false;   // the source has a structured comment for it
-  bool needsModule = false;  // the name isn't unique: labels must add the module's name
-  CommentList comment;       // null until it is fetched; wrappers with one comment share the list
+  TopicId id = TopicId::none;  // its number in the model that it belongs to
+  int helpID = 0;              // number of the topic; 0 until set
+  bool hadComment = false;     // the source has a structured comment for it
+  bool needsModule = false;    // the name isn't unique: labels must add the module's name
+  CommentList comment;         // null until it is fetched; wrappers with one comment share the list
 
   /// The wrapper whose topic serves this one: itself, unless comments were joined. Null until the
   /// comments are resolved.

@@ -1,6 +1,8 @@
 // The wrappers of a compile: all of them, and those of each kind, each under its link.
 #pragma once
 
+#include <vector>
+
 #include "base/keyed_list.h"
 #include "model/wrapper.h"
 
@@ -26,10 +28,17 @@ struct WrapperCollections {
   WrapperList variables;
   WrapperList constants;
 
-  /// Adds it to `all` and to the list of its kind. A link that is there already stays as it is.
+  /// Those in any of the lists, each at the place of its id.
+  std::vector<Wrapper*> byId;
+
+  /// Adds it to `all` and to the list of its kind, with an id. A link that is in a list already
+  /// stays there as it is: it can be in `all` for a member of another kind.
   void add(const WrapperRef& wrapper) {
-    listOf(wrapper->kind()).add(wrapper, wrapper->link());
-    all.add(wrapper, wrapper->link());
+    const bool isNewOfKind = listOf(wrapper->kind()).add(wrapper, wrapper->link());
+    const bool isNew = all.add(wrapper, wrapper->link());
+    if (!isNewOfKind && !isNew) return;
+    byId.push_back(wrapper.get());
+    wrapper->id = static_cast<TopicId>(byId.size());
   }
 
   void clear() { *this = WrapperCollections(); }
@@ -48,6 +57,11 @@ struct WrapperCollections {
     return modules;
   }
 };
+
+/// The wrapper of that number, which isn't none.
+inline Wrapper& wrapperOf(const WrapperCollections& wrappers, TopicId id) {
+  return *wrappers.byId[static_cast<std::size_t>(id) - 1];
+}
 
 /// The wrapper under `link`, or null.
 inline Wrapper* findWrapper(const WrapperList& list, std::string_view link) {

@@ -61,8 +61,8 @@ class Expansion {
 
  public:
   /// `table` is handed to the link resolver. Both must outlive this object.
-  Expansion(ExpansionState& state, MacroTable& table, const ExpansionBudget& budget = {})
-      : state_(state), table_(table), budget_(budget) {
+  explicit Expansion(ExpansionState& state, const ExpansionBudget& budget = {})
+      : state_(state), budget_(budget) {
     state_.slots.beginUse();
     frames_.swap(state_.spareFrames);
     lists_.swap(state_.spareLists);
@@ -111,7 +111,6 @@ class Expansion {
   void nextListItem();
 
   ExpansionState& state_;
-  MacroTable& table_;
   ExpansionBudget budget_;
   std::string_view outermost_ = "REPLACE-TABLE";  // whose expansion this is
   std::string result_;

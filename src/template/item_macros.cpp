@@ -32,7 +32,10 @@ ItemMacros::ItemMacros(MacroSlots& slots)
       location(*slots.intern("LIST-ITEM-LOCATION").slot),
       file(*slots.intern("LIST-ITEM-FILE").slot),
       folder(*slots.intern("LIST-ITEM-FOLDER").slot),
-      helpId(*slots.intern("LIST-ITEM-HELPID").slot) {}
+      helpId(*slots.intern("LIST-ITEM-HELPID").slot),
+      properties(*slots.intern("PROPS-LINK-LIST").slot),
+      methods(*slots.intern("METHODS-LINK-LIST").slot),
+      events(*slots.intern("EVENTS-LINK-LIST").slot) {}
 
 ListWalk::ListWalk(std::string_view name, std::shared_ptr<const MacroList> list)
     : form_(formOf(name)), list_(std::move(list)) {}
@@ -50,15 +53,14 @@ std::size_t ListWalk::nextLength() const {
   return links_[done_].reference.size() + links_[done_].label.size();
 }
 
-bool ListWalk::setNextItem(MacroSlots& slots, const ItemMacros& macros, LinkResolver* resolver,
-                           MacroTable& table) {
+bool ListWalk::setNextItem(MacroSlots& slots, const ItemMacros& macros, LinkResolver* resolver) {
   if (done_ == std::numeric_limits<std::int16_t>::max()) return false;
   const std::size_t item = done_++;
   slots.setText(macros.first, item == 0 ? "1" : "");
   slots.setText(macros.last, isAtEnd() ? "1" : "");
   slots.setNumber(macros.number, static_cast<int>(done_));
   if (!isSorted()) return setFields(list_->texts[item], slots, macros);
-  setLink(links_[item], slots, macros, resolver, table);
+  setLink(links_[item], slots, macros, resolver);
   return true;
 }
 
@@ -78,11 +80,11 @@ bool ListWalk::setFields(std::string_view item, MacroSlots& slots, const ItemMac
 }
 
 void ListWalk::setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros& macros,
-                       LinkResolver* resolver, MacroTable& table) const {
+                       LinkResolver* resolver) const {
   const LinkTarget& target = item.target;
   const bool isFile = isFileReference(item.reference);
   // A link that leads nowhere is warned of here once more, at its place in the order of the walk.
-  const bool isDead = !isFile && target.wrapper == nullptr && !item.isOfProgram;
+  const bool isDead = !isFile && target.id == TopicId::none && !item.isOfProgram;
   if (isDead && resolver != nullptr) resolver->parseLink(item.reference);
   // What a link leads to is no text, and may stand where the template wants no call's result.
   const std::string_view file = isFile ? target.member : std::string_view();
@@ -96,8 +98,11 @@ void ListWalk::setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros
   if (form_ == Form::project && folderEnd != std::string_view::npos) {
     slots.setText(macros.folder, target.member.substr(0, folderEnd), TextOrigin::project);
   }
-  if (form_ == Form::moduleLink && target.wrapper != nullptr) {
-    resolver->setModuleLists(target, table);
+  if (form_ == Form::moduleLink && target.id != TopicId::none) {
+    ModuleLists lists = resolver->moduleLists(target.id);
+    slots.setList(macros.properties, std::move(lists.properties));
+    slots.setList(macros.methods, std::move(lists.methods));
+    slots.setList(macros.events, std::move(lists.events));
   }
 }
 

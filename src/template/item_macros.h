@@ -27,6 +27,9 @@ struct ItemMacros {
   MacroSlot& file;
   MacroSlot& folder;
   MacroSlot& helpId;
+  MacroSlot& properties;
+  MacroSlot& methods;
+  MacroSlot& events;
 };
 
 /// A list on its walk through a DOLIST. How its items read depends on the list's name.
@@ -46,8 +49,7 @@ class ListWalk {
 
   /// Sets the macros of the next item. False if the item lacks a CR or its number doesn't fit
   /// into 16 bits; some of the macros are set then.
-  bool setNextItem(MacroSlots& slots, const ItemMacros& macros, LinkResolver* resolver,
-                   MacroTable& table);
+  bool setNextItem(MacroSlots& slots, const ItemMacros& macros, LinkResolver* resolver);
 
  private:
   enum class Form { set, param, link, moduleLink, project };
@@ -55,7 +57,7 @@ class ListWalk {
 
   bool setFields(std::string_view item, MacroSlots& slots, const ItemMacros& macros) const;
   void setLink(const LinkItem& item, MacroSlots& slots, const ItemMacros& macros,
-               LinkResolver* resolver, MacroTable& table) const;
+               LinkResolver* resolver) const;
 
   /// Whose words the texts of the list are.
   TextOrigin origin() const {

@@ -68,7 +68,7 @@ bool LinkItems::addText(std::string_view text, LinkResolver* resolver) {
 
 void LinkItems::addTopic(const TopicItem& topic, LinkResolver* resolver) {
   NamedLink link;
-  if (resolver != nullptr && topic.wrapper != nullptr) link = resolver->linkOf(topic.wrapper);
+  if (resolver != nullptr && topic.id != TopicId::none) link = resolver->linkOf(topic.id);
   items_.push_back({link.link, link.target, link.name, true});
   if (topic.hasLabel) {
     addTail(link.needsModule ? link.module : std::string_view(), topic.word);

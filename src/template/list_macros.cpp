@@ -143,7 +143,7 @@ void Expansion::nextListItem() {
   if (goesOn && !budget_.takeCalls(1, list.bodyEnd - list.bodyStart + list.walk.nextLength())) {
     endAt("DOLIST");
   }
-  if (goesOn && !list.walk.setNextItem(state_.slots, state_.items, state_.resolver, table_)) {
+  if (goesOn && !list.walk.setNextItem(state_.slots, state_.items, state_.resolver)) {
     result_.resize(list.resultStart);
     goesOn = false;
   }

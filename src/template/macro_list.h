@@ -6,13 +6,14 @@
 #include <string_view>
 #include <vector>
 
+#include "template/topic_id.h"
+
 namespace tamrikon {
 
 /// An item that names its topic itself. The template sees it as an item with a link and, if it has
 /// a label, the name of the topic, with its module where the name alone is ambiguous, and `word`.
 struct TopicItem {
-  /// As in LinkTarget; null for a thing without a topic, which causes no warning.
-  const void* wrapper;
+  TopicId id;  // none: it has no topic, which causes no warning
   bool hasLabel = false;
   std::string_view word = {};  // lives as long as the program
 };

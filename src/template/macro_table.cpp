@@ -114,7 +114,7 @@ std::string MacroTable::evaluateMacro(std::string_view macroName, bool isNestedE
   const MacroName* name = memory_->state.slots.find(macroName);
   if (name == nullptr) return asUnknown(macroName);
   if (name->slot->holds == MacroSlot::Holds::list) return std::string(macroName);
-  std::string result = Expansion(memory_->state, *this, memory_->budget).evaluate(*name);
+  std::string result = Expansion(memory_->state, memory_->budget).evaluate(*name);
   if (!isNestedEvaluation) undoubleDollars(result);
   return result;
 }
@@ -169,7 +169,7 @@ bool MacroTable::isReadOnlyMacro(std::string_view name) {
 }
 
 std::vector<std::string> MacroTable::parseReplaceMacro(std::string_view macro) {
-  Expansion expansion(memory_->state, *this, memory_->budget);
+  Expansion expansion(memory_->state, memory_->budget);
   std::vector<std::string> words;
   for (const std::string_view word : split(macro, ' ')) {
     words.push_back(expansion.expandText(word));

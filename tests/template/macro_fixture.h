@@ -35,23 +35,24 @@ struct FakeLinks : LinkResolver {
     const LinkTarget* target = find(std::string(link));
     return target == nullptr ? LinkTarget() : *target;
   }
-  NamedLink linkOf(const void* wrapper) override {
-    const auto& [link, target] = *static_cast<const decltype(targets)::value_type*>(wrapper);
+  NamedLink linkOf(TopicId id) override {
+    const auto& [link, target] = *byId[static_cast<std::size_t>(id) - 1];
     const std::string_view name = target.member.empty() ? target.module : target.member;
     return {link, name, target.module, target.needsModule, topicOf(link)};
   }
-  void setModuleLists(const LinkTarget& target, MacroTable& macros) override {
-    macros.setMacroValue(
-        "METHODS-LINK-LIST",
-        std::make_shared<MacroList>(MacroList{{std::string(target.module) + ".Run\rRun"}}));
+  ModuleLists moduleLists(TopicId id) override {
+    const std::string module(byId[static_cast<std::size_t>(id) - 1]->second.module);
+    return {{}, std::make_shared<MacroList>(MacroList{{module + ".Run\rRun"}}), {}};
   }
 
   void add(const std::string& link, int helpId, bool needsModule = false) {
-    auto& [key, target] = *targets.try_emplace(link).first;
+    const auto added = targets.try_emplace(link).first;
+    byId.push_back(&*added);
+    auto& [key, target] = *added;
     const std::string_view name = key;
     const std::size_t dot = name.find('.');
     const std::string_view member = dot == std::string_view::npos ? "" : name.substr(dot + 1);
-    target = {this, member, name.substr(0, dot), needsModule, helpId};
+    target = {TopicId(byId.size()), member, name.substr(0, dot), needsModule, helpId};
   }
   const LinkTarget* find(const std::string& link) {
     const auto found = targets.find(link);
@@ -62,6 +63,7 @@ struct FakeLinks : LinkResolver {
 
   MessageLog& log;
   std::map<std::string, LinkTarget> targets;
+  std::vector<const std::pair<const std::string, LinkTarget>*> byId;
   std::map<std::string, std::string> aliases;
 };
 

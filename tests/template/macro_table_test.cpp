@@ -89,7 +89,7 @@ TEST(Expansion, EndsWhereItsBudgetIsUsedUp) {
                         std::make_shared<MacroList>(MacroList{{"x\r", "y\r"}}));
     std::string message;
     try {
-      Expansion(state, macros.table, budget).evaluate(*state.slots.find("A"));
+      Expansion(state, budget).evaluate(*state.slots.find("A"));
     } catch (const BudgetUsedUp& usedUp) {
       message = usedUp.what();
     }
