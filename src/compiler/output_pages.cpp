@@ -19,7 +19,42 @@ constexpr std::size_t kMaxGrowth = 1000;
 // Topics that are appended one by one take a compile a fifth more time.
 constexpr std::size_t kEnoughToAppend = std::size_t{1} << 16;
 
+constexpr std::string_view kMemberExtension = "MEMBER-EXT";
+constexpr std::string_view kProjectBody = "tamrik-project-body";
+
 }  // namespace
+
+/// A page of the group or the project.
+struct OutputPages::Page {
+  enum class Of { group, project, projectTitle };
+
+  std::string_view progress;
+  std::string_view extension;  // a macro; empty: as the page before
+  std::string_view section;
+  Of of = Of::project;
+  Write write = Write::replace;
+};
+
+const OutputPages::Page OutputPages::kFiles[] = {
+    {"group's project file...", "PROJECT-EXT", "tamrik-group-project-body", Page::Of::group},
+    {"group's contents...", "CONTENTS-EXT", "tamrik-group-contents-body", Page::Of::group},
+    {"project file...", "PROJECT-EXT", kProjectBody},
+    {"contents...", "CONTENTS-EXT", "tamrik-contents-body"},
+    {"index...", "INDEX-EXT", "tamrik-index-body"},
+    {"title page...", kMemberExtension, "tamrik-title-body", Page::Of::projectTitle},
+};
+
+// With a group, all goes on with the extension of the group's project file.
+const OutputPages::Page OutputPages::kBeforeTopics[] = {
+    {"group's project file...", "PROJECT-EXT", "tamrik-group-project-body", Page::Of::group},
+    {"group's contents...", "", "tamrik-group-contents-body", Page::Of::group, Write::append},
+    {"project file...", "", kProjectBody},
+    {"title page...", "", "tamrik-title-body", Page::Of::project, Write::append},
+    {"contents...", "", "tamrik-contents-body", Page::Of::project, Write::append},
+};
+
+const OutputPages::Page OutputPages::kIndex = {"index...", "", "tamrik-index-body",
+                                               Page::Of::project, Write::append};
 
 OutputPages::OutputPages(CompileContext& context)
     : compile_(context),
@@ -45,11 +80,11 @@ void OutputPages::put(Write write, std::string_view name, std::string_view exten
 }
 
 /// Each project of a group writes its pages anew: they take the place of no others.
-void OutputPages::putGroupPage(Write write, std::string_view extension, std::string_view section) {
+void OutputPages::putGroupPage(Write write, std::string_view extension, std::string_view text) {
   const std::string& above = run_.groupFolders.above;
   const std::string& folder = above.empty() ? settings_.outputPath : above;
   const std::string path = joinPath(withoutTrailingSeparator(folder), "Group+").append(extension);
-  if (!writePage(write, path, store_.evaluateMacro(section))) return;
+  if (!writePage(write, path, text)) return;
   if (write == Write::append) {
     run_.writtenFiles.append();
   } else {
@@ -67,25 +102,20 @@ bool OutputPages::writePage(Write write, const std::string& path, std::string_vi
   return compile_.files.writeTextFile(path, text, false) == 0;
 }
 
-void OutputPages::putPage(std::string_view progress, std::string_view extensionMacro,
-                          std::string_view section, const std::string& name) {
-  show(progress);
-  const std::string extension = store_.evaluateMacro(extensionMacro);
-  if (section == "tamrik-project-body") setProjectName();
-  put(Write::replace, name, extension, store_.evaluateMacro(section));
-}
-
-void OutputPages::setProjectName() {
-  store_.macros().setProjectText("PROJECT-NAME", projectName_);
-}
-
-bool OutputPages::groupPages() {
-  if (!run_.compileWholeGroup) return true;
-  show("group's project file...");
-  putGroupPage(Write::replace, store_.evaluateMacro("PROJECT-EXT"), "tamrik-group-project-body");
-  if (!compile_.checkpoint()) return false;
-  show("group's contents...");
-  putGroupPage(Write::replace, store_.evaluateMacro("CONTENTS-EXT"), "tamrik-group-contents-body");
+/// Writes the page, whose extension becomes `extension`. False if the compile is to end.
+bool OutputPages::putPage(const Page& page, std::string& extension) {
+  if (page.of == Page::Of::group && !run_.compileWholeGroup) return true;
+  store_.log().ShowProgress(page.progress, "");
+  if (!page.extension.empty()) extension = store_.evaluateMacro(page.extension);
+  if (page.section == kProjectBody) {
+    store_.macros().setProjectText("PROJECT-NAME", projectName_);
+  }
+  const std::string text = store_.evaluateMacro(page.section);
+  switch (page.of) {
+    case Page::Of::group: putGroupPage(page.write, extension, text); break;
+    case Page::Of::project: put(page.write, projectName_, extension, text); break;
+    case Page::Of::projectTitle: put(page.write, projectName_ + "+title", extension, text); break;
+  }
   return compile_.checkpoint();
 }
 
@@ -96,15 +126,10 @@ void OutputPages::compileFiles() {
 /// Nothing holds the folder any more when the closing steps begin.
 bool OutputPages::putFiles() {
   const auto folder = compile_.files.files().keepOpen(settings_.outputPath);
-  if (!groupPages()) return false;
-  putPage("project file...", "PROJECT-EXT", "tamrik-project-body", projectName_);
-  if (!compile_.checkpoint()) return false;
-  putPage("contents...", "CONTENTS-EXT", "tamrik-contents-body", projectName_);
-  if (!compile_.checkpoint()) return false;
-  putPage("index...", "INDEX-EXT", "tamrik-index-body", projectName_);
-  if (!compile_.checkpoint()) return false;
-  putPage("title page...", "MEMBER-EXT", "tamrik-title-body", projectName_ + "+title");
-  if (!compile_.checkpoint()) return false;
+  std::string extension;
+  for (const Page& page : kFiles) {
+    if (!putPage(page, extension)) return false;
+  }
   return putTopics();
 }
 
@@ -126,7 +151,7 @@ std::string OutputPages::topicOf(Wrapper& wrapper) {
 }
 
 bool OutputPages::putTopics() {
-  const std::string extension = store_.evaluateMacro("MEMBER-EXT");
+  const std::string extension = store_.evaluateMacro(kMemberExtension);
   for (const WrapperRef& wrapper : store_.compiledList()) {
     if (!compile_.checkpoint()) return false;
     store_.model().links.compiledWrapper = wrapper.get();
@@ -145,7 +170,7 @@ bool OutputPages::putTopics() {
 }
 
 void OutputPages::closingSteps() {
-  show("external programs...");
+  store_.log().ShowProgress("external programs...", "");
   // Expanded in any case: what the section does to counters and the log mustn't depend on a switch.
   const std::string commands = store_.evaluateMacro("tamrik-exec-after");
   if (run_.runsPrograms) {
@@ -159,37 +184,13 @@ void OutputPages::closingSteps() {
   }
 }
 
-bool OutputPages::appendGroupPages(std::string& extension) {
-  if (!run_.compileWholeGroup) return true;
-  show("group's project file...");
-  extension = store_.evaluateMacro("PROJECT-EXT");
-  putGroupPage(Write::replace, extension, "tamrik-group-project-body");
-  if (!compile_.checkpoint()) return false;
-  show("group's contents...");
-  putGroupPage(Write::append, extension, "tamrik-group-contents-body");
-  return compile_.checkpoint();
-}
-
 void OutputPages::compileSingleFile() {
-  std::string extension = store_.evaluateMacro("MEMBER-EXT");
-  if (!appendGroupPages(extension)) return;
-  show("project file...");
-  setProjectName();
-  put(Write::replace, projectName_, extension, store_.evaluateMacro("tamrik-project-body"));
-  if (!compile_.checkpoint()) return;
-  show("title page...");
-  put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-title-body"));
-  if (!compile_.checkpoint()) return;
-  show("contents...");
-  makeContents(store_.compiledList(), store_.macros());
-  put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-contents-body"));
-  if (!compile_.checkpoint()) return;
+  std::string extension = store_.evaluateMacro(kMemberExtension);
+  for (const Page& page : kBeforeTopics) {
+    if (!putPage(page, extension)) return;
+  }
   if (!appendTopics(extension)) return;
-  show("index...");
-  store_.macros().setMacroValue("INDEX-LINK-LIST", LinkLists::makeLinkList(store_.compiledList()));
-  put(Write::append, projectName_, extension, store_.evaluateMacro("tamrik-index-body"));
-  if (!compile_.checkpoint()) return;
-  closingSteps();
+  if (putPage(kIndex, extension)) closingSteps();
 }
 
 bool OutputPages::appendTopics(const std::string& extension) {

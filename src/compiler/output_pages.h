@@ -25,23 +25,23 @@ class OutputPages {
  private:
   enum class Write { replace, append };
 
-  void show(std::string_view name) { store_.log().ShowProgress(name, ""); }
+  struct Page;
+  static const Page kFiles[6];
+  static const Page kBeforeTopics[5];
+  static const Page kIndex;
+
   /// In the folder of the project's pages.
   void put(Write write, std::string_view name, std::string_view extension, std::string_view text);
-  void putGroupPage(Write write, std::string_view extension, std::string_view section);
+  void putGroupPage(Write write, std::string_view extension, std::string_view text);
   bool writePage(Write write, const std::string& path, std::string_view text);
-  void putPage(std::string_view progress, std::string_view extensionMacro, std::string_view section,
-               const std::string& name);
+  bool putPage(const Page& page, std::string& extension);
   bool putFiles();
-  bool groupPages();
   bool putTopics();
-  void setProjectName();
   void closingSteps();
 
   std::string topicOf(Wrapper& wrapper);
   bool wantsTopic(const Wrapper& wrapper) const;
 
-  bool appendGroupPages(std::string& extension);
   bool appendTopics(const std::string& extension);
   void addTopic(Wrapper& wrapper, std::string& text);
 
