@@ -43,6 +43,11 @@ bool isAscii(std::string_view text) {
                      [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
+std::string_view withoutUtf8Mark(std::string_view bytes) {
+  if (bytes.starts_with(kUtf8Mark)) bytes.remove_prefix(kUtf8Mark.size());
+  return bytes;
+}
+
 bool isValidUtf8(std::string_view bytes) {
   for (std::size_t offset = 0; offset < bytes.size();) {
     const std::size_t length = sequenceLength(bytes, offset);

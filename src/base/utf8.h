@@ -7,6 +7,12 @@
 
 namespace tamrikon {
 
+/// The byte order mark that some programs write before a text.
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+/// `bytes` without the mark that they may begin with.
+std::string_view withoutUtf8Mark(std::string_view bytes);
+
 /// Whether `bytes` are well-formed UTF-8 as a whole (RFC 3629: no surrogates, no overlong forms).
 bool isValidUtf8(std::string_view bytes);
 

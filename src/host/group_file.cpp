@@ -2,20 +2,11 @@
 
 #include "base/line_reader.h"
 #include "base/paths.h"
+#include "base/utf8.h"
 #include "host/project_file.h"
 #include "vb/scanning.h"
 
 namespace tamrikon {
-namespace {
-
-std::string_view withoutMark(std::string_view bytes) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  if (bytes.starts_with(kMark)) bytes.remove_prefix(kMark.size());
-  return bytes;
-}
-
-}  // namespace
-
 bool isGroupFile(std::string_view path, std::string_view bytes) {
   const std::string_view name = lastName(path);
   const std::size_t dot = name.rfind('.');
@@ -24,13 +15,13 @@ bool isGroupFile(std::string_view path, std::string_view bytes) {
 }
 
 bool beginsAsGroup(std::string_view bytes) {
-  bytes = withoutMark(bytes);
+  bytes = withoutUtf8Mark(bytes);
   return isKeyword(takeWord(bytes), "vbgroup");
 }
 
 std::vector<GroupLine> readGroupFile(std::string_view bytes) {
   std::vector<GroupLine> projects;
-  for (LineReader reader(withoutMark(bytes)); reader.next();) {
+  for (LineReader reader(withoutUtf8Mark(bytes)); reader.next();) {
     const std::size_t equals = reader.line().find('=');
     if (equals == std::string_view::npos) continue;
     const std::string_view key = trimBlanks(reader.line().substr(0, equals));

@@ -18,7 +18,6 @@
 namespace tamrikon {
 namespace {
 
-constexpr int kUtf8 = 65001;
 constexpr int kGroupCodePage = 1252;
 
 constexpr const char* kNoProject = " isn't a Visual Basic project: it has no line \"Type=\"";
@@ -105,9 +104,9 @@ class HostIde::Opening {
 
   void addGroup(const std::string& path, std::string_view bytes) {
     const std::string folder(folderOf(path));
-    const int number = isValidUtf8(bytes) ? kUtf8 : kGroupCodePage;
+    const int number = isValidUtf8(bytes) ? kUtf8CodePage : kGroupCodePage;
     const CodePage* page = CodePage::find(number);
-    if (number != kUtf8 && codePage_ != nullptr) page = codePage_;
+    if (number != kUtf8CodePage && codePage_ != nullptr) page = codePage_;
     std::set<std::string> opened;
     for (const GroupLine& line : readGroupFile(bytes)) {
       const FoundPath found = findInCodePages(lookup_, folder, line.path, codePage_);

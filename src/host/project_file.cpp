@@ -29,13 +29,6 @@ constexpr ComponentKey kComponentKeys[] = {
     {"relateddoc", ComponentType::relatedDocument, false},
 };
 
-constexpr std::string_view kMark = "\xEF\xBB\xBF";
-
-/// The offset behind a byte order mark.
-std::size_t startOf(std::string_view bytes) {
-  return bytes.starts_with(kMark) ? kMark.size() : 0;
-}
-
 /// Whether the line begins with "KEY=", without blanks before it.
 bool beginsWithKey(std::string_view line, std::string_view key) {
   if (!beginsWith(line, key)) return false;
@@ -52,12 +45,12 @@ std::string_view withoutQuotes(std::string_view text) {
 }
 
 ProjectFile::ProjectFile(std::string bytes) : bytes_(std::move(bytes)) {
-  isUtf8_ = bytes_.starts_with(kMark) || (!isAscii(bytes_) && isValidUtf8(bytes_));
+  isUtf8_ = bytes_.starts_with(kUtf8Mark) || (!isAscii(bytes_) && isValidUtf8(bytes_));
   readLines();
 }
 
 bool ProjectFile::isProject(std::string_view bytes) {
-  LineReader reader(bytes, startOf(bytes));
+  LineReader reader(withoutUtf8Mark(bytes));
   bool isFirst = true;
   for (; reader.next(); isFirst = false) {
     std::string_view line = reader.line();
@@ -71,7 +64,7 @@ bool ProjectFile::isProject(std::string_view bytes) {
 // No double-byte page uses "=", ";", quotes or blanks as second bytes, so lines can be divided
 // before they are decoded. Paths can't: the second byte of a character may be a backslash.
 void ProjectFile::readLines() {
-  const std::size_t start = startOf(bytes_);
+  const std::size_t start = bytes_.size() - withoutUtf8Mark(bytes_).size();
   insertionOffset_ = start;
   LineReader reader(bytes_, start);
   while (reader.next()) {
@@ -105,7 +98,7 @@ void ProjectFile::readLine(std::string_view key, std::string_view value) {
 }
 
 void ProjectFile::setCodePage(const CodePage& page) {
-  page_ = isUtf8_ ? CodePage::find(65001) : &page;
+  page_ = isUtf8_ ? CodePage::find(kUtf8CodePage) : &page;
   if (helpFileValue_) helpFile_ = text(withoutQuotes(*helpFileValue_));
 }
 
@@ -131,7 +124,7 @@ std::optional<std::string> ProjectFile::bytes(LackingCharacter& lacking) const {
   const std::string_view lineEnd = textOf(firstLineEnd(bytes_));
   if (!helpFileValue_) {
     const bool isLineStart =
-        result.empty() || result == kMark || result.ends_with('\n') || result.ends_with('\r');
+        result.empty() || result == kUtf8Mark || result.ends_with('\n') || result.ends_with('\r');
     if (!isLineStart) result += lineEnd;
     result += "HelpFile=";
   }

@@ -14,14 +14,13 @@ struct PageName {
   std::string_view webName;
 };
 
-constexpr int kUtf8 = 65001;
-
 // Names of the WHATWG Encoding Standard.
 constexpr PageName kPages[] = {
-    {874, "windows-874"},   {932, "shift_jis"},     {936, "gbk"},           {949, "euc-kr"},
-    {950, "big5"},          {1250, "windows-1250"}, {1251, "windows-1251"}, {1252, "windows-1252"},
-    {1253, "windows-1253"}, {1254, "windows-1254"}, {1255, "windows-1255"}, {1256, "windows-1256"},
-    {1257, "windows-1257"}, {1258, "windows-1258"}, {kUtf8, "utf-8"},
+    {874, "windows-874"},   {932, "shift_jis"},     {936, "gbk"},
+    {949, "euc-kr"},        {950, "big5"},          {1250, "windows-1250"},
+    {1251, "windows-1251"}, {1252, "windows-1252"}, {1253, "windows-1253"},
+    {1254, "windows-1254"}, {1255, "windows-1255"}, {1256, "windows-1256"},
+    {1257, "windows-1257"}, {1258, "windows-1258"}, {kUtf8CodePage, "utf-8"},
 };
 
 /// Whether the pair is there for reading alone, as Windows writes its character as a later pair.
@@ -72,7 +71,7 @@ std::string_view CodePage::webName() const {
 CodePage::CodePage(int number)
     : number_(number),
       isDoubleByte_(number == 932 || number == 936 || number == 949 || number == 950) {
-  if (number_ != kUtf8) fillTables();
+  if (number_ != kUtf8CodePage) fillTables();
 }
 
 void CodePage::fillTables() {
@@ -112,7 +111,7 @@ void CodePage::fillTables() {
 }
 
 std::string CodePage::decode(std::string_view bytes) const {
-  if (number_ == kUtf8 && isValidUtf8(bytes)) return std::string(bytes);
+  if (number_ == kUtf8CodePage && isValidUtf8(bytes)) return std::string(bytes);
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 8);
   for (std::size_t offset = 0; offset < bytes.size();) {
@@ -124,7 +123,7 @@ std::string CodePage::decode(std::string_view bytes) const {
 
 void CodePage::appendDecoded(std::string& text, std::string_view bytes, std::size_t& offset) const {
   const unsigned lead = byteAt(bytes, offset);
-  if (number_ == kUtf8) {
+  if (number_ == kUtf8CodePage) {
     const std::size_t start = offset;
     appendCodePoint(text, readCodePoint(bytes, offset));
     if (offset - start > 1) return;
@@ -165,7 +164,7 @@ bool CodePage::appendEncoded(std::string& bytes, std::string_view text, std::siz
 }
 
 std::string CodePage::encode(std::string_view text) const {
-  if (number_ == kUtf8) return std::string(text);
+  if (number_ == kUtf8CodePage) return std::string(text);
   std::string bytes;
   bytes.reserve(text.size());
   for (std::size_t offset = 0; offset < text.size();) {
@@ -177,7 +176,7 @@ std::string CodePage::encode(std::string_view text) const {
 
 std::optional<std::string> CodePage::encodeExactly(std::string_view text,
                                                    std::size_t& lacking) const {
-  if (number_ == kUtf8) return std::string(text);
+  if (number_ == kUtf8CodePage) return std::string(text);
   std::string bytes;
   bytes.reserve(text.size());
   for (std::size_t offset = 0; offset < text.size();) {

@@ -12,6 +12,8 @@
 
 namespace tamrikon {
 
+constexpr int kUtf8CodePage = 65001;
+
 /// One of the Windows code pages 1250 to 1258, 874, 932, 936, 949, 950, or 65001 (UTF-8).
 ///
 /// A byte that the page leaves undefined (in a double-byte page also a lead byte without its second

@@ -1,5 +1,6 @@
 #include "base/paths.h"
 #include "base/text.h"
+#include "platform/code_page.h"
 #include "platform/command_script.h"
 
 namespace tamrikon {
@@ -27,7 +28,7 @@ std::vector<std::string> CommandScript::commandLine(const std::string& interpret
 
 // File names are UTF-8 on these systems, whatever the project's own page is.
 int CommandScript::codePage(int) {
-  return 65001;
+  return kUtf8CodePage;
 }
 
 std::string CommandScript::header(int, const std::string& templates) {

@@ -5,12 +5,12 @@
 
 #include "base/case_folding.h"
 #include "base/text.h"
+#include "base/utf8.h"
 
 namespace tamrikon {
 namespace {
 
 constexpr std::string_view kHeader = "Windows Registry Editor Version 5.00";
-constexpr std::string_view kMark = "\xEF\xBB\xBF";
 constexpr std::string_view kRoot = "HKEY_CURRENT_USER\\";
 constexpr std::string_view kNumber = "dword:";
 constexpr std::string_view kBytes = "hex";
@@ -134,8 +134,7 @@ RegistryText::RegistryText() : lines_{std::string(kHeader), ""} {}
 
 std::optional<RegistryText> RegistryText::parse(std::string_view bytes) {
   if (bytes.find('\0') != std::string_view::npos) return std::nullopt;
-  std::string_view text = bytes;
-  if (text.starts_with(kMark)) text.remove_prefix(kMark.size());
+  const std::string_view text = withoutUtf8Mark(bytes);
   if (content(text.substr(0, text.find('\n'))) != kHeader) return std::nullopt;
   RegistryText result;
   result.lines_.clear();

@@ -5,11 +5,10 @@
 namespace tamrikon {
 
 DecodedText decodeText(std::string_view bytes, const CodePage& page) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
   DecodedText result;
-  if (bytes.starts_with(kMark)) {
+  if (bytes.starts_with(kUtf8Mark)) {
     result.encoding = TextEncoding::utf8WithMark;
-    result.text = CodePage::find(65001)->decode(bytes.substr(kMark.size()));
+    result.text = CodePage::find(kUtf8CodePage)->decode(withoutUtf8Mark(bytes));
   } else if (isAscii(bytes)) {
     result.text = bytes;
   } else if (isValidUtf8(bytes)) {

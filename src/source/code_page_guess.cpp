@@ -12,11 +12,9 @@
 namespace tamrikon {
 namespace {
 
-constexpr int kUtf8 = 65001;
-
 // A file found in one of the Latin pages tells little: any bytes are letters there.
-constexpr int kPathOrder[] = {kUtf8, 1252, 1250, 1251, 1253, 1254, 1255, 1256,
-                              1257,  1258, 874,  932,  936,  949,  950};
+constexpr int kPathOrder[] = {kUtf8CodePage, 1252, 1250, 1251, 1253, 1254, 1255, 1256,
+                              1257,          1258, 874,  932,  936,  949,  950};
 constexpr int kTellingPages[] = {1251, 1253, 1255, 1256, 874, 932, 936, 949, 950};
 
 // Pages whose scripts stand in runs of high bytes, while accented letters stand alone.
@@ -59,8 +57,7 @@ void countCharsetLine(std::string_view line, CodePageEvidence& evidence) {
 
 CodePageEvidence readCodePageEvidence(std::string_view bytes) {
   CodePageEvidence evidence;
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  if (bytes.starts_with(kMark)) bytes.remove_prefix(kMark.size());
+  bytes = withoutUtf8Mark(bytes);
   const SourceHead head = readSourceHead(bytes);
   for (LineReader reader(bytes.substr(0, head.attributesStart)); reader.next();) {
     countCharsetLine(reader.line(), evidence);
@@ -85,7 +82,7 @@ FoundPath findInCodePages(PathLookup& lookup, std::string_view folder, std::stri
     if (!found.empty()) return {std::move(found), preferred};
   }
   for (const int number : kPathOrder) {
-    if (number == kUtf8 && !isValidUtf8(path)) continue;
+    if (number == kUtf8CodePage && !isValidUtf8(path)) continue;
     const CodePage* page = CodePage::find(number);
     std::string found = findIn(*page);
     if (!found.empty()) return {std::move(found), page};

@@ -14,7 +14,7 @@ SourceWriter::SourceWriter(const SourceFormat& format, std::string_view raw,
   while (reader.next()) rawLines_.push_back(reader.line());
   rawLines_.push_back({});
   bytes_.reserve(expectedSize);
-  if (format.encoding == TextEncoding::utf8WithMark) bytes_ = "\xEF\xBB\xBF";
+  if (format.encoding == TextEncoding::utf8WithMark) bytes_ = kUtf8Mark;
 }
 
 bool SourceWriter::add(std::string_view text, std::uint32_t origin, LineEnd end) {
