@@ -134,10 +134,8 @@ bool OutputPages::putFiles() {
 }
 
 bool OutputPages::wantsTopic(const Wrapper& wrapper) const {
-  if (wrapper.kind() != WrapperKind::module) return true;
-  const ComponentType type = wrapper.source().type();
-  if (isStandardModule(type)) return settings_.comStdModule;
-  return isForm(type) ? settings_.comForm : settings_.comObject;
+  return wrapper.kind() != WrapperKind::module ||
+         settings_.wantsModule(moduleKindOf(wrapper.source().type()));
 }
 
 /// Tells whose topic has no end.

@@ -24,11 +24,6 @@ std::vector<WrapperRef> sortWrappersByLabel(const std::vector<WrapperRef>& wrapp
   return sorted;
 }
 
-std::size_t groupOf(ComponentType type) {
-  if (isStandardModule(type)) return 2;
-  return isForm(type) ? 0 : 1;
-}
-
 /// Where a topic stands in the stretch of its module.
 std::size_t groupOf(WrapperKind kind) {
   switch (kind) {
@@ -60,7 +55,7 @@ Stretches stretchesOf(const std::vector<WrapperRef>& sorted) {
     if (wrapper->kind() == WrapperKind::module) modules.push_back(wrapper.get());
   }
   std::stable_sort(modules.begin(), modules.end(), [](const Wrapper* a, const Wrapper* b) {
-    return groupOf(a->source().type()) < groupOf(b->source().type());
+    return moduleKindOf(a->source().type()) < moduleKindOf(b->source().type());
   });
   Stretches stretches;
   for (const Wrapper* module : modules) stretches.emplace(&module->cmo(), stretches.size());

@@ -16,17 +16,8 @@ namespace {
 using Names = SourceCodeParser::Names;
 
 bool isClass(const VBComponent& component) {
-  switch (component.Type()) {
-    case ComponentType::classModule:
-    case ComponentType::designerForm:
-    case ComponentType::form:
-    case ComponentType::mdiForm:
-    case ComponentType::propertyPage:
-    case ComponentType::userControl:
-    case ComponentType::userDocument:
-    case ComponentType::designer: return component.CodeModule() != nullptr;
-    default: return false;
-  }
+  return hasCode(component.Type()) && !isStandardModule(component.Type()) &&
+         component.CodeModule() != nullptr;
 }
 
 std::vector<CodeModule*> projectClasses(const VBE& ide) {

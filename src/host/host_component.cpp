@@ -8,10 +8,6 @@
 
 namespace tamrikon {
 
-bool hasCode(ComponentType type) {
-  return type != ComponentType::resourceFile && type != ComponentType::relatedDocument;
-}
-
 HostComponent::HostComponent(HostProject& project, ComponentType type, const std::string& name,
                              ComponentFile file, const ConditionalConstants& constants)
     : project_(project),

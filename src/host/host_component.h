@@ -13,9 +13,6 @@ namespace tamrikon {
 
 class HostProject;
 
-/// Whether components of the type hold code; the others are files for the compiler or for people.
-bool hasCode(ComponentType type);
-
 /// Where a component is kept.
 struct ComponentFile {
   std::string path;        // absolute; of a missing file, the one at which it was looked for first

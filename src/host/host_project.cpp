@@ -6,15 +6,6 @@
 #include "vb/names.h"
 
 namespace tamrikon {
-namespace {
-
-/// Whether the component's file holds the fonts of controls.
-bool hasControls(ComponentType type) {
-  return type == ComponentType::form || type == ComponentType::userControl ||
-         type == ComponentType::propertyPage || type == ComponentType::userDocument;
-}
-
-}  // namespace
 
 Diagnostic unreadableFile(const std::string& path, std::string_view why) {
   Diagnostic fault{Diagnostic::About::project, Severity::warning, "unreadable-file",

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "ide/command_bars.h"
+#include "ide/component_kind.h"
 #include "ide/events.h"
 #include "ide/windows.h"
 #include "vb/declaration_kinds.h"
@@ -118,20 +119,6 @@ class CodeModule {
 
   /// Whether these three would work. Most properties lack a kind, and failures are slow.
   virtual bool HasProc(const std::string& name, ProcKind kind) const = 0;
-};
-
-enum class ComponentType {
-  standardModule = 1,
-  classModule = 2,
-  designerForm = 3,
-  resourceFile = 4,
-  form = 5,
-  mdiForm = 6,
-  propertyPage = 7,
-  userControl = 8,
-  userDocument = 9,
-  relatedDocument = 10,
-  designer = 11,
 };
 
 class VBComponent {

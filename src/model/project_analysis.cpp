@@ -13,11 +13,6 @@ bool ProjectAnalysis::wantsScope(Scope scope) const {
   return settings_.comPublic;
 }
 
-bool ProjectAnalysis::wantsModule(ComponentType type) const {
-  if (isStandardModule(type)) return settings_.comStdModule;
-  return isForm(type) ? settings_.comForm : settings_.comObject;
-}
-
 void ProjectAnalysis::analyseProject(const std::function<bool()>& goOn) {
   const bool anyModuleKind = settings_.comStdModule || settings_.comObject || settings_.comForm;
   for (CodeModule* module : settings_.comModules) {
@@ -37,7 +32,9 @@ void ProjectAnalysis::analyseModule(ModuleSource& source) {
   wrapper->hadComment = !wrapper->comment->empty();
   // The number is used up whether or not the module is then documented.
   comments_.takeHelpId(*wrapper);
-  if (wantsModule(source.type()) && comments_.prepareComment(*wrapper)) wrappers_.add(wrapper);
+  if (settings_.wantsModule(moduleKindOf(source.type())) && comments_.prepareComment(*wrapper)) {
+    wrappers_.add(wrapper);
+  }
 }
 
 void ProjectAnalysis::analyseMember(ModuleSource& source, Member& member) {

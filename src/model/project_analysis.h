@@ -29,7 +29,6 @@ class ProjectAnalysis {
   void analysePublicVariable(ModuleSource& source, Wrapper& variable, Member& member);
   void addDocumented(const WrapperRef& wrapper);
   bool wantsScope(Scope scope) const;
-  bool wantsModule(ComponentType type) const;
 
   const ProjectSettings& settings_;
   SourceCache& sources_;

@@ -84,15 +84,6 @@ bool isProperty(WrapperKind kind) {
          kind == WrapperKind::propSet;
 }
 
-bool isForm(ComponentType type) {
-  return type == ComponentType::designerForm || type == ComponentType::form ||
-         type == ComponentType::mdiForm;
-}
-
-bool isStandardModule(ComponentType type) {
-  return type == ComponentType::standardModule;
-}
-
 const KindTraits& traitsOf(WrapperKind kind, ComponentType type) {
   switch (kind) {
     case WrapperKind::method: return isStandardModule(type) ? kFunction : kMethod;
@@ -104,8 +95,12 @@ const KindTraits& traitsOf(WrapperKind kind, ComponentType type) {
     case WrapperKind::constant: return kConstant;
     case WrapperKind::module: break;
   }
-  if (isStandardModule(type)) return kStdModule;
-  return isForm(type) ? kForm : kObject;
+  switch (moduleKindOf(type)) {
+    case ModuleKind::standardModule: return kStdModule;
+    case ModuleKind::form: return kForm;
+    case ModuleKind::object: break;
+  }
+  return kObject;
 }
 
 }  // namespace tamrikon

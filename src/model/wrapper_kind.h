@@ -24,7 +24,5 @@ struct KindTraits {
 const KindTraits& traitsOf(WrapperKind kind, ComponentType type);
 
 bool isProperty(WrapperKind kind);
-bool isForm(ComponentType type);
-bool isStandardModule(ComponentType type);
 
 }  // namespace tamrikon

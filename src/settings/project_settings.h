@@ -60,6 +60,16 @@ struct ProjectSettings {
   std::string templatePath;  // the full path
 
   KeyedList<CodeModule*> comModules;  // the modules to document, by name
+
+  /// Whether a module of that kind gets a page.
+  bool wantsModule(ModuleKind kind) const {
+    switch (kind) {
+      case ModuleKind::standardModule: return comStdModule;
+      case ModuleKind::form: return comForm;
+      case ModuleKind::object: break;
+    }
+    return comObject;
+  }
 };
 
 }  // namespace tamrikon

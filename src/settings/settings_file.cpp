@@ -16,10 +16,6 @@ namespace {
 constexpr std::string_view kModulesKey = "comModules";
 constexpr std::string_view kLeftOutMark = "#left out: ";
 
-bool holdsCode(ComponentType type) {
-  return type != ComponentType::resourceFile && type != ComponentType::relatedDocument;
-}
-
 std::string fieldText(const SettingField& field) {
   if (const auto* flag = std::get_if<bool*>(&field.value)) {
     return std::string(settingFromBool(**flag));
@@ -46,7 +42,7 @@ KeyedList<CodeModule*> SettingsFile::codeModules(VBE& ide) {
   const VBComponents& components = ide.ActiveVBProject().VBComponents();
   for (int number = 1; number <= components.Count(); ++number) {
     const VBComponent& component = components.Item(number);
-    if (!holdsCode(component.Type())) continue;
+    if (!hasCode(component.Type())) continue;
     CodeModule* module = component.CodeModule();
     if (module != nullptr) modules.add(module, module->Name());
   }
