@@ -7,9 +7,7 @@
 namespace tamrikon {
 
 /// The differences with three lines of context, below a head that names the file; empty if there
-/// are none. Lines end in LF: a CR before it belongs to the line, as all bytes do. Lines that were
-/// only added, or only taken away, are found as such; where lines were exchanged, more of them may
-/// be shown than need be.
+/// are none. Lines end in LF: a CR before it belongs to the line, as all bytes do.
 std::string unifiedDiff(std::string_view path, std::string_view before, std::string_view after);
 
 }  // namespace tamrikon

@@ -1,14 +1,11 @@
 #include "source/line_matching.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 #include "vb/scanning.h"
 
 namespace tamrikon {
 namespace {
-
-using Lines = std::span<const std::string_view>;
 
 /// How many characters two texts have in common at their starts or their ends.
 std::size_t likeness(std::string_view a, std::string_view b) {
@@ -19,7 +16,7 @@ std::size_t likeness(std::string_view a, std::string_view b) {
 
 /// `line` has been divided into `parts` (at least one): the one that goes on as that line. What
 /// follows its beginning, such as a comment, may be longer than that is.
-std::size_t partThatGoesOn(std::string_view line, Lines parts) {
+std::size_t partThatGoesOn(std::string_view line, LineSpan parts) {
   line = trimBlanks(line);
   std::size_t best = 0;
   std::size_t most = 0;
@@ -40,33 +37,24 @@ bool endsLike(std::string_view line, std::string_view old) {
   return !line.empty() && !old.empty() && line.back() == old.back();
 }
 
+std::vector<std::string_view> trimmed(LineSpan lines) {
+  std::vector<std::string_view> result(lines.size());
+  std::transform(lines.begin(), lines.end(), result.begin(), trimBlanks);
+  return result;
+}
+
 class Pairing {
  public:
-  Pairing(Lines old, Lines now)
+  Pairing(LineSpan old, LineSpan now)
       : old_(old), now_(now), successors_(old.size(), kGone), isTaken_(now.size()) {}
 
   void pairLinesThatAreOnce() {
-    struct Found {
-      std::size_t old = 0;
-      std::size_t now = 0;
-      std::size_t oldCount = 0;
-      std::size_t nowCount = 0;
-    };
-    std::unordered_map<std::string_view, Found> found;
-    for (std::size_t i = 0; i < old_.size(); ++i) {
-      Found& entry = found[trimBlanks(old_[i])];
-      entry.old = i;
-      ++entry.oldCount;
-    }
-    for (std::size_t i = 0; i < now_.size(); ++i) {
-      Found& entry = found[trimBlanks(now_[i])];
-      entry.now = i;
-      ++entry.nowCount;
-    }
-    for (const auto& [text, entry] : found) {
-      if (text.empty() || entry.oldCount != 1 || entry.nowCount != 1) continue;
-      successors_[entry.old] = entry.now;
-      isTaken_[entry.now] = true;
+    const std::vector<std::string_view> old = trimmed(old_);
+    const std::vector<std::string_view> now = trimmed(now_);
+    for (const LinePair& pair : linesFoundOnce(old, now)) {
+      if (old[pair.oldLine].empty()) continue;
+      successors_[pair.oldLine] = pair.newLine;
+      isTaken_[pair.newLine] = true;
     }
   }
 
@@ -91,22 +79,22 @@ class Pairing {
     for (std::size_t i = 0; i < pairs; ++i) successors_[oldStart + i] = start + i;
     const std::size_t last = oldEnd - 1;
     if (successors_[last] != kGone) {
-      const Lines parts = now_.subspan(successors_[last], end - successors_[last]);
+      const LineSpan parts = now_.subspan(successors_[last], end - successors_[last]);
       successors_[last] += partThatGoesOn(old_[last], parts);
     } else if (endsLike(now_[end - 1], old_[last])) {
       successors_[last] = end - 1;
     }
   }
 
-  Lines old_;
-  Lines now_;
+  LineSpan old_;
+  LineSpan now_;
   std::vector<std::size_t> successors_;
   std::vector<bool> isTaken_;
 };
 
 }  // namespace
 
-LineMatch matchLines(Lines old, Lines now) {
+LineMatch matchLines(LineSpan old, LineSpan now) {
   LineMatch match;
   const std::size_t most = std::min(old.size(), now.size());
   while (match.prefix < most && old[match.prefix] == now[match.prefix]) ++match.prefix;
@@ -118,7 +106,7 @@ LineMatch matchLines(Lines old, Lines now) {
   return match;
 }
 
-std::vector<std::size_t> successorsOf(Lines old, Lines now) {
+std::vector<std::size_t> successorsOf(LineSpan old, LineSpan now) {
   Pairing pairing(old, now);
   pairing.pairLinesThatAreOnce();
   pairing.pairLinesBetween();
